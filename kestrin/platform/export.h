@@ -1,0 +1,15 @@
+#pragma once
+
+/// @file
+/// Marks what the shared library shows to its hosts; everything else stays inside.
+#if defined(_WIN32)
+#if defined(KESTRIN_BUILDING_SHARED)
+#define KESTRIN_EXPORT __declspec(dllexport)
+#elif defined(KESTRIN_USING_SHARED)
+#define KESTRIN_EXPORT __declspec(dllimport)
+#else
+#define KESTRIN_EXPORT
+#endif
+#else
+#define KESTRIN_EXPORT [[gnu::visibility("default")]]
+#endif

@@ -1,0 +1,35 @@
+#pragma once
+
+/// @file
+/// The root of the framework's classes.
+
+#include "kestrin/platform/export.h"
+
+namespace kestrin {
+
+class CArchive;
+class CDumpContext;
+
+/// What a run-time class query answers.
+struct CRuntimeClass {
+  const char* m_lpszClassName;
+};
+
+/// Base of the framework's arrays and windows; not copyable unless a derived class says so.
+class KESTRIN_EXPORT CObject {
+ public:
+  virtual CRuntimeClass* GetRuntimeClass() const;
+  virtual ~CObject();
+  /// Writes the object to an archive or reads it from one; this one has nothing to write.
+  virtual void Serialize(CArchive& archive);
+  virtual void AssertValid() const;
+  virtual void Dump(CDumpContext& context) const;
+
+  CObject& operator=(const CObject&) = delete;
+
+ protected:
+  CObject() = default;
+  CObject(const CObject&) = delete;
+};
+
+}  // namespace kestrin

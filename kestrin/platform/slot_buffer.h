@@ -1,0 +1,66 @@
+#pragma once
+
+/// @file
+/// The memory behind a framework array.
+
+#include <algorithm>
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <limits>
+#include <memory>
+#include <new>
+#include <type_traits>
+
+namespace kestrin {
+
+/// The growth step of an array without one of its own.
+inline constexpr std::int64_t kSmallestStep = 4;
+inline constexpr std::int64_t kGreatestStep = 1024;
+
+/// How many slots are really allocated behind a capacity. An array's capacity grows in steps of at most 1,024
+/// slots; moving the slots at every such step would cost quadratic time, so beyond the size where the steps
+/// stop growing the memory comes in eighths of a power of two, and most steps find theirs already there.
+[[nodiscard]] constexpr std::int64_t AllocatedSlots(std::int64_t capacity) {
+  if (capacity <= 8 * kGreatestStep) return capacity;
+  const auto granule = static_cast<std::int64_t>(std::bit_floor(static_cast<std::uint64_t>(capacity)) / 8);
+  return capacity > std::numeric_limits<std::int64_t>::max() - granule
+             ? capacity
+             : (capacity + granule - 1) / granule * granule;
+}
+
+// NOLINTBEGIN(cppcoreguidelines-owning-memory,bugprone-sizeof-expression): here slots are raw memory, that of
+// pointers is the size of pointers, and realloc is what grows in place.
+
+/// Moves the first used slots to memory for another number of slots and returns it; in place where the
+/// allocator can. Raises std::bad_alloc, and then nothing has moved.
+template <class T>
+[[nodiscard]] T* ReallocateSlots(T* slots, std::int64_t used, std::int64_t count) {
+  static_assert(alignof(T) <= alignof(std::max_align_t));
+  if (static_cast<std::uint64_t>(count) > std::numeric_limits<std::size_t>::max() / 2 / sizeof(T)) {
+    throw std::bad_alloc();
+  }
+  const std::size_t bytes = static_cast<std::size_t>(count) * sizeof(T);
+  constexpr bool kMoveAsBytes = std::is_trivially_copyable_v<T>;
+  void* memory = kMoveAsBytes ? std::realloc(static_cast<void*>(slots), bytes) : std::malloc(bytes);
+  if (memory == nullptr) throw std::bad_alloc();
+  if constexpr (!kMoveAsBytes) {
+    static_assert(std::is_nothrow_move_constructible_v<T>);
+    std::uninitialized_move_n(slots, used, static_cast<T*>(memory));
+    std::destroy_n(slots, used);
+    std::free(static_cast<void*>(slots));
+  }
+  return static_cast<T*>(memory);
+}
+
+/// Destroys the used slots and frees the memory.
+template <class T>
+void FreeSlots(T* slots, std::int64_t used) noexcept {
+  std::destroy_n(slots, used);
+  std::free(static_cast<void*>(slots));
+}
+
+// NOLINTEND(cppcoreguidelines-owning-memory,bugprone-sizeof-expression)
+
+}  // namespace kestrin

@@ -1,0 +1,156 @@
+#include "kestrin/platform/string.h"
+
+#include <algorithm>
+#include <cstdarg>
+#include <cstdio>
+#include <limits>
+#include <utility>
+
+#include "kestrin/platform/characters.h"
+#include "kestrin/platform/exceptions.h"
+
+namespace kestrin {
+namespace {
+
+constexpr char kWhiteSpace[] = " \t\n\v\f\r";
+
+std::string_view Text(const char* text) { return text == nullptr ? std::string_view() : text; }
+
+int Index(std::size_t position) {
+  constexpr std::size_t kLimit = std::numeric_limits<int>::max();
+  return position == std::string_view::npos ? -1 : static_cast<int>(std::min(position, kLimit));
+}
+
+std::size_t AtLeastZero(int value) { return value < 0 ? 0 : static_cast<std::size_t>(value); }
+
+}  // namespace
+
+int CString::GetLength() const noexcept { return Index(text_.size()); }
+
+char CString::GetAt(int index) const {
+  if (index < 0 || static_cast<std::size_t>(index) > text_.size()) AfxThrowInvalidArgException();
+  return text_.c_str()[index];
+}
+
+CString& CString::operator+=(char c) {
+  text_ += c;
+  return *this;
+}
+
+CString& CString::operator+=(const char* text) {
+  text_ += Text(text);
+  return *this;
+}
+
+CString& CString::operator+=(const CString& text) {
+  text_ += text.text_;
+  return *this;
+}
+
+int CString::Compare(const char* text) const noexcept { return View().compare(Text(text)); }
+
+int CString::Find(char c, int start) const noexcept { return Index(text_.find(c, AtLeastZero(start))); }
+
+int CString::Find(const char* text, int start) const noexcept {
+  return Index(text_.find(Text(text), AtLeastZero(start)));
+}
+
+int CString::ReverseFind(char c) const noexcept { return Index(text_.rfind(c)); }
+
+CString CString::Left(int count) const { return View().substr(0, AtLeastZero(count)); }
+
+CString CString::Right(int count) const {
+  return View().substr(text_.size() - std::min(AtLeastZero(count), text_.size()));
+}
+
+CString CString::Mid(int first) const { return View().substr(std::min(AtLeastZero(first), text_.size())); }
+
+CString CString::Mid(int first, int count) const {
+  return View().substr(std::min(AtLeastZero(first), text_.size()), AtLeastZero(count));
+}
+
+int CString::Replace(const char* oldText, const char* newText) {
+  const std::string_view from = Text(oldText);
+  if (from.empty()) return 0;
+  const std::string_view source = text_;
+  std::string result;
+  int replacements = 0;
+  std::size_t position = 0;
+  for (std::size_t hit; (hit = source.find(from, position)) != std::string_view::npos; ++replacements) {
+    result.append(source, position, hit - position).append(Text(newText));
+    position = hit + from.size();
+  }
+  if (replacements == 0) return 0;
+  text_ = std::move(result.append(source, position));
+  return replacements;
+}
+
+int CString::Remove(char c) { return static_cast<int>(std::erase(text_, c)); }
+
+int CString::Delete(int index, int count) {
+  const std::size_t first = AtLeastZero(index);
+  if (first < text_.size()) text_.erase(first, AtLeastZero(count));
+  return GetLength();
+}
+
+CString& CString::TrimLeft() { return TrimLeft(kWhiteSpace); }
+
+CString& CString::TrimRight() { return TrimRight(kWhiteSpace); }
+
+CString& CString::TrimLeft(const char* characters) {
+  text_.erase(0, std::min(text_.find_first_not_of(Text(characters)), text_.size()));
+  return *this;
+}
+
+CString& CString::TrimRight(const char* characters) {
+  text_.resize(text_.find_last_not_of(Text(characters)) + 1);  // npos + 1 is 0
+  return *this;
+}
+
+CString& CString::MakeUpper() noexcept {
+  for (char& c : text_) c = ToUpper(c);
+  return *this;
+}
+
+CString& CString::MakeLower() noexcept {
+  for (char& c : text_) c = ToLower(c);
+  return *this;
+}
+
+CString CString::Tokenize(const char* delimiters, int& start) const {
+  if (start < 0) AfxThrowInvalidArgException();
+  const std::size_t first = text_.find_first_not_of(Text(delimiters), static_cast<std::size_t>(start));
+  if (first == std::string::npos) {
+    start = -1;
+    return {};
+  }
+  const std::size_t end = std::min(text_.find_first_of(Text(delimiters), first), text_.size());
+  start = Index(end + 1);
+  return View().substr(first, end - first);
+}
+
+void CString::Format(const char* format, ...) {
+  std::va_list arguments;
+  va_start(arguments, format);
+  std::va_list again;
+  va_copy(again, arguments);
+  const int length = std::vsnprintf(nullptr, 0, format, arguments);
+  va_end(arguments);
+  std::string result(AtLeastZero(length), '\0');
+  if (length > 0) std::vsnprintf(result.data(), result.size() + 1, format, again);
+  va_end(again);
+  text_ = std::move(result);
+}
+
+char* CString::GetBuffer(int minimumLength) {
+  text_.resize(std::max(AtLeastZero(minimumLength), text_.size()));
+  return text_.data();
+}
+
+void CString::ReleaseBuffer(int newLength) {
+  if (newLength == -1) newLength = Index(std::min(text_.find('\0'), text_.size()));
+  if (newLength < 0 || static_cast<std::size_t>(newLength) > text_.size()) AfxThrowInvalidArgException();
+  text_.resize(static_cast<std::size_t>(newLength));
+}
+
+}  // namespace kestrin

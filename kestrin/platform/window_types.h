@@ -1,0 +1,43 @@
+#pragma once
+
+/// @file
+/// The windowing system's types and numbers, as far as an import and its host need them.
+
+#include <cstdint>
+
+namespace kestrin {
+
+using BOOL = int;
+using UINT = unsigned;
+using WPARAM = std::uintptr_t;
+using LPARAM = std::intptr_t;
+using LRESULT = std::intptr_t;
+
+inline constexpr BOOL FALSE = 0;
+inline constexpr BOOL TRUE = 1;
+
+class WindowHandle;
+/// Names a window. A handle is never used twice; one whose window is gone names nothing.
+using HWND = WindowHandle*;
+
+/// A message that waits in, or was taken from, a thread's queue.
+struct MSG {
+  HWND hwnd;
+  UINT message;
+  WPARAM wParam;
+  LPARAM lParam;
+};
+
+inline constexpr UINT PM_NOREMOVE = 0;
+inline constexpr UINT PM_REMOVE = 1;
+
+/// The first message number that is free for applications.
+inline constexpr UINT WM_USER = 0x400;
+/// Moves a progress bar to the position in wParam.
+inline constexpr UINT PBM_SETPOS = WM_USER + 2;
+
+inline constexpr UINT MB_OK = 0x00;
+inline constexpr UINT MB_ICONWARNING = 0x30;
+inline constexpr int IDOK = 1;
+
+}  // namespace kestrin

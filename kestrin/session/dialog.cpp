@@ -1,0 +1,33 @@
+#include "kestrin/session/dialog.h"
+
+#include "kestrin/platform/messages.h"
+
+namespace kestrin {
+
+void PumpMessages() {
+  MSG message;
+  while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
+    TranslateMessage(&message);
+    DispatchMessageA(&message);
+  }
+}
+
+HWND DialogOf(const CProgressCtrl* bar) { return bar == nullptr ? nullptr : GetParent(bar->GetSafeHwnd()); }
+
+void RefreshDialog(HWND dialog) {
+  if (CWnd* window = CWnd::FromHandle(dialog)) window->UpdateData(FALSE);
+}
+
+ProgressDisplay::ProgressDisplay(const CProgressCtrl* bar, bool disablesBar)
+    : bar_(bar == nullptr ? nullptr : bar->GetSafeHwnd()),
+      dialog_(DialogOf(bar)),
+      disablesBar_(disablesBar) {}
+
+void ProgressDisplay::Show(int percent) {
+  SendMessageA(bar_, PBM_SETPOS, static_cast<WPARAM>(percent), 0);
+  if (CWnd* bar = disablesBar_ ? CWnd::FromHandle(bar_) : nullptr) bar->EnableWindow(FALSE);
+  RefreshDialog(dialog_);
+  lastPercent_ = percent;
+}
+
+}  // namespace kestrin

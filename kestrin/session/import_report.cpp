@@ -1,0 +1,13 @@
+#include "kestrin/session/import_report.h"
+
+namespace kestrin {
+
+void FileReport::KeepSkipped(SkipCode code, std::string_view line) {
+  SkippedLines& skipped = skipped_[static_cast<std::size_t>(code)];
+  ++skipped.count;
+  if (skipped.first.size() < kKeptLines) {
+    skipped.first.push_back({linesRead, std::string(line.substr(0, kKeptBytes))});
+  }
+}
+
+}  // namespace kestrin

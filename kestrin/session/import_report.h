@@ -1,0 +1,91 @@
+#pragma once
+
+/// @file
+/// What became of the lines of an import, as data: an import itself shows and throws nothing because of it.
+
+#include <array>
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "kestrin/platform/export.h"
+#include "kestrin/text/line_outcome.h"
+
+namespace kestrin {
+
+/// The files of an export set, in the order in which they are read.
+enum class ImportFile : std::uint8_t { kTech, kNeutral, kGeometry, kTraces };
+inline constexpr std::size_t kImportFileCount = 4;
+
+/// How far the reading of a file came.
+enum class ReadingEnd : std::uint8_t {
+  kNotRead,    ///< its reader did not run
+  kNotOpened,  ///< the file could not be opened
+  kStopped,    ///< an exception ended the reading at the last line read
+  kComplete,   ///< the whole file was read
+};
+
+/// A line that a reader skipped.
+struct SkippedLine {
+  std::int64_t number = 0;  ///< counted from 1
+  std::string text;         ///< its beginning, up to FileReport::kKeptBytes
+};
+
+/// The skipped lines of one code: all are counted, the first are kept.
+struct SkippedLines {
+  std::int64_t count = 0;
+  std::vector<SkippedLine> first;  ///< up to FileReport::kKeptLines, in file order
+};
+
+/// What became of the lines of one file. Every line read is imported, ignored or skipped; only the line at
+/// which an exception stopped the reading is none of these.
+class KESTRIN_EXPORT FileReport {
+ public:
+  static constexpr std::size_t kKeptLines = 100;
+  static constexpr std::size_t kKeptBytes = 200;
+
+  FileReport() = default;
+  explicit FileReport(std::string_view filePath) : path(filePath) {}
+
+  [[nodiscard]] std::int64_t Imported() const { return CountOf(LineOutcome::Kind::kImported); }
+  [[nodiscard]] std::int64_t Ignored() const { return CountOf(LineOutcome::Kind::kIgnored); }
+  [[nodiscard]] std::int64_t Skipped() const { return CountOf(LineOutcome::Kind::kSkipped); }
+  [[nodiscard]] const SkippedLines& Skipped(SkipCode code) const {
+    return skipped_[static_cast<std::size_t>(code)];
+  }
+
+  /// Counts the line that was read last.
+  void Count(LineOutcome outcome, std::string_view line) {
+    ++counts_[static_cast<std::size_t>(outcome.GetKind())];
+    if (outcome.GetKind() == LineOutcome::Kind::kSkipped) KeepSkipped(outcome.Code(), line);
+  }
+
+  std::string path;
+  ReadingEnd end = ReadingEnd::kNotRead;
+  std::int64_t linesRead = 0;
+  std::chrono::nanoseconds duration{};  ///< of the whole reading, progress and messages included
+
+ private:
+  [[nodiscard]] std::int64_t CountOf(LineOutcome::Kind kind) const {
+    return counts_[static_cast<std::size_t>(kind)];
+  }
+  void KeepSkipped(SkipCode code, std::string_view line);
+
+  std::array<std::int64_t, 3> counts_{};  // by LineOutcome::Kind
+  std::array<SkippedLines, kSkipCodes.size()> skipped_;
+};
+
+/// The reports of a session's files; each reading of a file replaces the report of the one before.
+class ImportReport {
+ public:
+  [[nodiscard]] const FileReport& Of(ImportFile file) const { return files_[static_cast<std::size_t>(file)]; }
+  [[nodiscard]] FileReport& Of(ImportFile file) { return files_[static_cast<std::size_t>(file)]; }
+
+ private:
+  std::array<FileReport, kImportFileCount> files_;
+};
+
+}  // namespace kestrin

@@ -1,0 +1,107 @@
+#include "kestrin/session/import_session.h"
+
+#include "kestrin/platform/message_box.h"
+#include "kestrin/session/dialog.h"
+#include "kestrin/session/line_count.h"
+#include "kestrin/session/reader_loop.h"
+#include "kestrin/tech/tech_model.h"
+#include "kestrin/tech/tech_reader.h"
+
+namespace kestrin {
+
+CPC_KESTRIN_GET::CPC_KESTRIN_GET() = default;
+CPC_KESTRIN_GET::CPC_KESTRIN_GET(const CPC_KESTRIN_GET&) = default;
+CPC_KESTRIN_GET& CPC_KESTRIN_GET::operator=(const CPC_KESTRIN_GET&) = default;
+
+CPC_KESTRIN_GET::~CPC_KESTRIN_GET() {
+  m_pGeom = nullptr;
+  m_pComps = nullptr;
+  m_pNetList = nullptr;
+  m_pTraces = nullptr;
+  m_pTech = nullptr;
+}
+
+void CPC_KESTRIN_GET::vSetTechFilePath(CString path) { m_sTechFilePath = path; }
+void CPC_KESTRIN_GET::vSetNeutralFilePath(CString path) { m_sNeutralFilePath = path; }
+void CPC_KESTRIN_GET::vSetGeomFilePath(CString path) { m_sGeomFilePath = path; }
+void CPC_KESTRIN_GET::vSetTraceFilePath(CString path) { m_sTraceFilePath = path; }
+
+void CPC_KESTRIN_GET::SetProgressPtr(CProgressCtrl* geomProgress, CProgressCtrl* neutralProgress,
+                                     CProgressCtrl* traceProgress, CProgressCtrl* techProgress) {
+  m_pGeomProgress = geomProgress;
+  m_pNeutralProgress = neutralProgress;
+  m_pTraceProgress = traceProgress;
+  m_pTechProgress = techProgress;
+}
+
+void CPC_KESTRIN_GET::vParse() {
+  if (!HasMandatoryPaths()) return;
+  RefreshHost();
+  ReadFile(m_sTechFilePath, "Parsing Tech File", &CPC_KESTRIN_GET::TechFileParse);
+  ReadFile(m_sNeutralFilePath, "Parsing Neutral File", &CPC_KESTRIN_GET::NeutralFileParse);
+  ReadFile(m_sGeomFilePath, "Parsing Geometry File", &CPC_KESTRIN_GET::GeomFileParse);
+  ReadFile(m_sTraceFilePath, "Parsing Trace File", &CPC_KESTRIN_GET::TraceFileParse);
+}
+
+bool CPC_KESTRIN_GET::HasMandatoryPaths() const {
+  struct MandatoryPath {
+    const CString& path;
+    const char* warning;
+  };
+  const MandatoryPath paths[] = {
+      {m_sGeomFilePath, "No definition for Geom file path"},
+      {m_sNeutralFilePath, "No definition for Neutral file path"},
+      {m_sTraceFilePath, "No definition for Traces file path"},
+  };
+  for (const MandatoryPath& mandatory : paths) {
+    if (!mandatory.path.IsEmpty()) continue;
+    MessageBoxA(nullptr, mandatory.warning, "WARNING", MB_OK | MB_ICONWARNING);
+    return false;
+  }
+  return true;
+}
+
+/// Lets the host work off its messages and repaint its dialog before the import keeps the thread busy.
+void CPC_KESTRIN_GET::RefreshHost() const {
+  for (const CProgressCtrl* bar : {m_pTechProgress, m_pNeutralProgress, m_pGeomProgress, m_pTraceProgress}) {
+    if (bar == nullptr) continue;
+    const HWND dialog = DialogOf(bar);
+    if (dialog == nullptr) return;
+    PumpMessages();
+    RefreshDialog(dialog);
+    return;
+  }
+}
+
+void CPC_KESTRIN_GET::ReadFile(const CString& path, const char* status,
+                               void (CPC_KESTRIN_GET::*read)(CString)) {
+  if (path.IsEmpty()) return;
+  if (m_pStatusWnd != nullptr) m_pStatusWnd->SetWindowTextA(status);
+  (this->*read)(path);
+}
+
+void CPC_KESTRIN_GET::TechFileParse(CString path) {
+  const auto tech = Shared<CMTech>::Make();
+  m_pTech = tech;
+  TechReader reader(*tech);
+  ReadLines({.path = path, .bar = m_pTechProgress, .disablesBar = true}, reader,
+            report_.Of(ImportFile::kTech));
+}
+
+void CPC_KESTRIN_GET::NeutralFileParse(CString /*path*/) {}
+
+void CPC_KESTRIN_GET::GeomFileParse(CString /*path*/) {}
+
+void CPC_KESTRIN_GET::TraceFileParse(CString /*path*/) {}
+
+CMTech* CPC_KESTRIN_GET::GetTech() const { return m_pTech; }
+CMComps* CPC_KESTRIN_GET::GetComps() const { return m_pComps; }
+CMNetList* CPC_KESTRIN_GET::GetNetList() const { return m_pNetList; }
+CMGeom* CPC_KESTRIN_GET::GetGeom() const { return m_pGeom; }
+CMTraces* CPC_KESTRIN_GET::GetTraces() const { return m_pTraces; }
+
+CString CPC_KESTRIN_GET::sGetErrorMsg() const { return m_sErrorMsg; }
+
+int CPC_KESTRIN_GET::nGetFileLineCount(CString path) const { return CountLines(path); }
+
+}  // namespace kestrin

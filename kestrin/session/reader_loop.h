@@ -1,0 +1,58 @@
+#pragma once
+
+/// @file
+/// The loop that feeds a file's lines to a reader: the one place that knows files, progress and messages.
+
+#include <chrono>
+
+#include "kestrin/platform/stdio_file.h"
+#include "kestrin/platform/string.h"
+#include "kestrin/session/dialog.h"
+#include "kestrin/session/import_report.h"
+#include "kestrin/session/line_count.h"
+
+namespace kestrin {
+
+/// How a reader's file is read.
+struct Reading {
+  CString path;
+  const CProgressCtrl* bar = nullptr;
+  bool pumpsMessages = false;  // before each line is interpreted, also without a bar
+  bool disablesBar = false;    // after each move
+};
+
+/// Adds the time until it goes to a duration.
+class Stopwatch {
+ public:
+  explicit Stopwatch(std::chrono::nanoseconds& elapsed) : elapsed_(elapsed) {}
+  Stopwatch(const Stopwatch&) = delete;
+  Stopwatch& operator=(const Stopwatch&) = delete;
+  ~Stopwatch() { elapsed_ += std::chrono::steady_clock::now() - start_; }
+
+ private:
+  std::chrono::nanoseconds& elapsed_;
+  std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+};
+
+/// Feeds every line of a file to the reader and reports what became of it. A file that cannot be opened has
+/// no lines. Exceptions of the reader, of the file and of the host's windows pass through.
+template <class READER>
+void ReadLines(const Reading& reading, READER& reader, FileReport& report) {
+  report = FileReport(reading.path.View());
+  const Stopwatch stopwatch(report.duration);
+  ProgressDisplay progress(reading.bar, reading.disablesBar);
+  if (progress.IsShown()) progress.SetLineCount(CountLines(reading.path));
+  CStdioFile file;
+  report.end = ReadingEnd::kNotOpened;
+  if (file.Open(reading.path) == 0) return;
+  report.end = ReadingEnd::kStopped;
+  while (const auto line = file.ReadLine()) {
+    ++report.linesRead;
+    if (reading.pumpsMessages) PumpMessages();
+    progress.LineRead(report.linesRead);
+    report.Count(reader.ReadLine(*line), *line);
+  }
+  report.end = ReadingEnd::kComplete;
+}
+
+}  // namespace kestrin

@@ -1,0 +1,85 @@
+#include "kestrin/session/tokenizer.h"
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+
+#include "kestrin/text/fields.h"
+
+namespace kestrin {
+namespace {
+
+/// A character that the string does not hold, to stand for a longer delimiter; empty when it holds them all.
+std::string Placeholder(std::string_view string) {
+  constexpr std::string_view kCandidates = "!@#$%^";
+  const auto* found = std::find_if(kCandidates.begin(), kCandidates.end(),
+                                   [&](char c) { return string.find(c) == std::string_view::npos; });
+  return found == kCandidates.end() ? std::string() : std::string(1, *found);
+}
+
+}  // namespace
+
+CTokenizer::CTokenizer(const CString& string, const CString& delimiters) { Load(string, delimiters); }
+
+void CTokenizer::Load(const CString& string, const CString& delimiters) {
+  m_sString = string;
+  m_nCurPos = 0;
+  m_Delimiters.reset();
+  SetDelimiters(delimiters);
+}
+
+void CTokenizer::SetDelimiters(const CString& delimiters) { AddCharacters(m_Delimiters, delimiters.View()); }
+
+bool CTokenizer::Next(CString& token) {
+  auto position = static_cast<std::size_t>(m_nCurPos);
+  const auto next = NextToken(m_sString.View(), m_Delimiters, position);
+  m_nCurPos = static_cast<int>(position);
+  token = next.value_or(std::string_view());
+  return next.has_value();
+}
+
+CString CTokenizer::Tail() const {
+  auto position = static_cast<std::size_t>(m_nCurPos);
+  const auto next = NextToken(m_sString.View(), m_Delimiters, position);
+  return next ? m_sString.View().substr(position - next->size()) : std::string_view();
+}
+
+void CTokenizer::GetTokenArray(CStringArray& tokens) {
+  auto position = static_cast<std::size_t>(m_nCurPos);
+  while (const auto token = NextToken(m_sString.View(), m_Delimiters, position)) tokens.Add(*token);
+  m_nCurPos = 0;
+}
+
+void CTokenizer::GetTokenArray(CStringArray& tokens, const CString& string, const CString& delimiters) {
+  Load(string, delimiters);
+  GetTokenArray(tokens);
+}
+
+void CTokenizer::GetTokenArrayByFullString(CStringArray& tokens, const CString& string,
+                                           const CString& fullDelimiter) {
+  const CString placeholder = Placeholder(string.View());
+  CString replaced = string;
+  replaced.Replace(fullDelimiter, placeholder);
+  GetTokenArray(tokens, replaced, placeholder);
+}
+
+void CTokenizer::GetStringArrayFromStringToken(CString& string, CStringArray& entries) {
+  CharacterSet space;
+  AddCharacters(space, " ");
+  std::string entry;
+  std::size_t position = 0;
+  while (const auto word = NextToken(string.View(), space, position)) {
+    entry += *word;
+    const std::size_t firstQuote = entry.find('"');
+    const bool open = firstQuote == 0 && entry.rfind('"') == 0;
+    if (open) {
+      entry += ' ';
+      continue;
+    }
+    std::erase(entry, '"');
+    entries.Add(entry);
+    entry.clear();
+  }
+}
+
+}  // namespace kestrin

@@ -1,0 +1,40 @@
+#include "kestrin/tech/tech_model.h"
+
+#include <algorithm>
+
+namespace kestrin {
+namespace {
+
+const CMTechStackUpOrder* FindLayer(const CMTechStackupArray& layers, const CString& name) {
+  const auto* found = std::find_if(layers.begin(), layers.end(), [&](const CMTechStackUpOrder* layer) {
+    return layer != nullptr && layer->m_sPhysicalLayerName == name;
+  });
+  return found == layers.end() ? nullptr : *found;
+}
+
+}  // namespace
+
+CMTechPin::~CMTechPin() = default;
+CMTechStackUpOrder::~CMTechStackUpOrder() = default;
+CMTechVia::~CMTechVia() = default;
+
+CMTech::CMTech()
+    : m_pPinArray(decltype(m_pPinArray)::Make()),
+      m_pStackupArray(decltype(m_pStackupArray)::Make()),
+      m_pViaArray(decltype(m_pViaArray)::Make()) {}
+
+CMTech::CMTech(const CMTech&) = default;
+CMTech& CMTech::operator=(const CMTech&) = default;
+CMTech::~CMTech() = default;
+
+int CMTech::GetPhysicalLayerNumber(CString physicalLayerName) const {
+  const CMTechStackUpOrder* layer = FindLayer(*m_pStackupArray, physicalLayerName);
+  return layer == nullptr ? 0 : layer->m_nPhysicalLayerNumber;
+}
+
+void CMTech::GetLogicalLayerNamesForPhysicalLayerName(CString physicalLayerName, CStringArray& names) const {
+  const CMTechStackUpOrder* layer = FindLayer(*m_pStackupArray, physicalLayerName);
+  if (layer != nullptr) names.Copy(layer->m_arrLogicalLayerNames);
+}
+
+}  // namespace kestrin

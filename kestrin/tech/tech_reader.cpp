@@ -1,0 +1,91 @@
+#include "kestrin/tech/tech_reader.h"
+
+#include <cstdint>
+#include <memory>
+#include <utility>
+
+#include "kestrin/platform/numbers.h"
+#include "kestrin/text/fields.h"
+#include "kestrin/text/trim.h"
+
+namespace kestrin {
+namespace {
+
+bool Contains(std::string_view line, std::string_view keyword) {
+  return line.find(keyword) != std::string_view::npos;
+}
+
+/// What stands between the first opening and the last closing parenthesis: nothing without a closing one, all
+/// before it without an opening one.
+std::string_view ArgumentText(std::string_view line) {
+  line.remove_prefix(line.find('(') + 1);  // npos + 1 is 0
+  const std::size_t close = line.rfind(')');
+  return close == std::string_view::npos ? std::string_view() : line.substr(0, close);
+}
+
+const CharacterSet& Commas() {
+  static const CharacterSet commas = [] {
+    CharacterSet set;
+    AddCharacters(set, ",");
+    return set;
+  }();
+  return commas;
+}
+
+}  // namespace
+
+LineOutcome TechReader::ReadLine(std::string_view line) {
+  struct Command {
+    std::string_view keyword;
+    void (TechReader::*add)(std::string_view line);
+  };
+  static constexpr Command kCommands[] = {
+      // in the order that decides when a line holds several
+      {"$$define_physical_layer", &TechReader::AddLayer},
+      {"$$define_rule_via", &TechReader::AddViaRule},
+  };
+  for (const Command& command : kCommands) {
+    if (!Contains(line, command.keyword)) continue;
+    (this->*command.add)(line);
+    return LineOutcome::Imported();
+  }
+  const std::string_view text = Trimmed(line);
+  return text.empty() || text.front() == '#' ? LineOutcome::Ignored()
+                                             : LineOutcome::Skipped(SkipCode::kUnknownRecord);
+}
+
+void TechReader::AddLayer(std::string_view line) {
+  auto layer = std::make_unique<CMTechStackUpOrder>();
+  ForEachArgument(line, [&](std::int64_t number, std::string_view argument) {
+    switch (number) {
+      case 1: layer->m_nPhysicalLayerNumber = ToInt(argument); break;
+      case 2: layer->m_sPhysicalLayerName = argument; break;
+      default: layer->m_arrLogicalLayerNames.Add(argument); break;
+    }
+  });
+  model_.m_pStackupArray->Append(std::move(layer));
+}
+
+void TechReader::AddViaRule(std::string_view line) {
+  auto via = std::make_unique<CMTechVia>();
+  ForEachArgument(line, [&](std::int64_t number, std::string_view argument) {
+    switch (number) {
+      case 1: via->m_sArg1 = argument; break;
+      case 2: via->m_sArg2 = argument; break;
+      default: via->m_sArgLast = argument; break;
+    }
+  });
+  model_.m_pViaArray->Append(std::move(via));
+}
+
+template <class Visit>
+void TechReader::ForEachArgument(std::string_view line, Visit visit) {
+  // Quotes go before the cut and protect no comma, so that ",\"\"," is one separator.
+  unquoted_ = ArgumentText(line);
+  std::erase(unquoted_, '"');
+  std::int64_t number = 0;
+  std::size_t position = 0;
+  while (const auto argument = NextToken(unquoted_, Commas(), position)) visit(++number, Trimmed(*argument));
+}
+
+}  // namespace kestrin

@@ -1,0 +1,68 @@
+#include "kestrin/text/fields.h"
+
+namespace kestrin {
+namespace {
+
+bool Contains(const CharacterSet& set, char c) { return set[static_cast<unsigned char>(c)]; }
+
+/// The next field between separators, which do not separate between quotes. A field never begins between
+/// quotes, since what separates stands outside them.
+template <class IsQuote>
+std::optional<std::string_view> NextQuotedField(std::string_view line, std::size_t& position, char separator,
+                                                IsQuote isQuote) {
+  while (position < line.size() && line[position] == separator) ++position;
+  if (position >= line.size()) return std::nullopt;
+  const std::size_t start = position;
+  bool quoted = false;
+  for (; position < line.size(); ++position) {
+    if (isQuote(position)) {
+      quoted = !quoted;
+    } else if (line[position] == separator && !quoted) {
+      break;
+    }
+  }
+  return line.substr(start, position - start);
+}
+
+}  // namespace
+
+void AddCharacters(CharacterSet& set, std::string_view characters) {
+  for (const char c : characters) set.set(static_cast<unsigned char>(c));
+}
+
+std::optional<std::string_view> NextToken(std::string_view text, const CharacterSet& delimiters,
+                                          std::size_t& position) {
+  while (position < text.size() && Contains(delimiters, text[position])) ++position;
+  if (position >= text.size()) return std::nullopt;
+  const std::size_t start = position;
+  while (position < text.size() && !Contains(delimiters, text[position])) ++position;
+  return text.substr(start, position - start);
+}
+
+std::optional<std::string_view> NextCommaField(std::string_view line, std::size_t& position) {
+  return NextQuotedField(line, position, ',',
+                         [line](std::size_t i) { return line[i] == '"' && (i == 0 || line[i - 1] != '\\'); });
+}
+
+std::optional<std::string_view> NextSpaceField(std::string_view line, std::size_t& position) {
+  return NextQuotedField(line, position, ' ', [line](std::size_t i) { return line[i] == '\''; });
+}
+
+std::optional<std::string_view> NextPropertyGroup(std::string_view line, std::size_t& position,
+                                                  std::string& scratch) {
+  scratch.clear();
+  bool quoted = false;
+  while (position < line.size()) {
+    const char c = line[position++];
+    if (c == '"') quoted = !quoted;
+    if (c == ' ' && !quoted) continue;
+    scratch += c;
+    if (c != ')' || quoted) continue;
+    if (scratch.front() == '(') return scratch;
+    scratch.clear();
+  }
+  if (scratch.empty()) return std::nullopt;
+  return scratch;
+}
+
+}  // namespace kestrin

@@ -1,0 +1,41 @@
+#pragma once
+
+/// @file
+/// Cuts a line into fields without copying it. Every cut takes the text and a position in it, which it moves
+/// on, and gives the next field as a view into the text, or nothing at the end. No cut ever gives an empty
+/// field.
+
+#include <bitset>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace kestrin {
+
+/// Characters by their unsigned code.
+using CharacterSet = std::bitset<256>;
+
+/// Adds every character of the text to the set.
+void AddCharacters(CharacterSet& set, std::string_view characters);
+
+/// The next run of characters that are not delimiters; the position then stands on the delimiter that ended
+/// it.
+[[nodiscard]] std::optional<std::string_view> NextToken(std::string_view text, const CharacterSet& delimiters,
+                                                        std::size_t& position);
+
+/// The next field between commas. Commas inside double quotes do not separate; a quote directly behind a
+/// backslash neither opens nor closes. Quotes and backslashes stay in the field.
+[[nodiscard]] std::optional<std::string_view> NextCommaField(std::string_view line, std::size_t& position);
+
+/// The next field between spaces (no other white space). Spaces inside apostrophes do not separate; the
+/// apostrophes stay in the field.
+[[nodiscard]] std::optional<std::string_view> NextSpaceField(std::string_view line, std::size_t& position);
+
+/// The next group in parentheses, without the spaces that stand outside double quotes. Text that a closing
+/// parenthesis ends and that does not begin with an opening one is passed over; text behind the last closing
+/// parenthesis is a field whatever it begins with. The field stands in the scratch string.
+[[nodiscard]] std::optional<std::string_view> NextPropertyGroup(std::string_view line, std::size_t& position,
+                                                                std::string& scratch);
+
+}  // namespace kestrin

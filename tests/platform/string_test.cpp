@@ -1,0 +1,92 @@
+#include "kestrin/platform/string.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+
+#include "kestrin/platform/exceptions.h"
+
+namespace kestrin {
+namespace {
+
+TEST(String, GivesBytesUpToAndIncludingTheEnd) {
+  const CString text("ab");
+  EXPECT_EQ(text[1], 'b');
+  EXPECT_EQ(text.GetAt(2), '\0');
+  EXPECT_THROW(static_cast<void>(text[3]), CInvalidArgException);
+  EXPECT_THROW(static_cast<void>(text[-1]), CInvalidArgException);
+  EXPECT_EQ(CString(static_cast<const char*>(nullptr)), "");
+}
+
+TEST(String, FindsFromAStart) {
+  const CString text("a-b-c");
+  EXPECT_EQ(text.Find('-'), 1);
+  EXPECT_EQ(text.Find('-', 2), 3);
+  EXPECT_EQ(text.Find("b-", -5), 2);
+  EXPECT_EQ(text.Find('a', 1), -1);
+  EXPECT_EQ(text.Find('a', 99), -1);
+  EXPECT_EQ(text.ReverseFind('-'), 3);
+  EXPECT_EQ(text.ReverseFind('x'), -1);
+}
+
+TEST(String, ClampsParts) {
+  const CString text("abcd");
+  struct Case {
+    CString part;
+    const char* expected;
+  };
+  const Case cases[] = {
+      {text.Left(2), "ab"}, {text.Left(-1), ""},     {text.Left(9), "abcd"},      {text.Right(2), "cd"},
+      {text.Right(-1), ""}, {text.Right(9), "abcd"}, {text.Mid(1), "bcd"},        {text.Mid(-3), "abcd"},
+      {text.Mid(9), ""},    {text.Mid(1, 2), "bc"},  {text.Mid(3, INT_MAX), "d"}, {text.Mid(1, -1), ""},
+  };
+  for (const Case& c : cases) EXPECT_EQ(c.part, c.expected);
+}
+
+TEST(String, ReplacesRemovesAndDeletes) {
+  CString text("aaab");
+  EXPECT_EQ(text.Replace("aa", "x"), 1);
+  EXPECT_EQ(text, "xab");
+  EXPECT_EQ(text.Replace("", "y"), 0);
+  EXPECT_EQ(text.Replace("a", ""), 1);
+  EXPECT_EQ(text, "xb");
+  EXPECT_EQ(text.Remove('x'), 1);
+  text = "abcdef";
+  EXPECT_EQ(text.Delete(1, 2), 4);
+  EXPECT_EQ(text.Delete(2, 99), 2);
+  EXPECT_EQ(text.Delete(7, 1), 2);
+  EXPECT_EQ(text, "ad");
+}
+
+TEST(String, TrimsAndChangesAsciiOnly) {
+  CString text(" \t\r\n\v\fMaß \xE4 ");
+  EXPECT_EQ(text.TrimLeft().TrimRight(), "Maß \xE4");
+  EXPECT_EQ(text.MakeUpper(), "MAß \xE4");
+  EXPECT_EQ(text.MakeLower(), "maß \xE4");
+  EXPECT_EQ(CString("))a;)").TrimRight(");").TrimLeft(")"), "a");
+  EXPECT_EQ(CString("  ").TrimRight(), "");
+}
+
+TEST(String, TokenizesUntilTheStartIsMinusOne) {
+  const CString text("  ab  c");
+  int start = 0;
+  EXPECT_EQ(text.Tokenize(" ", start), "ab");
+  EXPECT_EQ(start, 5);
+  EXPECT_EQ(text.Tokenize(" ", start), "c");
+  EXPECT_EQ(text.Tokenize(" ", start), "");
+  EXPECT_EQ(start, -1);
+  EXPECT_THROW(static_cast<void>(text.Tokenize(" ", start)), CInvalidArgException);
+}
+
+TEST(String, FormatsAndLendsItsBuffer) {
+  CString text;
+  text.Format("%d:%s", 7, "x");
+  EXPECT_EQ(text, "7:x");
+  text.GetBuffer(5)[1] = '\0';
+  text.ReleaseBuffer();
+  EXPECT_EQ(text, "7");
+  EXPECT_THROW(text.ReleaseBuffer(2), CInvalidArgException);
+}
+
+}  // namespace
+}  // namespace kestrin

@@ -1,0 +1,126 @@
+#include "kestrin/session/import_session.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+#include "kestrin/platform/messages.h"
+#include "kestrin/tech/tech_model.h"
+#include "tests/support/recording_dialog.h"
+#include "tests/support/temporary_folder.h"
+
+namespace kestrin {
+namespace {
+
+using test::Events;
+using test::RecordingDialog;
+using test::RecordingMessageBoxes;
+
+class ImportSession : public testing::Test {
+ protected:
+  void SetPaths(CPC_KESTRIN_GET& session) const {
+    session.vSetTechFilePath(folder_.File("a.tech", "$$define_physical_layer(1, TOP)\n$$define_rule_via(V)"));
+    session.vSetNeutralFilePath(folder_.File("a.neutral", ""));
+    session.vSetGeomFilePath(folder_.File("a.geometry", ""));
+    session.vSetTraceFilePath(folder_.File("a.traces", ""));
+  }
+
+  test::TemporaryFolder folder_;
+};
+
+TEST_F(ImportSession, WarnsOfTheFirstMandatoryPathThatIsMissing) {
+  CPC_KESTRIN_GET session;
+  RecordingDialog host;
+  host.Attach(session);
+  session.vSetTechFilePath(folder_.File("a.tech", "$$define_rule_via(V)"));
+  const auto warning = [&] {
+    RecordingMessageBoxes shown;
+    session.vParse();
+    return shown.boxes;
+  };
+  EXPECT_EQ(warning(), (Events{"WARNING|No definition for Geom file path|48"}));
+  session.vSetGeomFilePath("g");
+  EXPECT_EQ(warning(), (Events{"WARNING|No definition for Neutral file path|48"}));
+  session.vSetNeutralFilePath("n");
+  EXPECT_EQ(warning(), (Events{"WARNING|No definition for Traces file path|48"}));
+  EXPECT_EQ(session.GetTech(), nullptr);
+  EXPECT_EQ(host.events, Events{});
+}
+
+TEST_F(ImportSession, TalksToTheDialogInTheOrderOfTheFiles) {
+  CPC_KESTRIN_GET session;
+  SetPaths(session);
+  RecordingDialog host;
+  host.Attach(session);
+  PostMessageA(host.dialog.GetSafeHwnd(), WM_USER, 1, 0);
+  PostMessageA(host.status.GetSafeHwnd(), WM_USER, 2, 0);
+  session.vParse();
+  EXPECT_EQ(host.events, (Events{"dialog: message 1024 1", "status: message 1024 2", "dialog: refresh",
+                                 "status: Parsing Tech File", "tech bar: position 50", "tech bar: disable",
+                                 "dialog: refresh", "tech bar: position 100", "tech bar: disable",
+                                 "dialog: refresh", "status: Parsing Neutral File",
+                                 "status: Parsing Geometry File", "status: Parsing Trace File"}));
+  EXPECT_EQ(session.sGetErrorMsg(), "");
+}
+
+TEST_F(ImportSession, RefreshesThroughWhicheverBarThereIs) {
+  struct Case {
+    bool tech, neutral, geometry, traces;
+    int refreshes;
+  };
+  for (const Case& c : {Case{true, false, false, false, 3}, Case{false, true, false, false, 1},
+                        Case{false, false, true, false, 1}, Case{false, false, false, true, 1},
+                        Case{false, false, false, false, 0}}) {
+    CPC_KESTRIN_GET session;
+    SetPaths(session);
+    RecordingDialog host;
+    host.Attach(session, c.tech, c.neutral, c.geometry, c.traces);
+    session.vParse();
+    EXPECT_EQ(std::count(host.events.begin(), host.events.end(), "dialog: refresh"), c.refreshes);
+  }
+}
+
+TEST_F(ImportSession, TheTechPathIsOptional) {
+  CPC_KESTRIN_GET session;
+  SetPaths(session);
+  session.vSetTechFilePath("");
+  RecordingMessageBoxes shown;
+  session.vParse();
+  EXPECT_EQ(shown.boxes, Events{});
+  EXPECT_EQ(session.GetTech(), nullptr);
+  EXPECT_EQ(session.GetReport().Of(ImportFile::kTech).end, ReadingEnd::kNotRead);
+}
+
+TEST_F(ImportSession, AFileThatCannotBeOpenedLeavesAnEmptyRoot) {
+  CPC_KESTRIN_GET session;
+  session.TechFileParse(folder_.Path("missing"));
+  ASSERT_NE(session.GetTech(), nullptr);
+  EXPECT_TRUE(session.GetTech()->m_pStackupArray->IsEmpty());
+  EXPECT_EQ(session.GetReport().Of(ImportFile::kTech).end, ReadingEnd::kNotOpened);
+}
+
+TEST_F(ImportSession, CopiesShareRootsAndARootLivesAsLongAsASharer) {
+  auto session = std::make_unique<CPC_KESTRIN_GET>();
+  SetPaths(*session);
+  session->vParse();
+  CPC_KESTRIN_GET copy(*session);
+  CPC_KESTRIN_GET assigned;
+  assigned = *session;
+  EXPECT_EQ(copy.GetTech(), session->GetTech());
+  EXPECT_EQ(assigned.m_sTechFilePath, session->m_sTechFilePath);
+  session->vParse();
+  EXPECT_NE(copy.GetTech(), session->GetTech());
+  session.reset();
+  EXPECT_EQ(copy.GetTech()->GetPhysicalLayerNumber("TOP"), 1);
+  EXPECT_EQ(assigned.GetTech(), copy.GetTech());
+}
+
+TEST_F(ImportSession, CountsLinesForProgress) {
+  const CPC_KESTRIN_GET session;
+  EXPECT_EQ(session.nGetFileLineCount(folder_.File("text", "a\nb")), 2);
+  EXPECT_EQ(session.nGetFileLineCount(folder_.Path("missing")), 1);
+}
+
+}  // namespace
+}  // namespace kestrin

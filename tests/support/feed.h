@@ -1,0 +1,20 @@
+#pragma once
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "kestrin/text/line_outcome.h"
+
+namespace kestrin::test {
+
+/// Feeds every line of a text to a reader and returns what became of them.
+template <class READER>
+std::vector<LineOutcome> Feed(READER& reader, const std::string& text) {
+  std::vector<LineOutcome> outcomes;
+  std::istringstream lines(text);
+  for (std::string line; std::getline(lines, line);) outcomes.push_back(reader.ReadLine(line));
+  return outcomes;
+}
+
+}  // namespace kestrin::test

@@ -1,0 +1,120 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "kestrin/tech/tech_model.h"
+#include "kestrin/tech/tech_reader.h"
+#include "tests/support/feed.h"
+#include "tests/support/lists.h"
+
+namespace kestrin {
+namespace {
+
+using test::Feed;
+using test::Strings;
+
+/// The records of a model as one text: "number name [logical layers]" a layer, "via(first, second, last)" a
+/// rule.
+std::string Described(const CMTech& tech) {
+  std::string text;
+  for (const CMTechStackUpOrder* layer : *tech.m_pStackupArray) {
+    text += std::to_string(layer->m_nPhysicalLayerNumber) + " '" + layer->m_sPhysicalLayerName.GetString() +
+            "' [";
+    for (const CString& name : layer->m_arrLogicalLayerNames)
+      text += std::string("'") + name.GetString() + "'";
+    text += "]";
+  }
+  for (const CMTechVia* via : *tech.m_pViaArray) {
+    text += std::string("via(") + via->m_sArg1.GetString() + ", " + via->m_sArg2.GetString() + ", " +
+            via->m_sArgLast.GetString() + ")";
+  }
+  return text;
+}
+
+TEST(TechReader, TurnsEveryLineIntoItsRecord) {
+  struct Case {
+    const char* line;
+    const char* model;
+  };
+  const Case cases[] = {
+      {R"($$define_physical_layer(1, "TOP", "SIGNAL_1", "PAD_1");)", "1 'TOP' ['SIGNAL_1''PAD_1']"},
+      {"$$define_physical_layer(2,,INNER1)", "2 'INNER1' []"},
+      {"$$define_physical_layer(2, ,INNER1)", "2 '' ['INNER1']"},
+      {R"($$define_physical_layer(2,"",INNER1))", "2 'INNER1' []"},
+      {R"($$define_physical_layer(3, "A,B"))", "3 'A' ['B']"},
+      {R"($$define_physical_layer( "4" , " T O P " ,	"x"	))", "4 'T O P' ['x']"},
+      {"$$define_physical_layer(x9, A)", "0 'A' []"},
+      {"$$define_physical_layer(-7up)", "-7 '' []"},
+      {"$$define_physical_layer()", "0 '' []"},
+      {"$$define_physical_layer", "0 '' []"},
+      {"$$define_physical_layer(1, TOP", "0 '' []"},
+      {"$$define_physical_layer 1, TOP)", "0 'TOP' []"},
+      {"1, T $$define_physical_layer)", "1 'T $$define_physical_layer' []"},
+      {") $$define_physical_layer(", "0 '' []"},
+      {"$$define_physical_layer((1), (TOP)) x)", "0 '(TOP)) x' []"},
+      {R"($$define_rule_via("V1", "P1", "L1", "L4"))", "via(V1, P1, L4)"},
+      {"$$define_rule_via(V1)", "via(V1, , )"},
+      {"# as in $$define_rule_via(V2, P2) of old", "via(V2, P2, )"},
+      {"$$define_rule_via(1, $$define_physical_layer)", "1 '$$define_physical_layer' []"},
+      {"$$DEFINE_RULE_VIA(V1)", ""},
+      {"$$define_rule(V1)", ""},
+  };
+  for (const Case& c : cases) {
+    CMTech tech;
+    TechReader(tech).ReadLine(c.line);
+    EXPECT_EQ(Described(tech), c.model) << c.line;
+  }
+}
+
+TEST(TechReader, KeepsOrderAndTellsWhatBecameOfALine) {
+  CMTech tech;
+  TechReader reader(tech);
+  const auto outcomes = Feed(reader,
+                             "$$define_rule_via(V2)\n"
+                             "\n"
+                             " \t\n"
+                             "# comment\n"
+                             "$$define_something(1)\n"
+                             "$$define_rule_via(V1)\n");
+  const auto unknown = LineOutcome::Skipped(SkipCode::kUnknownRecord);
+  EXPECT_EQ(outcomes,
+            (std::vector<LineOutcome>{LineOutcome::Imported(), LineOutcome::Ignored(), LineOutcome::Ignored(),
+                                      LineOutcome::Ignored(), unknown, LineOutcome::Imported()}));
+  EXPECT_EQ(Described(tech), "via(V2, , )via(V1, , )");
+}
+
+TEST(TechModel, LooksUpTheFirstLayerOfExactlyThisName) {
+  CMTech tech;
+  TechReader reader(tech);
+  Feed(reader,
+       "$$define_physical_layer(5, TOP, A, B)\n"
+       "$$define_physical_layer(6, TOP, C)\n"
+       "$$define_physical_layer(7, BARE)\n");
+  EXPECT_EQ(tech.GetPhysicalLayerNumber("TOP"), 5);
+  EXPECT_EQ(tech.GetPhysicalLayerNumber("Top"), 0);
+  EXPECT_EQ(tech.GetPhysicalLayerNumber(""), 0);
+  CStringArray names;
+  tech.GetLogicalLayerNamesForPhysicalLayerName("TOP", names);
+  EXPECT_EQ(Strings(names), (std::vector<std::string>{"A", "B"}));
+  tech.GetLogicalLayerNamesForPhysicalLayerName("NONE", names);
+  EXPECT_EQ(names.GetSize(), 2);
+  tech.GetLogicalLayerNamesForPhysicalLayerName("BARE", names);
+  EXPECT_EQ(names.GetSize(), 0);
+}
+
+TEST(TechModel, CopiesShareTheirRecords) {
+  CMTech copy;
+  {
+    CMTech tech;
+    TechReader(tech).ReadLine("$$define_rule_via(V1)");
+    CMTech second(tech);
+    copy = second;
+    EXPECT_EQ(copy.m_pViaArray->GetAt(0), tech.m_pViaArray->GetAt(0));
+  }
+  EXPECT_EQ(Described(copy), "via(V1, , )");
+  copy.m_pViaArray->DeleteAll();
+}
+
+}  // namespace
+}  // namespace kestrin

@@ -1,0 +1,76 @@
+#include "tool/export_set.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <iterator>
+#include <memory>
+#include <string_view>
+#include <system_error>
+#include <vector>
+
+#include "tool/usage_error.h"
+
+namespace kestrin::tool {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::vector<std::string> FilesIn(const std::string& folder) {
+  std::error_code error;
+  fs::directory_iterator entries(folder, error);
+  if (error) throw UsageError(folder + ": " + error.message());
+  std::vector<std::string> files;
+  for (; entries != fs::directory_iterator() && !error; entries.increment(error)) {
+    if (entries->is_regular_file(error)) files.push_back(entries->path().string());
+  }
+  if (error) throw UsageError(folder + ": " + error.message());
+  std::sort(files.begin(), files.end());
+  return files;
+}
+
+std::string OnlyFileWithEnding(const std::vector<std::string>& files, const FileKind& kind,
+                               const std::string& folder) {
+  std::vector<std::string> found;
+  std::copy_if(files.begin(), files.end(), std::back_inserter(found),
+               [&](std::string_view file) { return file.ends_with(kind.ending); });
+  if (found.empty()) {
+    throw UsageError(folder + ": no file ends in " + kind.ending + "; name one with " + kind.option);
+  }
+  if (found.size() > 1) {
+    throw UsageError(found[0] + " and " + found[1] + " both end in " + kind.ending + "; choose one with " +
+                     kind.option);
+  }
+  return found[0];
+}
+
+void CheckReadable(const std::string& path) {
+  std::error_code error;
+  const fs::file_status status = fs::status(path, error);
+  if (fs::exists(status) && !fs::is_regular_file(status)) throw UsageError(path + ": not a regular file");
+  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"), &std::fclose);
+  if (file == nullptr) throw UsageError(path + ": " + std::strerror(errno));
+}
+
+}  // namespace
+
+void ExportSet::FindInFolder(const std::string& folder) {
+  const std::vector<std::string> files = FilesIn(folder);
+  for (const FileKind& kind : kFileKinds) {
+    if (!Has(kind.file)) PathOf(kind.file) = OnlyFileWithEnding(files, kind, folder);
+  }
+}
+
+void ExportSet::CheckReadable() const {
+  bool any = false;
+  for (const std::string& path : paths_) {
+    if (path.empty()) continue;
+    tool::CheckReadable(path);
+    any = true;
+  }
+  if (!any) throw UsageError("no file is given");
+}
+
+}  // namespace kestrin::tool

@@ -1,0 +1,75 @@
+#include "tool/import.h"
+
+#include <exception>
+
+#include "tool/terminal_dialog.h"
+#include "tool/usage_error.h"
+
+namespace kestrin::tool {
+namespace {
+
+/// Reads the given files one by one: vParse asks for all but the Tech file.
+void ReadGivenFiles(CPC_KESTRIN_GET& session, const ExportSet& files) {
+  struct Step {
+    ImportFile file;
+    const char* status;
+    void (CPC_KESTRIN_GET::*read)(CString path);
+  };
+  static constexpr Step kSteps[] = {
+      {ImportFile::kTech, "Parsing Tech File", &CPC_KESTRIN_GET::TechFileParse},
+      {ImportFile::kNeutral, "Parsing Neutral File", &CPC_KESTRIN_GET::NeutralFileParse},
+      {ImportFile::kGeometry, "Parsing Geometry File", &CPC_KESTRIN_GET::GeomFileParse},
+      {ImportFile::kTraces, "Parsing Trace File", &CPC_KESTRIN_GET::TraceFileParse},
+  };
+  for (const Step& step : kSteps) {
+    if (!files.Has(step.file)) continue;
+    session.m_pStatusWnd->SetWindowTextA(step.status);
+    (session.*step.read)(files.PathOf(step.file));
+  }
+}
+
+void Read(CPC_KESTRIN_GET& session, const ExportSet& files) {
+  session.vSetTechFilePath(files.PathOf(ImportFile::kTech));
+  session.vSetNeutralFilePath(files.PathOf(ImportFile::kNeutral));
+  session.vSetGeomFilePath(files.PathOf(ImportFile::kGeometry));
+  session.vSetTraceFilePath(files.PathOf(ImportFile::kTraces));
+  const bool complete =
+      files.Has(ImportFile::kNeutral) && files.Has(ImportFile::kGeometry) && files.Has(ImportFile::kTraces);
+  if (complete) {
+    session.vParse();
+  } else {
+    ReadGivenFiles(session, files);
+  }
+}
+
+std::string WhereStopped(const ImportReport& report) {
+  for (const FileKind& kind : kFileKinds) {
+    const FileReport& file = report.Of(kind.file);
+    if (file.end == ReadingEnd::kStopped) return file.path + ":" + std::to_string(file.linesRead) + ": ";
+  }
+  return {};
+}
+
+}  // namespace
+
+std::string Import(CPC_KESTRIN_GET& session, const ExportSet& files) {
+  std::string stopped;
+  {
+    TerminalDialog dialog(files);
+    dialog.Attach(session);
+    try {
+      Read(session, files);
+    } catch (const std::exception& error) {
+      stopped = WhereStopped(session.GetReport()) + "the reading stopped: " + error.what();
+    }
+    session.m_pStatusWnd = nullptr;
+    session.SetProgressPtr(nullptr, nullptr, nullptr, nullptr);
+  }
+  for (const FileKind& kind : kFileKinds) {
+    const FileReport& file = session.GetReport().Of(kind.file);
+    if (file.end == ReadingEnd::kNotOpened) throw UsageError(file.path + ": cannot be opened");
+  }
+  return stopped;
+}
+
+}  // namespace kestrin::tool

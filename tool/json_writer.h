@@ -1,0 +1,103 @@
+#pragma once
+
+/// @file
+/// Writing JSON documents to standard output.
+
+#include <rapidjson/filewritestream.h>
+#include <rapidjson/prettywriter.h>
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <type_traits>
+
+#include "kestrin/geometry/ownership.h"
+#include "kestrin/platform/string.h"
+#include "kestrin/platform/string_array.h"
+
+namespace kestrin::tool {
+
+/// Writes one document, piece by piece, so that a large model needs no second copy in memory.
+class JsonWriter {
+ public:
+  JsonWriter();
+
+  void Key(const char* name) { writer_.Key(name); }
+  void StartObject() { writer_.StartObject(); }
+  void EndObject() { writer_.EndObject(); }
+  /// A row stands on one line.
+  enum class Layout { kRow, kColumn };
+  void StartArray(Layout layout = Layout::kColumn);
+  void EndArray();
+
+  void Null() { writer_.Null(); }
+  void Int(std::int64_t value) { writer_.Int64(value); }
+  /// In the shortest form that reads back to the same double; infinities as strings.
+  void Double(double value);
+  /// Bytes from 128 on stand for the code points of the same number.
+  void String(std::string_view bytes);
+  /// Text that is UTF-8 already, as the tool's own texts and the names of files are.
+  void Utf8(std::string_view text);
+
+  /// Ends the document; false when it could not be written.
+  [[nodiscard]] bool Finish();
+
+ private:
+  std::array<char, 65536> buffer_;
+  rapidjson::FileWriteStream stream_;
+  rapidjson::PrettyWriter<rapidjson::FileWriteStream> writer_;
+};
+
+inline void WriteJson(JsonWriter& json, std::nullptr_t) { json.Null(); }
+inline void WriteJson(JsonWriter& json, int value) { json.Int(value); }
+inline void WriteJson(JsonWriter& json, std::int64_t value) { json.Int(value); }
+inline void WriteJson(JsonWriter& json, std::string_view text) { json.Utf8(text); }
+inline void WriteJson(JsonWriter& json, double value) { json.Double(value); }
+inline void WriteJson(JsonWriter& json, const CString& value) { json.String(value.View()); }
+
+/// A record or list held by pointer.
+template <class T>
+void WriteJson(JsonWriter& json, const T* pointer) {
+  if (pointer == nullptr) return json.Null();
+  WriteJson(json, *pointer);
+}
+
+template <class T>
+void WriteJson(JsonWriter& json, const Owned<T>& owned) {
+  WriteJson(json, *owned);
+}
+
+template <class T>
+void WriteJson(JsonWriter& json, const Shared<T>& shared) {
+  WriteJson(json, static_cast<const T*>(shared));
+}
+
+/// A list of values, of strings or of records.
+template <class TYPE, class ARG_TYPE>
+void WriteJson(JsonWriter& json, const CArray<TYPE, ARG_TYPE>& list) {
+  json.StartArray(std::is_arithmetic_v<TYPE> ? JsonWriter::Layout::kRow : JsonWriter::Layout::kColumn);
+  for (const TYPE& element : list) WriteJson(json, element);
+  json.EndArray();
+}
+
+/// An object from its braces to the members in between.
+class JsonObject {
+ public:
+  explicit JsonObject(JsonWriter& json) : json_(json) { json_.StartObject(); }
+  JsonObject(const JsonObject&) = delete;
+  JsonObject& operator=(const JsonObject&) = delete;
+  ~JsonObject() { json_.EndObject(); }
+
+  template <class T>
+  JsonObject& Member(const char* name, const T& value) {
+    json_.Key(name);
+    WriteJson(json_, value);
+    return *this;
+  }
+
+ private:
+  JsonWriter& json_;
+};
+
+}  // namespace kestrin::tool

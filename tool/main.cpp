@@ -1,0 +1,99 @@
+#include <CLI/CLI.hpp>
+#include <exception>
+#include <string>
+
+#include "tool/check.h"
+#include "tool/dump.h"
+#include "tool/export_set.h"
+#include "tool/report_error.h"
+#include "tool/summary.h"
+#include "tool/usage_error.h"
+
+namespace kestrin::tool {
+namespace {
+
+struct Arguments {
+  std::string folder;
+  ExportSet files;
+  std::string format;
+};
+
+constexpr char kExitStatuses[] =
+    "Exit status: 0 all is well; 1 a reader stopped early, or check found skipped lines; 2 wrong usage or a "
+    "file "
+    "that cannot be read.";
+
+void AddFileOptions(CLI::App& command, Arguments& arguments) {
+  for (const FileKind& kind : kFileKinds) {
+    command
+        .add_option(kind.option, arguments.files.PathOf(kind.file), std::string("The ") + kind.name + " file")
+        ->option_text("FILE");
+  }
+}
+
+CLI::App* AddCommand(CLI::App& app, Arguments& arguments, const char* name, const char* description,
+                     const char* example) {
+  CLI::App* command = app.add_subcommand(name, description);
+  AddFileOptions(*command, arguments);
+  command->footer(std::string("Example:\n  ") + example + "\n\n" + kExitStatuses);
+  return command;
+}
+
+void AddFolder(CLI::App& command, Arguments& arguments) {
+  command
+      .add_option("DIR", arguments.folder,
+                  "A folder that holds the export set: one file each that ends in .tech, .neutral, "
+                  ".geometry, .traces")
+      ->option_text(" ");
+}
+
+/// Parses the command line and carries it out. Returns the exit status.
+int Run(int count, char** words) {
+  CLI::App app("Imports a printed-circuit board from its four export files and shows what they hold.",
+               "kestrin");
+  app.set_version_flag("--version", "kestrin " KESTRIN_VERSION);
+  app.require_subcommand(0, 1);
+  app.footer(std::string("Example:\n  kestrin summary examples/board\n\n") + kExitStatuses);
+
+  Arguments arguments;
+  CLI::App* summary = AddCommand(app, arguments, "summary", "Print what the files hold at a glance",
+                                 "kestrin summary examples/board");
+  AddFolder(*summary, arguments);
+  CLI::App* dump = AddCommand(app, arguments, "dump", "Print the object model as a JSON document",
+                              "kestrin dump --tech examples/board/board.tech");
+  CLI::App* check = AddCommand(app, arguments, "check", "List the lines that an import skips",
+                               "kestrin check examples/board --format json");
+  AddFolder(*check, arguments);
+  check->add_option("--format", arguments.format, "How to print them, as text if not said")
+      ->check(CLI::IsMember({"text", "json"}))
+      ->option_text("text|json");
+
+  try {
+    app.parse(count, words);
+  } catch (const CLI::Success& asked) {
+    return app.exit(asked);
+  } catch (const CLI::ParseError& error) {
+    throw UsageError(std::string(error.what()) + "; try kestrin --help");
+  }
+  if (app.get_subcommands().empty()) throw UsageError("no command is given; try kestrin --help");
+  if (!arguments.folder.empty()) arguments.files.FindInFolder(arguments.folder);
+  if (dump->parsed()) return Dump(arguments.files);
+  if (check->parsed()) {
+    return Check(arguments.files, arguments.format == "json" ? CheckFormat::kJson : CheckFormat::kText);
+  }
+  return Summary(arguments.files);
+}
+
+}  // namespace
+}  // namespace kestrin::tool
+
+int main(int count, char** words) {
+  using namespace kestrin::tool;
+  try {
+    return Run(count, words);
+  } catch (const UsageError& error) {
+    return ReportError(error.what(), kUnusable);
+  } catch (const std::exception& error) {
+    return ReportError(error.what(), kIncomplete);
+  }
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+/// @file
+/// The models as JSON: an object a record, its members in declaration order.
+
+#include "kestrin/tech/tech_model.h"
+#include "tool/json_writer.h"
+
+namespace kestrin::tool {
+
+void WriteJson(JsonWriter& json, const CMTech& tech);
+
+}  // namespace kestrin::tool

@@ -1,0 +1,13 @@
+#pragma once
+
+/// @file
+/// kestrin summary: what a person wants to know of an export set at a glance.
+
+#include "tool/export_set.h"
+
+namespace kestrin::tool {
+
+/// Imports the files and prints tables. Returns the exit status.
+[[nodiscard]] int Summary(const ExportSet& files);
+
+}  // namespace kestrin::tool

@@ -1,0 +1,65 @@
+#include "tool/terminal_dialog.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace kestrin::tool {
+
+TerminalDialog::TerminalDialog(const ExportSet& files)
+    : files_(files),
+      shown_(isatty(STDERR_FILENO) != 0),
+      status_(*this),
+      bars_{Bar(this), Bar(this), Bar(this), Bar(this)} {}
+
+TerminalDialog::~TerminalDialog() { Wipe(); }
+
+void TerminalDialog::Attach(CPC_KESTRIN_GET& session) {
+  const auto bar = [this](ImportFile file) { return &bars_[static_cast<std::size_t>(file)]; };
+  session.m_pStatusWnd = &status_;
+  session.SetProgressPtr(bar(ImportFile::kGeometry), bar(ImportFile::kNeutral), bar(ImportFile::kTraces),
+                         bar(ImportFile::kTech));
+}
+
+BOOL TerminalDialog::UpdateData(BOOL /*saveAndValidate*/) {
+  Draw();
+  return TRUE;
+}
+
+void TerminalDialog::StatusText::SetWindowTextA(const char* newText) {
+  text = newText;
+  dialog_.Draw();
+}
+
+LRESULT TerminalDialog::Bar::WindowProc(UINT message, WPARAM wParam, LPARAM /*lParam*/) {
+  if (message == PBM_SETPOS) percent = std::min(static_cast<int>(wParam), 100);
+  return 0;
+}
+
+void TerminalDialog::Draw() {
+  if (!shown_) return;
+  Wipe();
+  std::string picture = status_.text + "\n";
+  linesDrawn_ = 1;
+  for (const FileKind& kind : kFileKinds) {
+    if (!files_.Has(kind.file)) continue;
+    constexpr int kWidth = 40;
+    const int percent = bars_[static_cast<std::size_t>(kind.file)].percent;
+    const auto filled = static_cast<std::size_t>(percent * kWidth / 100);
+    CString line;
+    line.Format("  %-9s[%s%s] %3d%%\n", kind.name, std::string(filled, '#').c_str(),
+                std::string(kWidth - filled, '.').c_str(), percent);
+    picture += line;
+    ++linesDrawn_;
+  }
+  std::fputs(picture.c_str(), stderr);
+}
+
+void TerminalDialog::Wipe() {
+  if (linesDrawn_ > 0)
+    std::fprintf(stderr, "\x1b[%dA\x1b[J", linesDrawn_);  // up to the first line, clear below
+  linesDrawn_ = 0;
+}
+
+}  // namespace kestrin::tool
