@@ -37,9 +37,9 @@ void PrintLines(const FileReport& file) {
   std::sort(rows.begin(), rows.end(),
             [](const Row& a, const Row& b) { return a.line->number < b.line->number; });
   for (const Row& row : rows) {
-    const SkipCodeText& code = TextOf(row.code);
     std::printf("%s:%lld: %s: %s\n    %s\n", file.path.c_str(), static_cast<long long>(row.line->number),
-                Text(code.name).c_str(), Text(code.text).c_str(), ToTerminal(row.line->text).c_str());
+                Text(TextOf(row.code).name).c_str(), row.line->reason.c_str(),
+                ToTerminal(row.line->text).c_str());
   }
 }
 
@@ -64,7 +64,10 @@ void WriteSkipped(JsonWriter& json, const FileReport& file) {
     json.Key("lines");
     json.StartArray();
     for (const SkippedLine& line : skipped.first) {
-      JsonObject(json).Member("line", line.number).Member("text", CString(line.text));
+      JsonObject(json)
+          .Member("line", line.number)
+          .Member("reason", std::string_view(line.reason))
+          .Member("text", CString(line.text));
     }
     json.EndArray();
   }

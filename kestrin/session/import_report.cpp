@@ -2,11 +2,11 @@
 
 namespace kestrin {
 
-void FileReport::KeepSkipped(SkipCode code, std::string_view line) {
-  SkippedLines& skipped = skipped_[static_cast<std::size_t>(code)];
+void FileReport::KeepSkipped(LineOutcome outcome, std::string_view line) {
+  SkippedLines& skipped = skipped_[static_cast<std::size_t>(outcome.Code())];
   ++skipped.count;
   if (skipped.first.size() < kKeptLines) {
-    skipped.first.push_back({linesRead, std::string(line.substr(0, kKeptBytes))});
+    skipped.first.push_back({linesRead, outcome.Reason(), std::string(line.substr(0, kKeptBytes))});
   }
 }
 

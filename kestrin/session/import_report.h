@@ -31,6 +31,7 @@ enum class ReadingEnd : std::uint8_t {
 /// A line that a reader skipped.
 struct SkippedLine {
   std::int64_t number = 0;  ///< counted from 1
+  std::string reason;       ///< why, in one sentence
   std::string text;         ///< its beginning, up to FileReport::kKeptBytes
 };
 
@@ -60,7 +61,7 @@ class KESTRIN_EXPORT FileReport {
   /// Counts the line that was read last.
   void Count(LineOutcome outcome, std::string_view line) {
     ++counts_[static_cast<std::size_t>(outcome.GetKind())];
-    if (outcome.GetKind() == LineOutcome::Kind::kSkipped) KeepSkipped(outcome.Code(), line);
+    if (outcome.GetKind() == LineOutcome::Kind::kSkipped) KeepSkipped(outcome, line);
   }
 
   std::string path;
@@ -72,7 +73,7 @@ class KESTRIN_EXPORT FileReport {
   [[nodiscard]] std::int64_t CountOf(LineOutcome::Kind kind) const {
     return counts_[static_cast<std::size_t>(kind)];
   }
-  void KeepSkipped(SkipCode code, std::string_view line);
+  void KeepSkipped(LineOutcome outcome, std::string_view line);
 
   std::array<std::int64_t, 3> counts_{};  // by LineOutcome::Kind
   std::array<SkippedLines, kSkipCodes.size()> skipped_;

@@ -6,6 +6,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace kestrin {
@@ -13,6 +14,9 @@ namespace kestrin {
 /// Why a line was skipped.
 enum class SkipCode : std::uint8_t {
   kUnknownRecord,
+  kUnendedKeyword,
+  kWrongValueCount,
+  kNoOwner,
 };
 
 /// A skip code as users see it.
@@ -24,33 +28,59 @@ struct SkipCodeText {
 /// The catalogue of skip codes, a row each in the order of SkipCode.
 inline constexpr std::array kSkipCodes{
     SkipCodeText{"unknown-record", "the line holds no record that is read from this file"},
+    SkipCodeText{"unended-keyword", "no blank follows the keyword, so that the line is no record"},
+    SkipCodeText{"wrong-value-count", "the record does not have the number of values that its kind takes"},
+    SkipCodeText{"no-owner", "the record that this one belongs to does not stand before it"},
 };
 
 [[nodiscard]] constexpr const SkipCodeText& TextOf(SkipCode code) {
   return kSkipCodes[static_cast<std::size_t>(code)];
 }
 
+/// What a kind of record asks of its lines, as users read it: "N_PIN" takes "at least 5 values", or needs "a
+/// NET before it". Stands as a constant beside the reader's table.
+struct RecordRule {
+  std::string_view record;
+  std::string_view demand;
+};
+
 /// The answer of a reader to one line: imported, ignored (it carries nothing: blank, a comment, outside what
-/// was asked for) or skipped for a reason.
+/// was asked for) or skipped for a reason. Small enough to be returned in registers.
 class LineOutcome {
  public:
   enum class Kind : std::uint8_t { kImported, kIgnored, kSkipped };
 
-  [[nodiscard]] static constexpr LineOutcome Imported() { return {Kind::kImported, SkipCode{}}; }
-  [[nodiscard]] static constexpr LineOutcome Ignored() { return {Kind::kIgnored, SkipCode{}}; }
-  [[nodiscard]] static constexpr LineOutcome Skipped(SkipCode code) { return {Kind::kSkipped, code}; }
+  [[nodiscard]] static constexpr LineOutcome Imported() { return {Kind::kImported, SkipCode{}, -1, nullptr}; }
+  [[nodiscard]] static constexpr LineOutcome Ignored() { return {Kind::kIgnored, SkipCode{}, -1, nullptr}; }
+  [[nodiscard]] static constexpr LineOutcome Skipped(SkipCode code) {
+    return {Kind::kSkipped, code, -1, nullptr};
+  }
+  /// The line breaks this rule, which must be a constant.
+  [[nodiscard]] static constexpr LineOutcome Skipped(SkipCode code, const RecordRule& rule) {
+    return {Kind::kSkipped, code, -1, &rule};
+  }
+  /// The line has this many values, which is not what the rule asks for.
+  [[nodiscard]] static constexpr LineOutcome WrongValueCount(const RecordRule& rule, std::size_t valueCount) {
+    return {Kind::kSkipped, SkipCode::kWrongValueCount, static_cast<std::int32_t>(valueCount & 0x7FFFFFFF),
+            &rule};
+  }
 
   [[nodiscard]] constexpr Kind GetKind() const { return kind_; }
   /// Meaningful for a skipped line only.
   [[nodiscard]] constexpr SkipCode Code() const { return code_; }
+  /// Why this very line was skipped, in one sentence.
+  [[nodiscard]] std::string Reason() const;
 
   friend constexpr bool operator==(LineOutcome, LineOutcome) = default;
 
  private:
-  constexpr LineOutcome(Kind kind, SkipCode code) : kind_(kind), code_(code) {}
+  constexpr LineOutcome(Kind kind, SkipCode code, std::int32_t valueCount, const RecordRule* rule)
+      : kind_(kind), code_(code), valueCount_(valueCount), rule_(rule) {}
 
   Kind kind_;
   SkipCode code_;
+  std::int32_t valueCount_;  // -1 when it is not the reason
+  const RecordRule* rule_;   // null when the code says it all
 };
 
 }  // namespace kestrin
