@@ -11,7 +11,8 @@ namespace {
 void WriteDocument(JsonWriter& json, const CPC_KESTRIN_GET& session) {
   JsonObject document(json);
   document.Member("tech", session.m_pTech);
-  for (const char* unread : {"components", "nets", "geometry", "traces"}) document.Member(unread, nullptr);
+  document.Member("components", session.m_pComps).Member("nets", session.m_pNetList);
+  for (const char* unread : {"geometry", "traces"}) document.Member(unread, nullptr);
 }
 
 }  // namespace

@@ -3,10 +3,10 @@
 #include <cstdio>
 #include <string>
 
-#include "kestrin/tech/tech_model.h"
 #include "tool/import.h"
-#include "tool/readable_text.h"
+#include "tool/neutral_summary.h"
 #include "tool/report_error.h"
+#include "tool/tech_summary.h"
 #include "tool/text_table.h"
 #include "tool/usage_error.h"
 
@@ -40,30 +40,6 @@ void PrintFiles(const ImportReport& report) {
   table.Print();
 }
 
-std::string Joined(const CStringArray& texts) {
-  std::string joined;
-  for (const CString& text : texts) joined += (joined.empty() ? "" : ", ") + ToTerminal(text.View());
-  return joined;
-}
-
-void PrintTech(const CMTech& tech) {
-  std::printf("\nStack-up: %lld physical layers\n", static_cast<long long>(tech.m_pStackupArray->GetSize()));
-  TextTable layers({{"number", Align::kRight}, {"physical layer"}, {"logical layers"}});
-  for (const CMTechStackUpOrder* layer : *tech.m_pStackupArray) {
-    layers.AddRow({std::to_string(layer->m_nPhysicalLayerNumber),
-                   ToTerminal(layer->m_sPhysicalLayerName.View()), Joined(layer->m_arrLogicalLayerNames)});
-  }
-  layers.Print();
-
-  std::printf("\nVia rules: %lld\n", static_cast<long long>(tech.m_pViaArray->GetSize()));
-  TextTable vias({{"first argument"}, {"second argument"}, {"last argument"}});
-  for (const CMTechVia* via : *tech.m_pViaArray) {
-    vias.AddRow({ToTerminal(via->m_sArg1.View()), ToTerminal(via->m_sArg2.View()),
-                 ToTerminal(via->m_sArgLast.View())});
-  }
-  vias.Print();
-}
-
 }  // namespace
 
 int Summary(const ExportSet& files) {
@@ -72,6 +48,8 @@ int Summary(const ExportSet& files) {
   const std::string stopped = Import(session, files);
   PrintFiles(session.GetReport());
   if (const CMTech* tech = session.GetTech()) PrintTech(*tech);
+  if (session.GetComps() != nullptr)
+    PrintNeutral(*session.GetComps(), *session.GetNetList(), session.GetReport().boardSelection);
   return stopped.empty() ? kSuccess : ReportError(stopped, kIncomplete);
 }
 

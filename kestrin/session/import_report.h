@@ -11,6 +11,7 @@
 #include <string_view>
 #include <vector>
 
+#include "kestrin/neutral/board_selection.h"
 #include "kestrin/platform/export.h"
 #include "kestrin/text/line_outcome.h"
 
@@ -84,6 +85,9 @@ class ImportReport {
  public:
   [[nodiscard]] const FileReport& Of(ImportFile file) const { return files_[static_cast<std::size_t>(file)]; }
   [[nodiscard]] FileReport& Of(ImportFile file) { return files_[static_cast<std::size_t>(file)]; }
+
+  /// Which of the boards of the Neutral file was imported.
+  BoardSelection boardSelection;
 
  private:
   std::array<FileReport, kImportFileCount> files_;

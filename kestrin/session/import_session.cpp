@@ -1,5 +1,6 @@
 #include "kestrin/session/import_session.h"
 
+#include "kestrin/neutral/neutral_reader.h"
 #include "kestrin/platform/message_box.h"
 #include "kestrin/session/dialog.h"
 #include "kestrin/session/line_count.h"
@@ -88,7 +89,15 @@ void CPC_KESTRIN_GET::TechFileParse(CString path) {
             report_.Of(ImportFile::kTech));
 }
 
-void CPC_KESTRIN_GET::NeutralFileParse(CString /*path*/) {}
+void CPC_KESTRIN_GET::NeutralFileParse(CString path) {
+  const auto components = Shared<CMComps>::Make();
+  const auto nets = Shared<CMNetList>::Make();
+  m_pComps = components;
+  m_pNetList = nets;
+  NeutralReader reader(*components, *nets);
+  ReadLines({.path = path, .bar = m_pNeutralProgress}, reader, report_.Of(ImportFile::kNeutral));
+  report_.boardSelection = reader.Selection();
+}
 
 void CPC_KESTRIN_GET::GeomFileParse(CString /*path*/) {}
 

@@ -23,15 +23,6 @@ std::string_view ArgumentText(std::string_view line) {
   return close == std::string_view::npos ? std::string_view() : line.substr(0, close);
 }
 
-const CharacterSet& Commas() {
-  static const CharacterSet commas = [] {
-    CharacterSet set;
-    AddCharacters(set, ",");
-    return set;
-  }();
-  return commas;
-}
-
 }  // namespace
 
 LineOutcome TechReader::ReadLine(std::string_view line) {
@@ -85,7 +76,7 @@ void TechReader::ForEachArgument(std::string_view line, Visit visit) {
   std::erase(unquoted_, '"');
   std::int64_t number = 0;
   std::size_t position = 0;
-  while (const auto argument = NextToken(unquoted_, Commas(), position)) visit(++number, Trimmed(*argument));
+  while (const auto argument = NextToken(unquoted_, Comma(), position)) visit(++number, Trimmed(*argument));
 }
 
 }  // namespace kestrin

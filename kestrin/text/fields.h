@@ -19,6 +19,9 @@ using CharacterSet = std::bitset<256>;
 /// Adds every character of the text to the set.
 void AddCharacters(CharacterSet& set, std::string_view characters);
 
+/// The set that holds the comma alone.
+[[nodiscard]] const CharacterSet& Comma();
+
 /// The next run of characters that are not delimiters; the position then stands on the delimiter that ended
 /// it.
 [[nodiscard]] std::optional<std::string_view> NextToken(std::string_view text, const CharacterSet& delimiters,

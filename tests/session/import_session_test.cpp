@@ -5,6 +5,8 @@
 #include <memory>
 #include <string>
 
+#include "kestrin/neutral/component_model.h"
+#include "kestrin/neutral/net_model.h"
 #include "kestrin/platform/messages.h"
 #include "kestrin/tech/tech_model.h"
 #include "tests/support/recording_dialog.h"
@@ -21,7 +23,7 @@ class ImportSession : public testing::Test {
  protected:
   void SetPaths(CPC_KESTRIN_GET& session) const {
     session.vSetTechFilePath(folder_.File("a.tech", "$$define_physical_layer(1, TOP)\n$$define_rule_via(V)"));
-    session.vSetNeutralFilePath(folder_.File("a.neutral", ""));
+    session.vSetNeutralFilePath(folder_.File("a.neutral", "B_UNITS MM\n###Nets\n"));
     session.vSetGeomFilePath(folder_.File("a.geometry", ""));
     session.vSetTraceFilePath(folder_.File("a.traces", ""));
   }
@@ -56,11 +58,13 @@ TEST_F(ImportSession, TalksToTheDialogInTheOrderOfTheFiles) {
   PostMessageA(host.dialog.GetSafeHwnd(), WM_USER, 1, 0);
   PostMessageA(host.status.GetSafeHwnd(), WM_USER, 2, 0);
   session.vParse();
-  EXPECT_EQ(host.events, (Events{"dialog: message 1024 1", "status: message 1024 2", "dialog: refresh",
-                                 "status: Parsing Tech File", "tech bar: position 50", "tech bar: disable",
-                                 "dialog: refresh", "tech bar: position 100", "tech bar: disable",
-                                 "dialog: refresh", "status: Parsing Neutral File",
-                                 "status: Parsing Geometry File", "status: Parsing Trace File"}));
+  EXPECT_EQ(host.events,
+            (Events{"dialog: message 1024 1", "status: message 1024 2", "dialog: refresh",
+                    "status: Parsing Tech File", "tech bar: position 50", "tech bar: disable",
+                    "dialog: refresh", "tech bar: position 100", "tech bar: disable", "dialog: refresh",
+                    "status: Parsing Neutral File", "neutral bar: position 33", "dialog: refresh",
+                    "neutral bar: position 66", "dialog: refresh", "status: Parsing Geometry File",
+                    "status: Parsing Trace File"}));
   EXPECT_EQ(session.sGetErrorMsg(), "");
 }
 
@@ -69,7 +73,7 @@ TEST_F(ImportSession, RefreshesThroughWhicheverBarThereIs) {
     bool tech, neutral, geometry, traces;
     int refreshes;
   };
-  for (const Case& c : {Case{true, false, false, false, 3}, Case{false, true, false, false, 1},
+  for (const Case& c : {Case{true, false, false, false, 3}, Case{false, true, false, false, 3},
                         Case{false, false, true, false, 1}, Case{false, false, false, true, 1},
                         Case{false, false, false, false, 0}}) {
     CPC_KESTRIN_GET session;
@@ -95,9 +99,15 @@ TEST_F(ImportSession, TheTechPathIsOptional) {
 TEST_F(ImportSession, AFileThatCannotBeOpenedLeavesAnEmptyRoot) {
   CPC_KESTRIN_GET session;
   session.TechFileParse(folder_.Path("missing"));
+  session.NeutralFileParse(folder_.Path("missing"));
   ASSERT_NE(session.GetTech(), nullptr);
   EXPECT_TRUE(session.GetTech()->m_pStackupArray->IsEmpty());
+  ASSERT_NE(session.GetComps(), nullptr);
+  EXPECT_EQ(session.GetComps()->m_nReadFlag, 1);
+  ASSERT_NE(session.GetNetList(), nullptr);
+  EXPECT_TRUE(session.GetNetList()->m_pNets->IsEmpty());
   EXPECT_EQ(session.GetReport().Of(ImportFile::kTech).end, ReadingEnd::kNotOpened);
+  EXPECT_EQ(session.GetReport().Of(ImportFile::kNeutral).end, ReadingEnd::kNotOpened);
 }
 
 TEST_F(ImportSession, CopiesShareRootsAndARootLivesAsLongAsASharer) {

@@ -120,8 +120,11 @@ TEST(Tool, SummarizesTheSampleBoardAndFindsNothingSkipped) {
   const auto summary = RunTool("summary " + kBoard);
   EXPECT_EQ(summary.status, 0);
   EXPECT_EQ(summary.err, "");
-  for (const char* line :
-       {"Stack-up: 4 physical layers", "INNER_1         SIGNAL_2, POWER_1", "Via rules: 4"}) {
+  for (const char* line : {"Stack-up: 4 physical layers", "INNER_1         SIGNAL_2, POWER_1", "Via rules: 4",
+                           "Board: units MM, value 3 is 60, value 4 is 40",
+                           "Selected: section 2 of the nets and of the components, chosen by placement 3 "
+                           "(SENSOR_NODE, value 6 is 1)",
+                           "7  CHIP_0805", "Nets: 15 with 53 pins", "14  GND"}) {
     EXPECT_NE(summary.out.find(line), std::string::npos) << summary.out;
   }
   const auto check = RunTool("check " + kBoard);

@@ -1,0 +1,69 @@
+#include "kestrin/neutral/component_properties.h"
+
+#include <memory>
+#include <utility>
+
+#include "kestrin/platform/numbers.h"
+#include "kestrin/text/fields.h"
+
+namespace kestrin {
+namespace {
+
+constexpr int kGroupSize = 10;
+constexpr int kGroups = 3;
+
+std::string_view BeforeFirstComma(std::string_view text) {
+  const std::size_t comma = text.find(',');
+  return comma == std::string_view::npos ? std::string_view() : text.substr(0, comma);
+}
+
+std::string_view BetweenFirstAndLastQuote(std::string_view text) {
+  const std::size_t first = text.find('"');
+  const std::size_t last = text.rfind('"');
+  return first == last ? std::string_view() : text.substr(first + 1, last - first - 1);
+}
+
+/// Sets the value at a place of a group, from 1. The last place shares its field with the one before.
+void SetGroupValue(CMCompsRefLoc& group, int place, std::string_view value) {
+  switch (place) {
+    case 1: group.m_dValue1 = ToDouble(value); break;
+    case 2: group.m_dValue2 = ToDouble(value); break;
+    case 3: group.m_nValue3 = ToInt(value); break;
+    case 4: group.m_sValue4 = value; break;
+    case 5: group.m_dValue5 = ToDouble(value); break;
+    case 6: group.m_dValue6 = ToDouble(value); break;
+    case 7: group.m_dValue7 = ToDouble(value); break;
+    case 8: group.m_sValue8 = value; break;
+    default: group.m_sValue9 = value; break;
+  }
+}
+
+/// A first value, then up to three groups of ten; there is a first group even for an empty text.
+void AddReferenceLocations(CMCompsInfo& component, std::string_view text) {
+  CMCompsRefLoc* group = component.m_pRefLocs->Append(std::make_unique<CMCompsRefLoc>());
+  std::size_t position = 0;
+  const auto first = NextToken(text, Comma(), position);
+  if (!first) return;
+  component.m_sRefLocFirst = *first;
+  for (int i = 0; i < kGroups * kGroupSize; ++i) {
+    const auto value = NextToken(text, Comma(), position);
+    if (!value) return;
+    if (i > 0 && i % kGroupSize == 0) group = component.m_pRefLocs->Append(std::make_unique<CMCompsRefLoc>());
+    SetGroupValue(*group, i % kGroupSize + 1, *value);
+  }
+}
+
+}  // namespace
+
+void AddProperty(CMCompsInfo& component, std::string_view item) {
+  item.remove_prefix(item.find('(') + 1);  // npos + 1 is 0
+  const std::string_view name = BeforeFirstComma(item);
+  const std::string_view value = BetweenFirstAndLastQuote(item);
+  if (name == "REFLOC") return AddReferenceLocations(component, value);
+  auto comment = std::make_unique<tagMCOMPCOMMENT>();
+  comment->m_sName = name;
+  comment->m_sValue = value;
+  component.m_pComments->Append(std::move(comment));
+}
+
+}  // namespace kestrin

@@ -1,0 +1,16 @@
+#pragma once
+
+/// @file
+/// The properties of a component.
+
+#include <string_view>
+
+#include "kestrin/neutral/component_model.h"
+
+namespace kestrin {
+
+/// Adds a property, "(NAME,"value")", to the component: reference locations for the name REFLOC, else a
+/// comment.
+void AddProperty(CMCompsInfo& component, std::string_view item);
+
+}  // namespace kestrin

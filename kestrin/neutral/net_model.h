@@ -1,0 +1,40 @@
+#pragma once
+
+/// @file
+/// What a Neutral file says of the nets of the selected board.
+
+#include "kestrin/geometry/ownership.h"
+#include "kestrin/platform/export.h"
+#include "kestrin/platform/string.h"
+
+namespace kestrin {
+
+/// A pin of a net. The component is named, not pointed to.
+class KESTRIN_EXPORT CMRefPin {
+ public:
+  CString m_sRef;  ///< the component reference: the part of the pin name before its first "-"
+  CString m_sPin;  ///< the part behind it; the whole name when there is no "-"
+};
+
+/// A net property.
+class KESTRIN_EXPORT CMNetProperty {
+ public:
+  CString m_sName;
+  CString m_sValue;
+};
+
+/// A net.
+class KESTRIN_EXPORT CMNetInfo {
+ public:
+  CString m_sName;  ///< without apostrophes
+  RecordList<CMRefPin> m_pPins;
+  RecordList<CMNetProperty> m_pProperties;  ///< always empty
+};
+
+/// The root of a Neutral file's nets.
+class KESTRIN_EXPORT CMNetList {
+ public:
+  RecordList<CMNetInfo> m_pNets;  ///< in file order
+};
+
+}  // namespace kestrin

@@ -1,0 +1,85 @@
+#include "tool/neutral_summary.h"
+
+#include <cstdio>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "tool/ranking.h"
+#include "tool/readable_text.h"
+#include "tool/text_table.h"
+
+namespace kestrin::tool {
+namespace {
+
+using Align = TextTable::Align;
+
+std::string Number(double value) {
+  CString text;
+  text.Format("%g", value);
+  return text.GetString();
+}
+
+void PrintPanel(const CMComps& components) {
+  std::printf("\nPanel: %lld placements\n", static_cast<long long>(components.m_pPanels->GetSize()));
+  TextTable table({{"placement", Align::kRight},
+                   {"board"},
+                   {"value 4", Align::kRight},
+                   {"value 5", Align::kRight},
+                   {"value 6", Align::kRight},
+                   {"value 7", Align::kRight},
+                   {"value 8", Align::kRight}});
+  int number = 0;
+  for (const CMCompsPanel* panel : *components.m_pPanels) {
+    table.AddRow({std::to_string(++number), ToTerminal(panel->m_sBoardName.View()), Number(panel->m_dValue4),
+                  Number(panel->m_dValue5), std::to_string(panel->m_nValue6),
+                  std::to_string(panel->m_nValue7), std::to_string(panel->m_nValue8)});
+  }
+  table.Print();
+}
+
+void PrintSelection(const CMComps& components, const BoardSelection& selection) {
+  std::printf("Selected: section %d of the nets and of the components, ", selection.Ordinal());
+  if (selection.Placement() < 0) {
+    std::puts("as no placement chooses another");
+    return;
+  }
+  const CMCompsPanel& chosen = *components.m_pPanels->GetAt(selection.Placement());
+  std::printf("chosen by placement %lld (%s, value 6 is %d)\n",
+              static_cast<long long>(selection.Placement() + 1),
+              ToTerminal(chosen.m_sBoardName.View()).c_str(), chosen.m_nValue6);
+}
+
+void PrintComponents(const CMComps& components) {
+  std::map<std::string_view, std::int64_t> counts;
+  for (const CMCompsInfo* component : *components.m_pInfos) ++counts[component->m_Data.m_sValue4.View()];
+  std::vector<Ranked> rows;
+  for (const auto& [geometry, count] : counts) rows.push_back({ToTerminal(geometry), count});
+  std::printf("\nComponents: %lld\n", static_cast<long long>(components.m_pInfos->GetSize()));
+  PrintGreatest(rows, "value 4 (geometry)", "components");
+}
+
+void PrintNets(const CMNetList& nets) {
+  std::int64_t pins = 0;
+  std::vector<Ranked> rows;
+  for (const CMNetInfo* net : *nets.m_pNets) {
+    pins += net->m_pPins->GetSize();
+    rows.push_back({ToTerminal(net->m_sName.View()), net->m_pPins->GetSize()});
+  }
+  std::printf("\nNets: %zu with %lld pins\n", rows.size(), static_cast<long long>(pins));
+  PrintGreatest(rows, "net", "pins");
+}
+
+}  // namespace
+
+void PrintNeutral(const CMComps& components, const CMNetList& nets, const BoardSelection& selection) {
+  std::printf("\nBoard: units %s, value 3 is %s, value 4 is %s\n",
+              ToTerminal(components.m_sUnits.View()).c_str(), Number(components.m_dBoardValue3).c_str(),
+              Number(components.m_dBoardValue4).c_str());
+  PrintPanel(components);
+  PrintSelection(components, selection);
+  PrintComponents(components);
+  PrintNets(nets);
+}
+
+}  // namespace kestrin::tool

@@ -1,0 +1,40 @@
+#include "tool/tech_summary.h"
+
+#include <cstdio>
+#include <string>
+
+#include "tool/readable_text.h"
+#include "tool/text_table.h"
+
+namespace kestrin::tool {
+namespace {
+
+using Align = TextTable::Align;
+
+std::string Joined(const CStringArray& texts) {
+  std::string joined;
+  for (const CString& text : texts) joined += (joined.empty() ? "" : ", ") + ToTerminal(text.View());
+  return joined;
+}
+
+}  // namespace
+
+void PrintTech(const CMTech& tech) {
+  std::printf("\nStack-up: %lld physical layers\n", static_cast<long long>(tech.m_pStackupArray->GetSize()));
+  TextTable layers({{"number", Align::kRight}, {"physical layer"}, {"logical layers"}});
+  for (const CMTechStackUpOrder* layer : *tech.m_pStackupArray) {
+    layers.AddRow({std::to_string(layer->m_nPhysicalLayerNumber),
+                   ToTerminal(layer->m_sPhysicalLayerName.View()), Joined(layer->m_arrLogicalLayerNames)});
+  }
+  layers.Print();
+
+  std::printf("\nVia rules: %lld\n", static_cast<long long>(tech.m_pViaArray->GetSize()));
+  TextTable vias({{"first argument"}, {"second argument"}, {"last argument"}});
+  for (const CMTechVia* via : *tech.m_pViaArray) {
+    vias.AddRow({ToTerminal(via->m_sArg1.View()), ToTerminal(via->m_sArg2.View()),
+                 ToTerminal(via->m_sArgLast.View())});
+  }
+  vias.Print();
+}
+
+}  // namespace kestrin::tool
