@@ -4,6 +4,11 @@ set -eu
 cd "$(dirname "$0")"
 
 scripts/install-packages.sh $(cat scripts/build-packages)
-[ -f build/release/build.ninja ] || cmake --preset release >/dev/null
-cmake --build --preset release --target kestrin_tool >/dev/null
-exec build/release/bin/kestrin summary examples/board
+log=$(mktemp)
+trap 'rm -f "$log"' EXIT
+if ! { { [ -f build/release/build.ninja ] || cmake --preset release; } &&
+       cmake --build --preset release --target kestrin_tool; } >"$log" 2>&1; then
+  cat "$log" >&2
+  exit 1
+fi
+build/release/bin/kestrin summary examples/board

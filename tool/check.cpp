@@ -7,8 +7,8 @@
 
 #include "tool/import.h"
 #include "tool/json_writer.h"
+#include "tool/output.h"
 #include "tool/readable_text.h"
-#include "tool/report_error.h"
 #include "tool/usage_error.h"
 
 namespace kestrin::tool {
@@ -37,14 +37,14 @@ void PrintLines(const FileReport& file) {
   std::sort(rows.begin(), rows.end(),
             [](const Row& a, const Row& b) { return a.line->number < b.line->number; });
   for (const Row& row : rows) {
-    std::printf("%s:%lld: %s: %s\n    %s\n", file.path.c_str(), static_cast<long long>(row.line->number),
-                Text(TextOf(row.code).name).c_str(), row.line->reason.c_str(),
-                ToTerminal(row.line->text).c_str());
+    std::printf("%s:%lld: %s: %s\n    %s\n", PathToTerminal(file.path).c_str(),
+                static_cast<long long>(row.line->number), Text(TextOf(row.code).name).c_str(),
+                row.line->reason.c_str(), ToTerminal(row.line->text).c_str());
   }
 }
 
 void PrintCounts(const FileReport& file) {
-  std::printf("%s: %lld lines read, %lld skipped\n", file.path.c_str(),
+  std::printf("%s: %lld lines read, %lld skipped\n", PathToTerminal(file.path).c_str(),
               static_cast<long long>(file.linesRead), static_cast<long long>(file.Skipped()));
   for (const SkipCode code : CodesIn(file)) {
     const SkippedLines& skipped = file.Skipped(code);
@@ -74,7 +74,7 @@ void WriteSkipped(JsonWriter& json, const FileReport& file) {
   json.EndArray();
 }
 
-bool WriteDocument(const std::vector<const FileReport*>& files) {
+void WriteDocument(const std::vector<const FileReport*>& files) {
   JsonWriter json;
   {
     JsonObject document(json);
@@ -82,7 +82,7 @@ bool WriteDocument(const std::vector<const FileReport*>& files) {
     json.StartArray();
     for (const FileReport* file : files) {
       JsonObject object(json);
-      object.Member("file", std::string_view(file->path))
+      object.Member("file", std::string_view(PathToUtf8(file->path)))
           .Member("lines", file->linesRead)
           .Member("imported", file->Imported())
           .Member("ignored", file->Ignored())
@@ -92,7 +92,7 @@ bool WriteDocument(const std::vector<const FileReport*>& files) {
     }
     json.EndArray();
   }
-  return json.Finish();
+  json.Finish();
 }
 
 }  // namespace
@@ -107,16 +107,15 @@ int Check(const ExportSet& files, CheckFormat format) {
     if (file.end != ReadingEnd::kNotRead) reports.push_back(&file);
   }
   if (format == CheckFormat::kJson) {
-    if (!WriteDocument(reports))
-      return ReportError("standard output: the document could not be written", kIncomplete);
+    WriteDocument(reports);
   } else {
     for (const FileReport* file : reports) PrintLines(*file);
     for (const FileReport* file : reports) PrintCounts(*file);
   }
-  if (!stopped.empty()) return ReportError(stopped, kIncomplete);
+  if (!stopped.empty()) return FinishOutput(ReportError(stopped, kIncomplete));
   const bool anySkipped =
       std::any_of(reports.begin(), reports.end(), [](auto* file) { return file->Skipped() > 0; });
-  return anySkipped ? kIncomplete : kSuccess;
+  return FinishOutput(anySkipped ? kIncomplete : kSuccess);
 }
 
 }  // namespace kestrin::tool

@@ -2,7 +2,7 @@
 
 #include "tool/import.h"
 #include "tool/model_json.h"
-#include "tool/report_error.h"
+#include "tool/output.h"
 #include "tool/usage_error.h"
 
 namespace kestrin::tool {
@@ -23,8 +23,8 @@ int Dump(const ExportSet& files) {
   const std::string stopped = Import(session, files);
   JsonWriter json;
   WriteDocument(json, session);
-  if (!json.Finish()) return ReportError("standard output: the document could not be written", kIncomplete);
-  return stopped.empty() ? kSuccess : ReportError(stopped, kIncomplete);
+  json.Finish();
+  return FinishOutput(stopped.empty() ? kSuccess : ReportError(stopped, kIncomplete));
 }
 
 }  // namespace kestrin::tool

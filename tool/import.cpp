@@ -23,7 +23,7 @@ void ReadGivenFiles(CPC_KESTRIN_GET& session, const ExportSet& files) {
   };
   for (const Step& step : kSteps) {
     if (!files.Has(step.file)) continue;
-    session.m_pStatusWnd->SetWindowTextA(step.status);
+    if (session.m_pStatusWnd != nullptr) session.m_pStatusWnd->SetWindowTextA(step.status);
     (session.*step.read)(files.PathOf(step.file));
   }
 }

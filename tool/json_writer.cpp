@@ -36,10 +36,9 @@ void JsonWriter::Utf8(std::string_view text) {
   writer_.String(text.data(), static_cast<rapidjson::SizeType>(text.size()));
 }
 
-bool JsonWriter::Finish() {
+void JsonWriter::Finish() {
   stream_.Put('\n');
   stream_.Flush();
-  return std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
 }
 
 }  // namespace kestrin::tool

@@ -37,11 +37,11 @@ class JsonWriter {
   void Double(double value);
   /// Bytes from 128 on stand for the code points of the same number.
   void String(std::string_view bytes);
-  /// Text that is UTF-8 already, as the tool's own texts and the names of files are.
+  /// Text that is UTF-8 already.
   void Utf8(std::string_view text);
 
-  /// Ends the document; false when it could not be written.
-  [[nodiscard]] bool Finish();
+  /// Ends the document.
+  void Finish();
 
  private:
   std::array<char, 65536> buffer_;

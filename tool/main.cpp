@@ -5,7 +5,7 @@
 #include "tool/check.h"
 #include "tool/dump.h"
 #include "tool/export_set.h"
-#include "tool/report_error.h"
+#include "tool/output.h"
 #include "tool/summary.h"
 #include "tool/usage_error.h"
 

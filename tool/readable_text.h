@@ -15,4 +15,10 @@ namespace kestrin::tool {
 /// The same for a terminal: control characters are written as \xNN.
 [[nodiscard]] std::string ToTerminal(std::string_view bytes);
 
+/// The name of a file, which is UTF-8 on most machines, as valid UTF-8.
+[[nodiscard]] std::string PathToUtf8(std::string_view path);
+
+/// The same for a terminal.
+[[nodiscard]] std::string PathToTerminal(std::string_view path);
+
 }  // namespace kestrin::tool

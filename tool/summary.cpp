@@ -5,7 +5,8 @@
 
 #include "tool/import.h"
 #include "tool/neutral_summary.h"
-#include "tool/report_error.h"
+#include "tool/output.h"
+#include "tool/readable_text.h"
 #include "tool/tech_summary.h"
 #include "tool/text_table.h"
 #include "tool/usage_error.h"
@@ -35,7 +36,7 @@ void PrintFiles(const ImportReport& report) {
     if (file.end == ReadingEnd::kNotRead) continue;
     table.AddRow({kind.name, std::to_string(file.linesRead), std::to_string(file.Imported()),
                   std::to_string(file.Ignored()), std::to_string(file.Skipped()), Milliseconds(file.duration),
-                  file.path});
+                  PathToTerminal(file.path)});
   }
   table.Print();
 }
@@ -50,7 +51,7 @@ int Summary(const ExportSet& files) {
   if (const CMTech* tech = session.GetTech()) PrintTech(*tech);
   if (session.GetComps() != nullptr)
     PrintNeutral(*session.GetComps(), *session.GetNetList(), session.GetReport().boardSelection);
-  return stopped.empty() ? kSuccess : ReportError(stopped, kIncomplete);
+  return FinishOutput(stopped.empty() ? kSuccess : ReportError(stopped, kIncomplete));
 }
 
 }  // namespace kestrin::tool

@@ -6,6 +6,13 @@
 #include <cstdio>
 
 namespace kestrin::tool {
+namespace {
+
+// A line that wrapped would be two to wipe off.
+const std::string kNoWrap = "\x1b[?7l";
+const std::string kWrap = "\x1b[?7h";
+
+}  // namespace
 
 TerminalDialog::TerminalDialog(const ExportSet& files)
     : files_(files),
@@ -16,6 +23,7 @@ TerminalDialog::TerminalDialog(const ExportSet& files)
 TerminalDialog::~TerminalDialog() { Wipe(); }
 
 void TerminalDialog::Attach(CPC_KESTRIN_GET& session) {
+  if (!shown_) return;
   const auto bar = [this](ImportFile file) { return &bars_[static_cast<std::size_t>(file)]; };
   session.m_pStatusWnd = &status_;
   session.SetProgressPtr(bar(ImportFile::kGeometry), bar(ImportFile::kNeutral), bar(ImportFile::kTraces),
@@ -33,14 +41,14 @@ void TerminalDialog::StatusText::SetWindowTextA(const char* newText) {
 }
 
 LRESULT TerminalDialog::Bar::WindowProc(UINT message, WPARAM wParam, LPARAM /*lParam*/) {
-  if (message == PBM_SETPOS) percent = std::min(static_cast<int>(wParam), 100);
+  if (message == PBM_SETPOS) percent = static_cast<int>(std::min<WPARAM>(wParam, 100));
   return 0;
 }
 
 void TerminalDialog::Draw() {
   if (!shown_) return;
   Wipe();
-  std::string picture = status_.text + "\n";
+  std::string picture = kNoWrap + status_.text + "\n";
   linesDrawn_ = 1;
   for (const FileKind& kind : kFileKinds) {
     if (!files_.Has(kind.file)) continue;
@@ -53,7 +61,7 @@ void TerminalDialog::Draw() {
     picture += line;
     ++linesDrawn_;
   }
-  std::fputs(picture.c_str(), stderr);
+  std::fputs((picture + kWrap).c_str(), stderr);
 }
 
 void TerminalDialog::Wipe() {

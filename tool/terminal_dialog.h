@@ -19,7 +19,8 @@ class TerminalDialog : public CWnd {
   explicit TerminalDialog(const ExportSet& files);
   ~TerminalDialog() override;
 
-  /// Makes the session report to this dialog; the dialog must outlive the import.
+  /// Makes the session report to this dialog, where there is something to see; the dialog must outlive the
+  /// import.
   void Attach(CPC_KESTRIN_GET& session);
 
   BOOL UpdateData(BOOL saveAndValidate) override;

@@ -13,6 +13,15 @@ std::size_t WidthOf(const std::string& text) {
       text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
 }
 
+/// So that one long name does not make every row as long.
+std::string Cut(std::string text) {
+  constexpr std::size_t kMostBytes = 110;
+  if (text.size() <= kMostBytes) return text;
+  std::size_t end = kMostBytes;
+  while ((static_cast<unsigned char>(text[end]) & 0xC0) == 0x80) --end;  // not inside a character
+  return text.substr(0, end) + "…";
+}
+
 }  // namespace
 
 TextTable::TextTable(std::vector<Column> columns) : columns_(std::move(columns)), widths_(columns_.size()) {
@@ -22,7 +31,10 @@ TextTable::TextTable(std::vector<Column> columns) : columns_(std::move(columns))
 }
 
 void TextTable::AddRow(std::vector<std::string> cells) {
-  for (std::size_t i = 0; i < widths_.size(); ++i) widths_[i] = std::max(widths_[i], WidthOf(cells[i]));
+  for (std::size_t i = 0; i < widths_.size(); ++i) {
+    cells[i] = Cut(std::move(cells[i]));
+    widths_[i] = std::max(widths_[i], WidthOf(cells[i]));
+  }
   rows_.push_back(std::move(cells));
 }
 

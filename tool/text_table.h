@@ -20,7 +20,7 @@ class TextTable {
 
   explicit TextTable(std::vector<Column> columns);
 
-  /// As many cells as there are columns.
+  /// As many cells as there are columns; long ones are cut.
   void AddRow(std::vector<std::string> cells);
   /// Prints to standard output, indented.
   void Print() const;

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <type_traits>
+#include <unordered_map>
 #include <unordered_set>
 
 #include "kestrin/platform/array.h"
@@ -17,7 +18,7 @@ namespace kestrin {
 /// no other array that deletes it.
 ///
 /// Unlike the framework's array it answers null, -1 or false to an index or a record that it does not have;
-/// only MoveElementTo and DeleteAt raise CInvalidArgException for indexes outside it.
+/// of its own operations only MoveElementTo and DeleteAt raise CInvalidArgException for indexes outside it.
 template <class POINTER>
 class CExPtrArray : public CArray<POINTER, POINTER> {
   static_assert(std::is_pointer_v<POINTER>);
@@ -115,8 +116,12 @@ POINTER CExPtrArray<POINTER>::RemoveLastElement() {
 
 template <class POINTER>
 void CExPtrArray<POINTER>::Subtract(const Base& other) {
-  if (&other == this) return this->RemoveAll();
-  for (POINTER element : other) Remove(element);
+  std::unordered_map<POINTER, std::int64_t> left;
+  for (POINTER element : other) ++left[element];
+  CutAt(std::remove_if(this->begin(), this->end(), [&](POINTER element) {
+    const auto found = left.find(element);
+    return found != left.end() && found->second-- > 0;
+  }));
 }
 
 template <class POINTER>

@@ -55,7 +55,7 @@ class CArray : public CObject {
   /// Stores an element, growing the array to its index when needed; a negative index raises.
   void SetAtGrow(std::int64_t index, ARG_TYPE element);
   /// Appends; returns the element's index.
-  std::int64_t Add(ARG_TYPE element);
+  std::int64_t Add(ARG_TYPE element) { return Emplace(element); }
   /// Appends copies of another array's elements; returns the index of the first. Another array than this one.
   std::int64_t Append(const CArray& source);
   /// Makes this array a copy of another; of itself, nothing.
@@ -75,6 +75,10 @@ class CArray : public CObject {
   [[nodiscard]] const TYPE* end() const noexcept { return m_pData + m_nSize; }
 
  protected:
+  /// Appends an element made from the arguments; returns its index.
+  template <class... Arguments>
+  std::int64_t Emplace(Arguments&&... arguments);
+
   TYPE* m_pData = nullptr;
   std::int64_t m_nSize = 0;
   std::int64_t m_nMaxSize = 0;  // capacity; the memory behind it may be larger, see AllocatedSlots
@@ -89,6 +93,7 @@ class CArray : public CObject {
     if (more > std::numeric_limits<std::int64_t>::max() - first) throw std::bad_alloc();
     return first + more;
   }
+  void Reserve(std::int64_t newSize, std::int64_t growBy);
   void SetCapacity(std::int64_t capacity);
   void Release() noexcept;
   void OpenGap(std::int64_t index, std::int64_t count);
@@ -97,21 +102,30 @@ class CArray : public CObject {
 template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::SetSize(std::int64_t newSize, std::int64_t growBy) {
   if (newSize < 0) AfxThrowInvalidArgException();
-  if (growBy >= 0) m_nGrowBy = growBy;
-  if (newSize == 0) return Release();
-  if (m_pData == nullptr) {
-    SetCapacity(std::max(newSize, m_nGrowBy));
-  } else if (newSize > m_nMaxSize) {
-    const std::int64_t step =
-        m_nGrowBy != 0 ? m_nGrowBy : std::clamp(m_nSize / 8, kSmallestStep, kGreatestStep);
-    SetCapacity(step > newSize - m_nMaxSize ? m_nMaxSize + step : newSize);
-  }
-  if (newSize > m_nSize) {
-    std::uninitialized_value_construct_n(m_pData + m_nSize, newSize - m_nSize);
+  const std::int64_t step = growBy < 0 ? m_nGrowBy : growBy;
+  if (newSize == 0) {
+    Release();
   } else {
-    std::destroy_n(m_pData + newSize, m_nSize - newSize);
+    Reserve(newSize, step);
+    if (newSize > m_nSize) {
+      std::uninitialized_value_construct_n(m_pData + m_nSize, newSize - m_nSize);
+    } else {
+      std::destroy_n(m_pData + newSize, m_nSize - newSize);
+    }
+    m_nSize = newSize;
   }
-  m_nSize = newSize;
+  m_nGrowBy = step;
+}
+
+/// Makes the capacity hold a size, by the framework's growth rule.
+template <class TYPE, class ARG_TYPE>
+void CArray<TYPE, ARG_TYPE>::Reserve(std::int64_t newSize, std::int64_t growBy) {
+  if (m_pData == nullptr) {
+    SetCapacity(std::max(newSize, growBy));
+  } else if (newSize > m_nMaxSize) {
+    const std::int64_t step = growBy != 0 ? growBy : std::clamp(m_nSize / 8, kSmallestStep, kGreatestStep);
+    SetCapacity(std::max(newSize, SizeOf(m_nMaxSize, step)));
+  }
 }
 
 template <class TYPE, class ARG_TYPE>
@@ -133,15 +147,12 @@ void CArray<TYPE, ARG_TYPE>::SetAtGrow(std::int64_t index, ARG_TYPE element) {
 }
 
 template <class TYPE, class ARG_TYPE>
-std::int64_t CArray<TYPE, ARG_TYPE>::Add(ARG_TYPE element) {
-  const std::int64_t index = m_nSize;
-  if (index < m_nMaxSize) {
-    std::construct_at(m_pData + index, element);
-    ++m_nSize;
-  } else {
-    SetAtGrow(index, element);
-  }
-  return index;
+template <class... Arguments>
+std::int64_t CArray<TYPE, ARG_TYPE>::Emplace(Arguments&&... arguments) {
+  TYPE value(std::forward<Arguments>(arguments)...);  // which may come from the memory that is about to move
+  if (m_nSize == m_nMaxSize) Reserve(SizeOf(m_nSize, 1), m_nGrowBy);
+  std::construct_at(m_pData + m_nSize, std::move(value));
+  return m_nSize++;
 }
 
 template <class TYPE, class ARG_TYPE>
@@ -184,6 +195,7 @@ void CArray<TYPE, ARG_TYPE>::InsertAt(std::int64_t startIndex, const CArray* sou
 template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::RemoveAt(std::int64_t index, std::int64_t count) {
   if (index < 0 || count < 0 || index > m_nSize || count > m_nSize - index) AfxThrowInvalidArgException();
+  if (count == 0) return;
   std::move(m_pData + index + count, m_pData + m_nSize, m_pData + index);
   std::destroy_n(m_pData + m_nSize - count, count);
   m_nSize -= count;

@@ -17,7 +17,7 @@ bool InputFile::Open(const char* path) {
 
 std::size_t InputFile::Read(char* bytes, std::size_t size) {
   const std::size_t count = std::fread(bytes, 1, size, file_.get());
-  if (count < size && std::ferror(file_.get()) != 0) throw CFileException();
+  if (count == 0 && size > 0 && std::ferror(file_.get()) != 0) throw CFileException();
   return count;
 }
 

@@ -17,7 +17,8 @@ class InputFile {
   [[nodiscard]] bool IsOpen() const { return file_ != nullptr; }
   void Close() { file_.reset(); }
 
-  /// Reads up to size bytes and returns how many; 0 at the end. Raises CFileException on a read error.
+  /// Reads up to size bytes and returns how many; 0 at the end. Raises CFileException on a read error,
+  /// once all that came before it has been given.
   [[nodiscard]] std::size_t Read(char* bytes, std::size_t size);
 
  private:

@@ -15,12 +15,15 @@ struct Magnitude {
   bool negative = false;
 };
 
+Magnitude SkipSign(std::string_view text) {
+  if (text.starts_with('-')) return {text.substr(1), true};
+  if (text.starts_with('+')) return {text.substr(1), false};
+  return {text, false};
+}
+
 Magnitude SkipSpaceAndSign(std::string_view text) {
-  std::size_t start = 0;
-  while (start < text.size() && IsSpace(text[start])) ++start;
-  bool negative = false;
-  if (start < text.size() && (text[start] == '-' || text[start] == '+')) negative = text[start++] == '-';
-  return {text.substr(start), negative};
+  while (!text.empty() && IsSpace(text.front())) text.remove_prefix(1);
+  return SkipSign(text);
 }
 
 bool StartsDecimal(std::string_view text) {
@@ -45,7 +48,7 @@ bool IsHuge(std::string_view digits) {
     if (!started && fraction) --places;
   }
   if (i >= digits.size() || (digits[i] != 'e' && digits[i] != 'E')) return places > 0;
-  const Magnitude exponent = SkipSpaceAndSign(digits.substr(i + 1));
+  const Magnitude exponent = SkipSign(digits.substr(i + 1));
   std::int64_t power = 0;
   for (const char c : exponent.text) {
     if (!IsDigit(c) || power > kFarOut) break;

@@ -3,6 +3,7 @@
 /// @file
 /// The framework's 8-bit character string.
 
+#include <compare>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -93,9 +94,11 @@ class KESTRIN_EXPORT CString {
 
   friend bool operator==(const CString& a, const CString& b) noexcept { return a.text_ == b.text_; }
   friend bool operator==(const CString& a, const char* b) noexcept { return a.Compare(b) == 0; }
-  friend bool operator<(const CString& a, const CString& b) noexcept { return a.text_ < b.text_; }
+  friend auto operator<=>(const CString& a, const CString& b) noexcept { return a.text_ <=> b.text_; }
+  friend auto operator<=>(const CString& a, const char* b) noexcept { return a.Compare(b) <=> 0; }
   friend CString operator+(CString a, const CString& b) { return a += b; }
   friend CString operator+(CString a, const char* b) { return a += b; }
+  friend CString operator+(CString a, char b) { return a += b; }
   friend std::ostream& operator<<(std::ostream& out, const CString& text) { return out << text.text_; }
 
  private:

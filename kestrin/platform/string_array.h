@@ -3,12 +3,22 @@
 /// @file
 /// The framework's array of strings.
 
+#include <cstdint>
+#include <string>
+#include <string_view>
+
 #include "kestrin/platform/array.h"
 #include "kestrin/platform/string.h"
 
 namespace kestrin {
 
 /// An ordered array of strings that it owns; indexes are checked as in CArray.
-class CStringArray : public CArray<CString, const CString&> {};
+class CStringArray : public CArray<CString, const CString&> {
+ public:
+  using CArray::Add;
+  std::int64_t Add(std::string_view text) { return Emplace(text); }
+  std::int64_t Add(const char* text) { return Emplace(text); }
+  std::int64_t Add(const std::string& text) { return Emplace(text); }
+};
 
 }  // namespace kestrin

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 
+#include "kestrin/platform/numbers.h"
 #include "kestrin/platform/window.h"
 
 namespace kestrin {
@@ -31,7 +32,7 @@ class ProgressDisplay {
   /// The line of this number, counted from 1, has been read.
   void LineRead(std::int64_t number) {
     if (!IsShown()) return;
-    const int percent = static_cast<int>(static_cast<double>(number) / lineCount_ * 100.0);
+    const int percent = ToInt(static_cast<double>(number) / lineCount_ * 100.0);
     if (percent != lastPercent_) Show(percent);
   }
 

@@ -43,7 +43,9 @@ class KESTRIN_EXPORT CPC_KESTRIN_GET {
   void vSetGeomFilePath(CString path);
   void vSetTraceFilePath(CString path);
 
-  /// The bars stay the host's; any may be null. The dialog that is refreshed is the parent of a bar.
+  /// The bars stay the host's and must outlive vParse, as the status window must; only the bar and the dialog
+  /// of the file that is being read may go under way. Any may be null. The parent of a bar is what is
+  /// refreshed.
   void SetProgressPtr(CProgressCtrl* geomProgress, CProgressCtrl* neutralProgress,
                       CProgressCtrl* traceProgress, CProgressCtrl* techProgress);
 
@@ -78,8 +80,8 @@ class KESTRIN_EXPORT CPC_KESTRIN_GET {
   /// behind the start index, -1 for the whole line; a start index below -1 raises CInvalidArgException.
   void SeparateLineBasedonComma(CString line, CStringArray& fields) const;
   void SeparateLineBasedonSpace(CString line, int start, CStringArray& fields) const;
-  /// Groups in parentheses, without the spaces outside double quotes. Text that a closing parenthesis ends
-  /// without an opening one before it is dropped; text behind the last group is a field.
+  /// Groups in parentheses, without the spaces outside double quotes. Text that a closing parenthesis ends is
+  /// dropped unless it begins with an opening one; text behind the last group is a field.
   void SeparateLineForCompProperty(CString line, int start, CStringArray& fields) const;
 
   CWnd* m_pStatusWnd = nullptr;  ///< the host's; its text says which file is being read

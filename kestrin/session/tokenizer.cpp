@@ -67,11 +67,12 @@ void CTokenizer::GetStringArrayFromStringToken(CString& string, CStringArray& en
   CharacterSet space;
   AddCharacters(space, " ");
   std::string entry;
+  bool open = false;  // the entry is a phrase whose closing quote has not come yet
   std::size_t position = 0;
   while (const auto word = NextToken(string.View(), space, position)) {
+    const auto quotes = std::count(word->begin(), word->end(), '"');
+    open = open ? quotes == 0 : quotes == 1 && word->front() == '"';
     entry += *word;
-    const std::size_t firstQuote = entry.find('"');
-    const bool open = firstQuote == 0 && entry.rfind('"') == 0;
     if (open) {
       entry += ' ';
       continue;

@@ -17,6 +17,9 @@ class KESTRIN_EXPORT CTokenizer {
  public:
   CTokenizer() = default;
   CTokenizer(const CString& string, const CString& delimiters);
+  CTokenizer(const CTokenizer&) = default;  // to move a tokenizer is to copy it
+  CTokenizer& operator=(const CTokenizer&) = default;
+  ~CTokenizer() = default;
 
   /// Adds characters to the delimiters; those set before stay.
   void SetDelimiters(const CString& delimiters);

@@ -3,6 +3,7 @@
 /// @file
 /// What became of a line of an import file.
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -17,6 +18,7 @@ enum class SkipCode : std::uint8_t {
   kUnendedKeyword,
   kWrongValueCount,
   kNoOwner,
+  kCount,  // of the codes
 };
 
 /// A skip code as users see it.
@@ -32,6 +34,7 @@ inline constexpr std::array kSkipCodes{
     SkipCodeText{"wrong-value-count", "the record does not have the number of values that its kind takes"},
     SkipCodeText{"no-owner", "the record that this one belongs to does not stand before it"},
 };
+static_assert(kSkipCodes.size() == static_cast<std::size_t>(SkipCode::kCount));
 
 [[nodiscard]] constexpr const SkipCodeText& TextOf(SkipCode code) {
   return kSkipCodes[static_cast<std::size_t>(code)];
@@ -61,8 +64,8 @@ class LineOutcome {
   }
   /// The line has this many values, which is not what the rule asks for.
   [[nodiscard]] static constexpr LineOutcome WrongValueCount(const RecordRule& rule, std::size_t valueCount) {
-    return {Kind::kSkipped, SkipCode::kWrongValueCount, static_cast<std::int32_t>(valueCount & 0x7FFFFFFF),
-            &rule};
+    return {Kind::kSkipped, SkipCode::kWrongValueCount,
+            static_cast<std::int32_t>(std::min<std::size_t>(valueCount, INT32_MAX)), &rule};
   }
 
   [[nodiscard]] constexpr Kind GetKind() const { return kind_; }

@@ -58,6 +58,9 @@ TEST(Array, KeepsAGrowthStepOfItsOwn) {
   EXPECT_EQ(array.Capacity(), 40);
   array.SetSize(41, 0);
   EXPECT_EQ(array.Capacity(), 45);
+  EXPECT_THROW(array.SetSize(46, std::numeric_limits<std::int64_t>::max()), std::bad_alloc);
+  array.SetSize(46);
+  EXPECT_EQ(array.Capacity(), 50);
 }
 
 TEST(Array, AppendingMillionsKeepsEveryElement) {
@@ -124,6 +127,7 @@ TEST(StringArray, HoldsValuesThroughGrowthAndGaps) {
     array.SetAtGrow(i, CString(std::to_string(i) + " is longer than fits in place"));
   array.Add(array[0]);
   EXPECT_EQ(array[50], array[0]);
+  array.RemoveAt(0, 0);
   array.SetSize(2);
   array.InsertAt(1, "new");
   array.SetAtGrow(4, "last");

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "kestrin/platform/exceptions.h"
 #include "kestrin/session/line_count.h"
 #include "tests/support/temporary_folder.h"
 
@@ -57,6 +58,14 @@ TEST(StdioFile, ALineFeedMayStandOnEitherSideOfABlock) {
     EXPECT_EQ(line, "c");
     EXPECT_FALSE(file.ReadString(line));
   }
+}
+
+TEST(StdioFile, AReadErrorIsAnException) {
+  CStdioFile file;
+  ASSERT_NE(file.Open("/proc/self/mem"), 0);  // opens, but has nothing at its start
+  CString line;
+  EXPECT_THROW(file.ReadString(line), CFileException);
+  EXPECT_EQ(CountLines("/proc/self/mem"), 1);
 }
 
 TEST(StdioFile, OpensNeitherWhatIsMissingNorAFolder) {

@@ -18,6 +18,13 @@ TEST(String, GivesBytesUpToAndIncludingTheEnd) {
   EXPECT_EQ(CString(static_cast<const char*>(nullptr)), "");
 }
 
+TEST(String, ComparesAndJoinsTextsNotPointers) {
+  const CString a("a");
+  const CString b("b");
+  EXPECT_TRUE(a < b && b > a && a <= b && b >= a && a >= CString("a") && a < "b" && a != b && a != "b");
+  EXPECT_EQ(a + '/' + b + "!", "a/b!");
+}
+
 TEST(String, FindsFromAStart) {
   const CString text("a-b-c");
   EXPECT_EQ(text.Find('-'), 1);

@@ -70,6 +70,14 @@ TEST(ReaderLoop, PositionsAreTruncatedPercentagesOfOneMoreThanTheLineFeeds) {
   }
 }
 
+TEST(ReaderLoop, ABarStopsAtTheGreatestPositionWhenAFileGrows) {
+  RecordingDialog host;
+  ProgressDisplay progress(&host.neutralBar, false);
+  progress.SetLineCount(1);
+  progress.LineRead(30'000'000'000);
+  EXPECT_EQ(host.events, (Events{"neutral bar: position 2147483647", "dialog: refresh"}));
+}
+
 TEST(ReaderLoop, DisablesTheBarAndPumpsMessagesAsTold) {
   const test::TemporaryFolder folder;
   const std::string path = folder.File("text", "a\nb");

@@ -116,6 +116,32 @@ TEST(Tool, ChecksWhatAnImportSkips) {
   EXPECT_STREQ(report["codes"][0]["lines"][0]["text"].GetString(), "what\x07 is é this");
 }
 
+TEST(Tool, SaysThatItsOutputCannotBeWrittenOrAFileNotRead) {
+  for (const std::string command : {"summary", "dump", "check", "check --format json"}) {
+    const auto unwritten = RunTool(command + " --tech " + kBoard + "/board.tech 2>&1 >/dev/full | cat");
+    EXPECT_EQ(unwritten.out, "kestrin: standard output could not be written\n") << command;
+    const auto unreadable = RunTool(command + " --tech /proc/self/mem");
+    EXPECT_EQ(unreadable.status, 1);
+    EXPECT_TRUE(IsOneLine(unreadable.err)) << unreadable.err;
+  }
+}
+
+TEST(Tool, NamesAnyFileInValidOutput) {
+  const TemporaryFolder folder;
+  const std::string file = folder.File("a\xFF\x1B.tech", "noise");
+  const auto json = RunTool("check --format json --tech '" + file + "'");
+  rapidjson::Document document;
+  EXPECT_FALSE((document.Parse<rapidjson::kParseValidateEncodingFlag>(json.out.c_str()).HasParseError()));
+  EXPECT_NE(RunTool("check --tech '" + file + "'").out.find("a\xC3\xBF\\x1B.tech:1:"), std::string::npos);
+}
+
+TEST(Tool, CutsLongNamesInTables) {
+  const TemporaryFolder folder;
+  std::string lines = "$$define_rule_via(" + std::string(100'000, 'x') + ")\n";
+  for (int i = 0; i < 100; ++i) lines += "$$define_rule_via(V)\n";
+  EXPECT_LT(RunTool("summary --tech " + folder.File("a.tech", lines)).out.size(), 20'000U);
+}
+
 TEST(Tool, SummarizesTheSampleBoardAndFindsNothingSkipped) {
   const auto summary = RunTool("summary " + kBoard);
   EXPECT_EQ(summary.status, 0);

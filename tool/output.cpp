@@ -1,0 +1,20 @@
+#include "tool/output.h"
+
+#include <cstdio>
+
+#include "tool/readable_text.h"
+#include "tool/usage_error.h"
+
+namespace kestrin::tool {
+
+int ReportError(const std::string& what, int exitStatus) {
+  std::fprintf(stderr, "kestrin: %s\n", PathToTerminal(what).c_str());
+  return exitStatus;
+}
+
+int FinishOutput(int exitStatus) {
+  if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return exitStatus;
+  return ReportError("standard output could not be written", kIncomplete);
+}
+
+}  // namespace kestrin::tool
