@@ -1,6 +1,7 @@
 #include "tool/check.h"
 
 #include <algorithm>
+#include <cinttypes>
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -37,20 +38,20 @@ void PrintLines(const FileReport& file) {
   std::sort(rows.begin(), rows.end(),
             [](const Row& a, const Row& b) { return a.line->number < b.line->number; });
   for (const Row& row : rows) {
-    std::printf("%s:%lld: %s: %s\n    %s\n", PathToTerminal(file.path).c_str(),
-                static_cast<long long>(row.line->number), Text(TextOf(row.code).name).c_str(),
-                row.line->reason.c_str(), ToTerminal(row.line->text).c_str());
+    std::printf("%s:%" PRId64 ": %s: %s\n    %s\n", PathToTerminal(file.path).c_str(), row.line->number,
+                Text(TextOf(row.code).name).c_str(), row.line->reason.c_str(),
+                ToTerminal(row.line->text).c_str());
   }
 }
 
 void PrintCounts(const FileReport& file) {
-  std::printf("%s: %lld lines read, %lld skipped\n", PathToTerminal(file.path).c_str(),
-              static_cast<long long>(file.linesRead), static_cast<long long>(file.Skipped()));
+  std::printf("%s: %" PRId64 " lines read, %" PRId64 " skipped\n", PathToTerminal(file.path).c_str(),
+              file.linesRead, file.Skipped());
   for (const SkipCode code : CodesIn(file)) {
     const SkippedLines& skipped = file.Skipped(code);
     const auto unlisted = skipped.count - static_cast<std::int64_t>(skipped.first.size());
     std::printf(
-        "  %s: %lld%s\n", Text(TextOf(code).name).c_str(), static_cast<long long>(skipped.count),
+        "  %s: %" PRId64 "%s\n", Text(TextOf(code).name).c_str(), skipped.count,
         unlisted > 0 ? (" (the first " + std::to_string(skipped.first.size()) + " are listed)").c_str() : "");
   }
 }

@@ -1,5 +1,6 @@
 #include "tool/neutral_summary.h"
 
+#include <cinttypes>
 #include <cstdio>
 #include <map>
 #include <string>
@@ -21,7 +22,7 @@ std::string Number(double value) {
 }
 
 void PrintPanel(const CMComps& components) {
-  std::printf("\nPanel: %lld placements\n", static_cast<long long>(components.m_pPanels->GetSize()));
+  std::printf("\nPanel: %" PRId64 " placements\n", components.m_pPanels->GetSize());
   TextTable table({{"placement", Align::kRight},
                    {"board"},
                    {"value 4", Align::kRight},
@@ -45,8 +46,7 @@ void PrintSelection(const CMComps& components, const BoardSelection& selection) 
     return;
   }
   const CMCompsPanel& chosen = *components.m_pPanels->GetAt(selection.Placement());
-  std::printf("chosen by placement %lld (%s, value 6 is %d)\n",
-              static_cast<long long>(selection.Placement() + 1),
+  std::printf("chosen by placement %" PRId64 " (%s, value 6 is %d)\n", selection.Placement() + 1,
               ToTerminal(chosen.m_sBoardName.View()).c_str(), chosen.m_nValue6);
 }
 
@@ -54,8 +54,9 @@ void PrintComponents(const CMComps& components) {
   std::map<std::string_view, std::int64_t> counts;
   for (const CMCompsInfo* component : *components.m_pInfos) ++counts[component->m_Data.m_sValue4.View()];
   std::vector<Ranked> rows;
+  rows.reserve(counts.size());
   for (const auto& [geometry, count] : counts) rows.push_back({ToTerminal(geometry), count});
-  std::printf("\nComponents: %lld\n", static_cast<long long>(components.m_pInfos->GetSize()));
+  std::printf("\nComponents: %" PRId64 "\n", components.m_pInfos->GetSize());
   PrintGreatest(rows, "value 4 (geometry)", "components");
 }
 
@@ -66,7 +67,7 @@ void PrintNets(const CMNetList& nets) {
     pins += net->m_pPins->GetSize();
     rows.push_back({ToTerminal(net->m_sName.View()), net->m_pPins->GetSize()});
   }
-  std::printf("\nNets: %zu with %lld pins\n", rows.size(), static_cast<long long>(pins));
+  std::printf("\nNets: %zu with %" PRId64 " pins\n", rows.size(), pins);
   PrintGreatest(rows, "net", "pins");
 }
 

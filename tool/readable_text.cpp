@@ -45,7 +45,7 @@ std::string ToTerminal(std::string_view bytes) {
 }
 
 std::string PathToUtf8(std::string_view path) {
-  const std::string text(path);
+  std::string text(path);
   rapidjson::StringStream stream(text.c_str());
   for (unsigned codePoint = 0; stream.Peek() != '\0';) {
     if (!rapidjson::UTF8<>::Decode(stream, &codePoint)) return ToUtf8(path);

@@ -1,5 +1,6 @@
 #include "tool/tech_summary.h"
 
+#include <cinttypes>
 #include <cstdio>
 #include <string>
 
@@ -20,7 +21,7 @@ std::string Joined(const CStringArray& texts) {
 }  // namespace
 
 void PrintTech(const CMTech& tech) {
-  std::printf("\nStack-up: %lld physical layers\n", static_cast<long long>(tech.m_pStackupArray->GetSize()));
+  std::printf("\nStack-up: %" PRId64 " physical layers\n", tech.m_pStackupArray->GetSize());
   TextTable layers({{"number", Align::kRight}, {"physical layer"}, {"logical layers"}});
   for (const CMTechStackUpOrder* layer : *tech.m_pStackupArray) {
     layers.AddRow({std::to_string(layer->m_nPhysicalLayerNumber),
@@ -28,7 +29,7 @@ void PrintTech(const CMTech& tech) {
   }
   layers.Print();
 
-  std::printf("\nVia rules: %lld\n", static_cast<long long>(tech.m_pViaArray->GetSize()));
+  std::printf("\nVia rules: %" PRId64 "\n", tech.m_pViaArray->GetSize());
   TextTable vias({{"first argument"}, {"second argument"}, {"last argument"}});
   for (const CMTechVia* via : *tech.m_pViaArray) {
     vias.AddRow({ToTerminal(via->m_sArg1.View()), ToTerminal(via->m_sArg2.View()),
