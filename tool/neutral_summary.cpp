@@ -40,13 +40,14 @@ void PrintPanel(const CMComps& components) {
 }
 
 void PrintSelection(const CMComps& components, const BoardSelection& selection) {
-  std::printf("Selected: section %d of the nets and of the components, ", selection.Ordinal());
-  if (selection.Placement() < 0) {
+  std::printf("Selected: nets section %d of %d, component section %d of %d, ", selection.ordinal,
+              selection.netsSections, selection.ordinal, selection.componentSections);
+  if (selection.placement < 0) {
     std::puts("as no placement chooses another");
     return;
   }
-  const CMCompsPanel& chosen = *components.m_pPanels->GetAt(selection.Placement());
-  std::printf("chosen by placement %" PRId64 " (%s, value 6 is %d)\n", selection.Placement() + 1,
+  const CMCompsPanel& chosen = *components.m_pPanels->GetAt(selection.placement);
+  std::printf("chosen by placement %" PRId64 " (%s, value 6 is %d)\n", selection.placement + 1,
               ToTerminal(chosen.m_sBoardName.View()).c_str(), chosen.m_nValue6);
 }
 
@@ -74,7 +75,7 @@ void PrintNets(const CMNetList& nets) {
 }  // namespace
 
 void PrintNeutral(const CMComps& components, const CMNetList& nets, const BoardSelection& selection) {
-  std::printf("\nBoard: units %s, value 3 is %s, value 4 is %s\n",
+  std::printf("\nBoard: units \"%s\", value 3 is %s, value 4 is %s\n",
               ToTerminal(components.m_sUnits.View()).c_str(), Number(components.m_dBoardValue3).c_str(),
               Number(components.m_dBoardValue4).c_str());
   PrintPanel(components);

@@ -39,6 +39,7 @@ void TextTable::AddRow(std::vector<std::string> cells) {
 }
 
 void TextTable::Print() const {
+  if (rows_.size() == 1) return;
   for (const auto& row : rows_) PrintRow(row);
 }
 

@@ -22,7 +22,7 @@ class TextTable {
 
   /// As many cells as there are columns; long ones are cut.
   void AddRow(std::vector<std::string> cells);
-  /// Prints to standard output, indented.
+  /// Prints to standard output, indented; nothing when there are no rows.
   void Print() const;
 
  private:

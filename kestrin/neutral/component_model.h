@@ -50,7 +50,7 @@ class KESTRIN_EXPORT CMCompsInfo {
  public:
   CString m_sExtra1;  ///< not filled
   tagMCOMPDATA m_Data;
-  CString m_sRefLocFirst;                   ///< the first value of its last REFLOC property
+  CString m_sRefLocFirst;                   ///< the first value of its last REFLOC property with values
   RecordList<CMCompsRefLoc> m_pRefLocs;     ///< the groups of its REFLOC properties
   CString m_sExtra2;                        ///< not filled
   RecordList<tagMCOMPCOMMENT> m_pComments;  ///< its other properties, in file order

@@ -26,7 +26,7 @@ class KESTRIN_EXPORT CMNetProperty {
 /// A net.
 class KESTRIN_EXPORT CMNetInfo {
  public:
-  CString m_sName;  ///< without apostrophes
+  CString m_sName;  ///< without apostrophes and trailing white space
   RecordList<CMRefPin> m_pPins;
   RecordList<CMNetProperty> m_pProperties;  ///< always empty
 };

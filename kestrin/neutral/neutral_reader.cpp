@@ -28,12 +28,12 @@ constexpr RecordRule kPropertyOwner{"C_PROP", "a COMP before it"};
 
 /// A row of the table of records.
 struct NeutralReader::Record {
-  RecordRule rule;  // the keyword, and the number of values for people
-  bool cutsValues;  // at spaces, before it is read
-  std::size_t fewest;
-  std::size_t most;
-  bool (NeutralReader::*isTaken)() const;
-  LineOutcome (NeutralReader::*read)();  // null for a record that carries nothing for the models
+  RecordRule rule;  // the keyword, and what the record takes
+  bool cutsValues = false;
+  std::size_t fewest = 0;
+  std::size_t most = kNoLimit;
+  bool (NeutralReader::*isTaken)() const = nullptr;
+  LineOutcome (NeutralReader::*read)() = nullptr;  // null for a record that carries nothing for the models
 };
 
 struct NeutralReader::Records {
@@ -42,18 +42,18 @@ struct NeutralReader::Records {
       {{"N_PIN", "at least 5 values"}, true, 5, kNoLimit, &Reader::InSelectedNets, &Reader::AddPin},
       {{"NET", "exactly 1 value"}, true, 1, 1, &Reader::InSelectedNets, &Reader::AddNet},
       {{"COMP", "exactly 8 values"}, true, 8, 8, &Reader::InSelectedComponents, &Reader::AddComponent},
-      {{"C_PROP", "properties"}, false, 0, kNoLimit, &Reader::InSelectedComponents, &Reader::AddProperties},
+      {{"C_PROP", ""}, false, 0, kNoLimit, &Reader::InSelectedComponents, &Reader::AddProperties},
       {{"P_ADDP", "exactly 8 values"}, true, 8, 8, &Reader::Always, &Reader::AddPlacement},
       {kBoardValues, true, 0, kNoLimit, &Reader::InFirstBoardSection, &Reader::SetBoard},
       {{"B_UNITS", "exactly 1 value"}, true, 1, 1, &Reader::Always, &Reader::SetUnits},
-      {{"C_PIN", ""}, false, 0, kNoLimit, &Reader::Always, nullptr},
-      {{"N_PROP", ""}, false, 0, kNoLimit, &Reader::Always, nullptr},
-      {{"N_VIA", ""}, false, 0, kNoLimit, &Reader::Always, nullptr},
-      {{"HOLE", ""}, false, 0, kNoLimit, &Reader::Always, nullptr},
-      {{"B_ATTR", ""}, false, 0, kNoLimit, &Reader::Always, nullptr},
-      {{"G_ATTR", ""}, false, 0, kNoLimit, &Reader::Always, nullptr},
-      {{"G_PIN", ""}, false, 0, kNoLimit, &Reader::Always, nullptr},
-      {{"GEOM", ""}, false, 0, kNoLimit, &Reader::Always, nullptr},
+      {{"C_PIN", ""}},
+      {{"N_PROP", ""}},
+      {{"N_VIA", ""}},
+      {{"HOLE", ""}},
+      {{"B_ATTR", ""}},
+      {{"G_ATTR", ""}},
+      {{"G_PIN", ""}},
+      {{"GEOM", ""}},
   };
 
   static const Record* Find(std::string_view keyword) {
@@ -68,7 +68,7 @@ LineOutcome NeutralReader::ReadLine(std::string_view line) {
     CountSection(line);
     return LineOutcome::Ignored();
   }
-  if (Trimmed(line).empty()) return LineOutcome::Ignored();
+  if (TrimmedLeft(line).empty()) return LineOutcome::Ignored();
   const std::size_t start = line.find_first_not_of(' ');
   const std::size_t end = line.find(' ', start);
   const Record* record = Records::Find(line.substr(start, end - start));
@@ -80,30 +80,28 @@ LineOutcome NeutralReader::ReadLine(std::string_view line) {
 }
 
 void NeutralReader::CountSection(std::string_view header) {
-  struct Section {
-    std::string_view header;
-    int NeutralReader::*count;
-  };
-  static constexpr Section kSections[] = {
-      {"###Board Information", &NeutralReader::boardSections_},
-      {"###Nets", &NeutralReader::netsSections_},
-      {"###Component", &NeutralReader::componentSections_},
-  };
-  for (const Section& section : kSections) {
-    if (header.starts_with(section.header)) ++(this->*section.count);
-  }
+  if (header.starts_with("###Board Information")) ++boardSections_;
+  if (header.starts_with("###Nets")) ++selection_.netsSections;
+  if (header.starts_with("###Component")) ++selection_.componentSections;
 }
 
 LineOutcome NeutralReader::ReadRecord(const Record& record) {
-  values_.clear();
   if (record.cutsValues) {
-    std::size_t position = 0;
-    while (const auto value = NextSpaceField(rest_, position)) values_.push_back(*value);
-    if (values_.size() < record.fewest || values_.size() > record.most) {
-      return LineOutcome::WrongValueCount(record.rule, values_.size());
+    CutValues();
+    if (valueCount_ < record.fewest || valueCount_ > record.most) {
+      return LineOutcome::WrongValueCount(record.rule, valueCount_);
     }
   }
   return (this->*record.read)();
+}
+
+void NeutralReader::CutValues() {
+  valueCount_ = 0;
+  std::size_t position = 0;
+  while (const auto value = NextSpaceField(rest_, position)) {
+    if (valueCount_ < values_.size()) values_[valueCount_] = *value;
+    ++valueCount_;
+  }
 }
 
 LineOutcome NeutralReader::AddPlacement() {
@@ -114,19 +112,19 @@ LineOutcome NeutralReader::AddPlacement() {
   placement->m_nValue6 = ToInt(Value(6));
   placement->m_nValue7 = ToInt(Value(7));
   placement->m_nValue8 = ToInt(Value(8));
-  components_.m_pPanels->Append(std::move(placement));
+  chooser_.AddPlacement(*components_.m_pPanels->Append(std::move(placement)));
   return LineOutcome::Imported();
 }
 
 LineOutcome NeutralReader::SetBoard() {
-  const bool complete = values_.size() == 6;
+  const bool complete = valueCount_ == 6;
   if (complete) {
     boardName_ = Value(1);
     components_.m_dBoardValue3 = NumberBehindColon(Value(3));
     components_.m_dBoardValue4 = NumberBehindColon(Value(4));
   }
-  selection_.Choose(*components_.m_pPanels, boardName_);  // also by the name of an earlier record
-  return complete ? LineOutcome::Imported() : LineOutcome::WrongValueCount(kBoardValues, values_.size());
+  chooser_.Choose(boardName_, selection_);  // also by the name of an earlier record
+  return complete ? LineOutcome::Imported() : LineOutcome::WrongValueCount(kBoardValues, valueCount_);
 }
 
 LineOutcome NeutralReader::SetUnits() {

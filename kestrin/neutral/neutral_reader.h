@@ -3,11 +3,12 @@
 /// @file
 /// Reads the lines of a Neutral file into its two models.
 
+#include <array>
 #include <cstddef>
 #include <string>
 #include <string_view>
-#include <vector>
 
+#include "kestrin/neutral/board_chooser.h"
 #include "kestrin/neutral/board_selection.h"
 #include "kestrin/neutral/component_model.h"
 #include "kestrin/neutral/net_model.h"
@@ -19,14 +20,13 @@ namespace kestrin {
 /// counts decide which records are taken.
 class NeutralReader {
  public:
-  /// The models must outlive the reader.
-  NeutralReader(CMComps& components, CMNetList& nets) : components_(components), nets_(nets) {
+  /// The models and the selection, which tells at any time what is read, must outlive the reader.
+  NeutralReader(CMComps& components, CMNetList& nets, BoardSelection& selection)
+      : components_(components), nets_(nets), selection_(selection) {
     components_.m_nReadFlag = 1;
   }
 
   LineOutcome ReadLine(std::string_view line);
-
-  [[nodiscard]] const BoardSelection& Selection() const { return selection_; }
 
  private:
   struct Record;
@@ -34,12 +34,15 @@ class NeutralReader {
 
   void CountSection(std::string_view header);
   LineOutcome ReadRecord(const Record& record);
+  void CutValues();
 
   // Which records are taken.
   [[nodiscard]] bool Always() const { return true; }
   [[nodiscard]] bool InFirstBoardSection() const { return boardSections_ == 1; }
-  [[nodiscard]] bool InSelectedNets() const { return netsSections_ == selection_.Ordinal(); }
-  [[nodiscard]] bool InSelectedComponents() const { return componentSections_ == selection_.Ordinal(); }
+  [[nodiscard]] bool InSelectedNets() const { return selection_.netsSections == selection_.ordinal; }
+  [[nodiscard]] bool InSelectedComponents() const {
+    return selection_.componentSections == selection_.ordinal;
+  }
 
   // What they do with their values.
   LineOutcome AddPlacement();
@@ -55,15 +58,15 @@ class NeutralReader {
 
   CMComps& components_;
   CMNetList& nets_;
-  BoardSelection selection_;
+  BoardSelection& selection_;
+  BoardChooser chooser_;
   int boardSections_ = 0;
-  int netsSections_ = 0;
-  int componentSections_ = 0;
   std::string boardName_;
-  CMNetInfo* net_ = nullptr;              // takes the pins that follow
-  CMCompsInfo* component_ = nullptr;      // takes the properties that follow
-  std::string_view rest_;                 // of the current line, behind its keyword
-  std::vector<std::string_view> values_;  // of the current line
+  CMNetInfo* net_ = nullptr;                // takes the pins that follow
+  CMCompsInfo* component_ = nullptr;        // takes the properties that follow
+  std::string_view rest_;                   // of the current line, behind its keyword
+  std::array<std::string_view, 8> values_;  // of the current line: no record has more that are kept
+  std::size_t valueCount_ = 0;              // of all its values
   std::string scratch_;
 };
 

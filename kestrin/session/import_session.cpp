@@ -94,9 +94,9 @@ void CPC_KESTRIN_GET::NeutralFileParse(CString path) {
   const auto nets = Shared<CMNetList>::Make();
   m_pComps = components;
   m_pNetList = nets;
-  NeutralReader reader(*components, *nets);
+  report_.boardSelection = {};
+  NeutralReader reader(*components, *nets, report_.boardSelection);
   ReadLines({.path = path, .bar = m_pNeutralProgress}, reader, report_.Of(ImportFile::kNeutral));
-  report_.boardSelection = reader.Selection();
 }
 
 void CPC_KESTRIN_GET::GeomFileParse(CString /*path*/) {}

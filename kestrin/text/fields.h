@@ -2,8 +2,8 @@
 
 /// @file
 /// Cuts a line into fields without copying it. Every cut takes the text and a position in it, which it moves
-/// on, and gives the next field as a view into the text, or nothing at the end. No cut ever gives an empty
-/// field.
+/// on, and gives the next field as a view (into the text, but for NextPropertyGroup), or nothing at the end.
+/// No cut ever gives an empty field.
 
 #include <bitset>
 #include <cstddef>

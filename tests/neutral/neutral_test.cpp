@@ -17,7 +17,8 @@ using test::Feed;
 struct Import {
   CMComps components;
   CMNetList nets;
-  NeutralReader reader{components, nets};
+  BoardSelection selection;
+  NeutralReader reader{components, nets, selection};
 };
 
 std::string Nets(const CMNetList& list) {
@@ -195,14 +196,14 @@ TEST(NeutralReader, SelectsTheSectionsOfThePlacementThatQualifies) {
     Import import;
     Feed(import.reader, c.head + "###Nets\nNET N1\n###Nets\nNET N2\n###Nets of the third\nNET N3\n");
     EXPECT_EQ(Nets(import.nets), c.net) << c.head;
-    EXPECT_EQ(import.reader.Selection().Placement(), c.placement) << c.head;
+    EXPECT_EQ(import.selection.placement, c.placement) << c.head;
   }
   for (int value6 = -1; value6 <= 18; ++value6) {
     Import import;
     Feed(import.reader, Placement("B", value6) + board);
     const std::vector<int> setAside = {2, 3, 5, 8, 10, 11, 13, 16};
     const bool qualifies = std::find(setAside.begin(), setAside.end(), value6) == setAside.end();
-    EXPECT_EQ(import.reader.Selection().Placement(), qualifies ? 0 : -1) << value6;
+    EXPECT_EQ(import.selection.placement, qualifies ? 0 : -1) << value6;
   }
 }
 
@@ -257,10 +258,15 @@ TEST(NeutralReader, GarbageBetweenRecordsChangesNothing) {
       "COMP R P S G 1 2 3 4",
       "C_PROP (A,\"1\") (REFLOC,\"R,1\")",
   };
+  const std::vector<std::string> nearMisses = {
+      "NET",         "NET a b", "net A x",  "\tNET A",    " ###Nets",      " ###Component",
+      "# ###Nets",   "###Net",  "COMP 1 2", "P_ADDP 1 B", "N_PIN U-1 2 3", "COMPONENT 1 2 3 4 5 6 7 8",
+      "B_UNITS a b", "C_PROP",
+  };
   std::string garbage;
   for (unsigned i = 0, seed = 12345; i < 300; ++i) {
-    std::string line = "x";
-    for (unsigned n = i % 40; n > 0; --n) {
+    std::string line = i % 3 == 0 ? nearMisses[i / 3 % nearMisses.size()] : "x";
+    for (unsigned n = i % 3 == 0 ? 0 : i % 40; n > 0; --n) {
       seed = seed * 1664525U + 1013904223U;
       const char c = static_cast<char>(seed >> 24);
       line += c == '\n' ? ' ' : c;
@@ -271,7 +277,8 @@ TEST(NeutralReader, GarbageBetweenRecordsChangesNothing) {
   Import dirty;
   for (const std::string& record : records) {
     clean.reader.ReadLine(record);
-    Feed(dirty.reader, garbage + record);
+    const auto outcomes = Feed(dirty.reader, garbage + record);
+    EXPECT_EQ(std::count(outcomes.begin(), outcomes.end() - 1, LineOutcome::Imported()), 0) << record;
   }
   EXPECT_EQ(Nets(clean.nets), "A{U|1;}");
   EXPECT_EQ(Components(clean.components), "R P S G 1 2 3 4{A=1;R[1 0 0  0 0 0  ]}");

@@ -7,6 +7,7 @@
 
 #include "kestrin/neutral/component_model.h"
 #include "kestrin/neutral/net_model.h"
+#include "kestrin/platform/exceptions.h"
 #include "kestrin/platform/messages.h"
 #include "kestrin/tech/tech_model.h"
 #include "tests/support/recording_dialog.h"
@@ -108,6 +109,23 @@ TEST_F(ImportSession, AFileThatCannotBeOpenedLeavesAnEmptyRoot) {
   EXPECT_TRUE(session.GetNetList()->m_pNets->IsEmpty());
   EXPECT_EQ(session.GetReport().Of(ImportFile::kTech).end, ReadingEnd::kNotOpened);
   EXPECT_EQ(session.GetReport().Of(ImportFile::kNeutral).end, ReadingEnd::kNotOpened);
+}
+
+TEST_F(ImportSession, TheReportTellsOfTheBoardThatWasBeingRead) {
+  struct ThrowingDialog : CWnd {
+    BOOL UpdateData(BOOL) override { throw CInvalidArgException(); }
+  };
+  CPC_KESTRIN_GET session;
+  const std::string chosen =
+      "P_ADDP 1 B 3 4 5 2 7 8\nP_ADDP 1 B 3 4 5 1 7 8\n###Board Information\nBOARD B 2 3 4 5 6\n";
+  session.NeutralFileParse(folder_.File("b.neutral", chosen));
+  EXPECT_EQ(session.GetReport().boardSelection.ordinal, 2);
+  EXPECT_EQ(session.GetReport().boardSelection.placement, 1);
+  ThrowingDialog dialog;
+  CProgressCtrl bar(&dialog);
+  session.SetProgressPtr(nullptr, &bar, nullptr, nullptr);
+  EXPECT_THROW(session.NeutralFileParse(folder_.File("b.neutral", chosen)), CInvalidArgException);
+  EXPECT_EQ(session.GetReport().boardSelection.placement, -1);
 }
 
 TEST_F(ImportSession, CopiesShareRootsAndARootLivesAsLongAsASharer) {

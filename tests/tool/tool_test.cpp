@@ -96,6 +96,27 @@ TEST(Tool, DumpsTheModelAsJson) {
 )");
 }
 
+TEST(Tool, DumpsEveryMemberOfTheNeutralModels) {
+  const TemporaryFolder folder;
+  const std::string file =
+      folder.File("a.neutral",
+                  "P_ADDP 1 B 3 4.5 5.5 1 7 8\nB_UNITS MM\n###Board Information\nBOARD B r X:1.5 "
+                  "Y:2 5 6\n###Nets\nNET N\nN_PIN U-1 a b c d\n###Component\nCOMP a b c d 5 6 7 "
+                  "8\nC_PROP (REFLOC,\"R,1,2,3,d,5,6,7,h,i\") (N,\"V\")\n");
+  std::string document = RunTool("dump --neutral " + file).out;
+  std::erase_if(document, [](char c) { return c == ' ' || c == '\n'; });
+  EXPECT_EQ(
+      document,
+      R"({"tech":null,"components":{"m_sUnits":"MM","m_nReadFlag":1,"m_dBoardValue3":1.5,"m_dBoardValue4":2,)"
+      R"("m_pInfos":[{"m_Data":{"m_sValue1":"a","m_sValue2":"b","m_sValue3":"c","m_sValue4":"d","m_dValue5":5,)"
+      R"("m_dValue6":6,"m_nValue7":7,"m_nValue8":8},"m_sRefLocFirst":"R","m_pRefLocs":[{"m_dValue1":1,)"
+      R"("m_dValue2":2,"m_nValue3":3,"m_sValue4":"d","m_dValue5":5,"m_dValue6":6,"m_dValue7":7,)"
+      R"("m_sValue8":"h","m_sValue9":"i"}],"m_pComments":[{"m_sName":"N","m_sValue":"V"}]}],)"
+      R"("m_pPanels":[{"m_sBoardName":"B","m_nValue6":1,"m_nValue7":7,"m_nValue8":8,"m_dValue4":4.5,)"
+      R"("m_dValue5":5.5}]},"nets":{"m_pNets":[{"m_sName":"N","m_pPins":[{"m_sRef":"U","m_sPin":"1"}],)"
+      R"("m_pProperties":[]}]},"geometry":null,"traces":null})");
+}
+
 TEST(Tool, ChecksWhatAnImportSkips) {
   const TemporaryFolder folder;
   const std::string file = folder.File("a.tech", "$$define_rule_via(V)\n\nwhat\x07 is \xE9 this\n");
@@ -147,8 +168,8 @@ TEST(Tool, SummarizesTheSampleBoardAndFindsNothingSkipped) {
   EXPECT_EQ(summary.status, 0);
   EXPECT_EQ(summary.err, "");
   for (const char* line : {"Stack-up: 4 physical layers", "INNER_1         SIGNAL_2, POWER_1", "Via rules: 4",
-                           "Board: units MM, value 3 is 60, value 4 is 40",
-                           "Selected: section 2 of the nets and of the components, chosen by placement 3 "
+                           "Board: units \"MM\", value 3 is 60, value 4 is 40",
+                           "Selected: nets section 2 of 2, component section 2 of 2, chosen by placement 3 "
                            "(SENSOR_NODE, value 6 is 1)",
                            "7  CHIP_0805", "Nets: 15 with 53 pins", "14  GND"}) {
     EXPECT_NE(summary.out.find(line), std::string::npos) << summary.out;
