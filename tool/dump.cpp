@@ -11,7 +11,8 @@ namespace {
 void WriteDocument(JsonWriter& json, const CPC_KESTRIN_GET& session) {
   JsonObject document(json);
   document.Member("tech", session.m_pTech);
-  for (const char* unread : {"components", "nets", "geometry", "traces"}) document.Member(unread, nullptr);
+  for (const char* unread : {"components", "nets", "geometry"}) document.Member(unread, nullptr);
+  document.Member("traces", session.m_pTraces);
 }
 
 }  // namespace

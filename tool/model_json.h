@@ -4,10 +4,12 @@
 /// The models as JSON: an object a record, its members in declaration order.
 
 #include "kestrin/tech/tech_model.h"
+#include "kestrin/traces/traces_model.h"
 #include "tool/json_writer.h"
 
 namespace kestrin::tool {
 
 void WriteJson(JsonWriter& json, const CMTech& tech);
+void WriteJson(JsonWriter& json, const CMTraces& traces);
 
 }  // namespace kestrin::tool

@@ -8,6 +8,7 @@
 #include "tool/readable_text.h"
 #include "tool/report_error.h"
 #include "tool/text_table.h"
+#include "tool/traces_summary.h"
 #include "tool/usage_error.h"
 
 namespace kestrin::tool {
@@ -72,6 +73,7 @@ int Summary(const ExportSet& files) {
   const std::string stopped = Import(session, files);
   PrintFiles(session.GetReport());
   if (const CMTech* tech = session.GetTech()) PrintTech(*tech);
+  if (const CMTraces* traces = session.GetTraces()) PrintTraces(*traces);
   return stopped.empty() ? kSuccess : ReportError(stopped, kIncomplete);
 }
 
