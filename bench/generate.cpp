@@ -1,7 +1,9 @@
-// kestrin_generate KIND SIZE > FILE: writes a large export file of about SIZE bytes.
+// kestrin_generate KIND SIZE > file: writes a large file of a kind, about SIZE bytes long.
 
-#include <cstdlib>
+#include <charconv>
+#include <cstdio>
 #include <iostream>
+#include <string>
 #include <string_view>
 
 #include "bench/generators.h"
@@ -15,19 +17,29 @@ struct Kind {
 
 constexpr Kind kKinds[] = {
     {"neutral", &kestrin::bench::GenerateNeutral},
+    {"traces", &kestrin::bench::GenerateTraces},
 };
+
+int Usage() {
+  std::string kinds;
+  for (const Kind& kind : kKinds) kinds.append(" ").append(kind.name);
+  std::fprintf(stderr, "usage: kestrin_generate KIND SIZE-IN-BYTES > file\nkinds:%s\n", kinds.c_str());
+  return 2;
+}
 
 }  // namespace
 
 int main(int count, char** words) {
+  if (count != 3) return Usage();
+  const std::string_view digits = words[2];
+  std::uint64_t size = 0;
+  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), size);
+  if (error != std::errc() || end != digits.data() + digits.size()) return Usage();
   for (const Kind& kind : kKinds) {
-    if (count != 3 || words[1] != kind.name) continue;
+    if (kind.name != words[1]) continue;
     std::ios::sync_with_stdio(false);
-    kind.generate(std::cout, std::strtoull(words[2], nullptr, 10));
-    return std::cout.flush() ? EXIT_SUCCESS : EXIT_FAILURE;
+    kind.generate(std::cout, size);
+    return std::cout.flush() ? 0 : 1;
   }
-  std::cerr << "usage: kestrin_generate KIND SIZE > FILE; KIND is one of:";
-  for (const Kind& kind : kKinds) std::cerr << ' ' << kind.name;
-  std::cerr << '\n';
-  return EXIT_FAILURE;
+  return Usage();
 }

@@ -1,13 +1,18 @@
 #pragma once
 
-// Large export files that look like real ones: the same bytes for the same size on every machine.
+/// @file
+/// Large files for measuring, always the same for the same size. Each has the records of a real board in a
+/// realistic mix, is about size bytes long and ends with a whole record.
 
 #include <cstdint>
-#include <iosfwd>
+#include <ostream>
 
 namespace kestrin::bench {
 
-/// Writes a Neutral file of about this many bytes.
+/// A Neutral file of one board: nets with pins, components with properties.
 void GenerateNeutral(std::ostream& out, std::uint64_t size);
+
+/// A Traces file: half of it VER lines, most of the rest SEG lines, about 24 bytes a line.
+void GenerateTraces(std::ostream& out, std::uint64_t size);
 
 }  // namespace kestrin::bench

@@ -12,7 +12,7 @@ void WriteDocument(JsonWriter& json, const CPC_KESTRIN_GET& session) {
   JsonObject document(json);
   document.Member("tech", session.m_pTech);
   document.Member("components", session.m_pComps).Member("nets", session.m_pNetList);
-  for (const char* unread : {"geometry", "traces"}) document.Member(unread, nullptr);
+  document.Member("geometry", nullptr).Member("traces", session.m_pTraces);
 }
 
 }  // namespace

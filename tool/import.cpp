@@ -2,6 +2,7 @@
 
 #include <exception>
 
+#include "kestrin/platform/exceptions.h"
 #include "tool/terminal_dialog.h"
 #include "tool/usage_error.h"
 
@@ -59,6 +60,9 @@ std::string Import(CPC_KESTRIN_GET& session, const ExportSet& files) {
     dialog.Attach(session);
     try {
       Read(session, files);
+    } catch (const CInvalidArgException&) {
+      stopped = WhereStopped(session.GetReport()) +
+                "the reading stopped: the line has too few values for its record";
     } catch (const std::exception& error) {
       stopped = WhereStopped(session.GetReport()) + "the reading stopped: " + error.what();
     }

@@ -6,6 +6,7 @@
 #include "kestrin/neutral/component_model.h"
 #include "kestrin/neutral/net_model.h"
 #include "kestrin/tech/tech_model.h"
+#include "kestrin/traces/traces_model.h"
 #include "tool/json_writer.h"
 
 namespace kestrin::tool {
@@ -13,5 +14,6 @@ namespace kestrin::tool {
 void WriteJson(JsonWriter& json, const CMTech& tech);
 void WriteJson(JsonWriter& json, const CMComps& components);
 void WriteJson(JsonWriter& json, const CMNetList& nets);
+void WriteJson(JsonWriter& json, const CMTraces& traces);
 
 }  // namespace kestrin::tool

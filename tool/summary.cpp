@@ -9,6 +9,7 @@
 #include "tool/readable_text.h"
 #include "tool/tech_summary.h"
 #include "tool/text_table.h"
+#include "tool/traces_summary.h"
 #include "tool/usage_error.h"
 
 namespace kestrin::tool {
@@ -49,8 +50,10 @@ int Summary(const ExportSet& files) {
   const std::string stopped = Import(session, files);
   PrintFiles(session.GetReport());
   if (const CMTech* tech = session.GetTech()) PrintTech(*tech);
-  if (session.GetComps() != nullptr)
+  if (session.GetComps() != nullptr) {
     PrintNeutral(*session.GetComps(), *session.GetNetList(), session.GetReport().boardSelection);
+  }
+  if (const CMTraces* traces = session.GetTraces()) PrintTraces(*traces);
   return FinishOutput(stopped.empty() ? kSuccess : ReportError(stopped, kIncomplete));
 }
 

@@ -30,6 +30,14 @@ class Owning final : public ARRAY {
     this->Add(record.get());
     return record.release();
   }
+
+  /// Exchanges the records of two lists, without touching them.
+  void Swap(Owning& other) noexcept {
+    std::swap(this->m_pData, other.m_pData);
+    std::swap(this->m_nSize, other.m_nSize);
+    std::swap(this->m_nMaxSize, other.m_nMaxSize);
+    std::swap(this->m_nGrowBy, other.m_nGrowBy);
+  }
 };
 
 /// Holds an object that belongs to one record alone, and is used like a pointer to it. The object lives

@@ -7,6 +7,8 @@
 #include "kestrin/session/reader_loop.h"
 #include "kestrin/tech/tech_model.h"
 #include "kestrin/tech/tech_reader.h"
+#include "kestrin/traces/traces_model.h"
+#include "kestrin/traces/traces_reader.h"
 
 namespace kestrin {
 
@@ -101,7 +103,13 @@ void CPC_KESTRIN_GET::NeutralFileParse(CString path) {
 
 void CPC_KESTRIN_GET::GeomFileParse(CString /*path*/) {}
 
-void CPC_KESTRIN_GET::TraceFileParse(CString /*path*/) {}
+void CPC_KESTRIN_GET::TraceFileParse(CString path) {
+  const auto traces = Shared<CMTraces>::Make();
+  m_pTraces = traces;
+  TracesReader reader(*traces);
+  ReadLines({.path = path, .bar = m_pTraceProgress, .pumpsMessages = true}, reader,
+            report_.Of(ImportFile::kTraces));
+}
 
 CMTech* CPC_KESTRIN_GET::GetTech() const { return m_pTech; }
 CMComps* CPC_KESTRIN_GET::GetComps() const { return m_pComps; }

@@ -29,8 +29,9 @@ class CMTraces;
 /// every one of them may be destroyed.
 ///
 /// Errors: a file that cannot be opened leaves an empty root; lines that cannot be read are skipped;
-/// GetReport tells of both. Exceptions of the framework (CFileException on a read error, memory exhaustion)
-/// and of the host's own message handlers pass through; what was read before them stays in the roots.
+/// GetReport tells of both. Exceptions of the framework (CInvalidArgException at a line of the Traces file
+/// that is too short for its record, CFileException on a read error, memory exhaustion) and of the host's own
+/// message handlers pass through; what was read before them stays in the roots.
 class KESTRIN_EXPORT CPC_KESTRIN_GET {
  public:
   CPC_KESTRIN_GET();

@@ -5,23 +5,20 @@ namespace {
 
 bool Contains(const CharacterSet& set, char c) { return set[static_cast<unsigned char>(c)]; }
 
-/// The next field between separators, which do not separate between quotes. A field never begins between
-/// quotes, since what separates stands outside them.
+/// The next field between separators, which do not separate between quotes. Only the first field of a line
+/// may begin between quotes, since what separates stands outside them.
 template <class IsQuote>
 std::optional<std::string_view> NextQuotedField(std::string_view line, std::size_t& position, char separator,
-                                                IsQuote isQuote) {
-  while (position < line.size() && line[position] == separator) ++position;
-  if (position >= line.size()) return std::nullopt;
-  const std::size_t start = position;
-  bool quoted = false;
-  for (; position < line.size(); ++position) {
-    if (isQuote(position)) {
-      quoted = !quoted;
-    } else if (line[position] == separator && !quoted) {
-      break;
-    }
-  }
-  return line.substr(start, position - start);
+                                                IsQuote isQuote, bool& quoted) {
+  std::size_t start = position;
+  while (start < line.size() && line[start] == separator && !quoted) ++start;
+  std::size_t end = start;
+  bool inQuotes = quoted;
+  for (; end < line.size() && (line[end] != separator || inQuotes); ++end) inQuotes ^= isQuote(end);
+  position = end;
+  quoted = inQuotes;
+  if (start == end) return std::nullopt;
+  return line.substr(start, end - start);
 }
 
 }  // namespace
@@ -49,12 +46,19 @@ std::optional<std::string_view> NextToken(std::string_view text, const Character
 }
 
 std::optional<std::string_view> NextCommaField(std::string_view line, std::size_t& position) {
-  return NextQuotedField(line, position, ',',
-                         [line](std::size_t i) { return line[i] == '"' && (i == 0 || line[i - 1] != '\\'); });
+  const auto isQuote = [line](std::size_t i) { return line[i] == '"' && (i == 0 || line[i - 1] != '\\'); };
+  bool quoted = false;
+  return NextQuotedField(line, position, ',', isQuote, quoted);
 }
 
 std::optional<std::string_view> NextSpaceField(std::string_view line, std::size_t& position) {
-  return NextQuotedField(line, position, ' ', [line](std::size_t i) { return line[i] == '\''; });
+  bool quoted = false;
+  return NextSpaceField(line, position, quoted);
+}
+
+std::optional<std::string_view> NextSpaceField(std::string_view line, std::size_t& position, bool& quoted) {
+  return NextQuotedField(
+      line, position, ' ', [line](std::size_t i) { return line[i] == '\''; }, quoted);
 }
 
 std::optional<std::string_view> NextPropertyGroup(std::string_view line, std::size_t& position,

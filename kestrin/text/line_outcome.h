@@ -18,6 +18,7 @@ enum class SkipCode : std::uint8_t {
   kUnendedKeyword,
   kWrongValueCount,
   kNoOwner,
+  kOpenQuote,
   kCount,  // of the codes
 };
 
@@ -33,6 +34,8 @@ inline constexpr std::array kSkipCodes{
     SkipCodeText{"unended-keyword", "no blank follows the keyword, so that the line is no record"},
     SkipCodeText{"wrong-value-count", "the record does not have the number of values that its kind takes"},
     SkipCodeText{"no-owner", "the record that this one belongs to does not stand before it"},
+    SkipCodeText{"open-quote",
+                 "a line before this one left an apostrophe open, so that its blanks do not separate"},
 };
 static_assert(kSkipCodes.size() == static_cast<std::size_t>(SkipCode::kCount));
 

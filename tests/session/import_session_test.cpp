@@ -10,6 +10,7 @@
 #include "kestrin/platform/exceptions.h"
 #include "kestrin/platform/messages.h"
 #include "kestrin/tech/tech_model.h"
+#include "kestrin/traces/traces_model.h"
 #include "tests/support/recording_dialog.h"
 #include "tests/support/temporary_folder.h"
 
@@ -126,6 +127,45 @@ TEST_F(ImportSession, TheReportTellsOfTheBoardThatWasBeingRead) {
   session.SetProgressPtr(nullptr, &bar, nullptr, nullptr);
   EXPECT_THROW(session.NeutralFileParse(folder_.File("b.neutral", chosen)), CInvalidArgException);
   EXPECT_EQ(session.GetReport().boardSelection.placement, -1);
+}
+
+/// Posts itself a message whenever it is refreshed, for the next line's pump.
+class PostingDialog : public test::Recording<CWnd> {
+ public:
+  using Recording::Recording;
+  BOOL UpdateData(BOOL save) override {
+    PostMessageA(GetSafeHwnd(), WM_USER, 0, 0);
+    return Recording::UpdateData(save);
+  }
+};
+
+TEST_F(ImportSession, TheTracesReaderPumpsMessagesBeforeItMovesItsBar) {
+  CPC_KESTRIN_GET session;
+  Events events;
+  PostingDialog dialog(events, "dialog");
+  test::Recording<CProgressCtrl> bar(events, "bar", &dialog);
+  session.SetProgressPtr(nullptr, nullptr, &bar, nullptr);
+  const std::string path = folder_.File("a.traces", "UNITS MM\n\n");
+  session.TraceFileParse(path);
+  EXPECT_EQ(events, (Events{"bar: position 33", "dialog: refresh", "dialog: message 1024 0",
+                            "bar: position 66", "dialog: refresh"}));
+  events.clear();
+  session.SetProgressPtr(nullptr, nullptr, nullptr, nullptr);
+  session.TraceFileParse(path);
+  EXPECT_EQ(events, (Events{"dialog: message 1024 0"}));
+}
+
+TEST_F(ImportSession, ATracesLineThatIsTooShortEndsTheImportAndKeepsWhatWasRead) {
+  CPC_KESTRIN_GET session;
+  SetPaths(session);
+  session.vSetTraceFilePath(folder_.File("short.traces", "# NET 'A'\nGUI 1 2 3 4 5\nUNITS MM"));
+  EXPECT_THROW(session.vParse(), CInvalidArgException);
+  EXPECT_EQ(session.GetTech()->GetPhysicalLayerNumber("TOP"), 1);
+  ASSERT_EQ(session.GetTraces()->m_pNetArray->GetSize(), 1);
+  EXPECT_TRUE(session.GetTraces()->m_pNetArray->GetAt(0)->m_pGuiArray->IsEmpty());
+  EXPECT_EQ(session.GetTraces()->m_sUnits, "");
+  EXPECT_EQ(session.GetReport().Of(ImportFile::kTraces).end, ReadingEnd::kStopped);
+  EXPECT_EQ(session.GetReport().Of(ImportFile::kTraces).linesRead, 2);
 }
 
 TEST_F(ImportSession, CopiesShareRootsAndARootLivesAsLongAsASharer) {

@@ -117,6 +117,33 @@ TEST(Tool, DumpsEveryMemberOfTheNeutralModels) {
       R"("m_pProperties":[]}]},"geometry":null,"traces":null})");
 }
 
+TEST(Tool, DumpsWhatWasReadBeforeATracesLineThatIsTooShort) {
+  const TemporaryFolder folder;
+  const std::string file = folder.File(
+      "a.traces", "UNITS MM\n# NET 'A'\nINC 1 2 3 4 5 6 7\nSEG 1 .5 3 12\nARS 1\nVER 9\nUNITS IN");
+  const auto dump = RunTool("dump --traces " + file);
+  EXPECT_EQ(dump.status, 1);
+  EXPECT_EQ(dump.err,
+            "kestrin: " + file + ":6: the reading stopped: the line has too few values for its record\n");
+  rapidjson::Document document;
+  ASSERT_FALSE(document.Parse(dump.out.c_str()).HasParseError());
+  EXPECT_STREQ(document["traces"]["m_sUnits"].GetString(), "MM");
+  EXPECT_EQ(document["traces"]["m_pFilArray"][0]["m_nValue7"].GetInt(), 1);
+  EXPECT_EQ(document["traces"]["m_pFilArray"][0]["m_pArsArray"][0]["m_pVerArray"].Size(), 0U);
+  EXPECT_NE(dump.out.find(R"("m_pSegArray": [
+              {
+                "m_dValue1": 1,
+                "m_dValue2": 0.5,
+                "m_nValue3": 3,
+                "m_sValue4": "",
+                "m_sValue5": "",
+                "m_dValue4": 12
+              }
+            ])"),
+            std::string::npos)
+      << dump.out;
+}
+
 TEST(Tool, ChecksWhatAnImportSkips) {
   const TemporaryFolder folder;
   const std::string file = folder.File("a.tech", "$$define_rule_via(V)\n\nwhat\x07 is \xE9 this\n");
@@ -167,11 +194,13 @@ TEST(Tool, SummarizesTheSampleBoardAndFindsNothingSkipped) {
   const auto summary = RunTool("summary " + kBoard);
   EXPECT_EQ(summary.status, 0);
   EXPECT_EQ(summary.err, "");
-  for (const char* line : {"Stack-up: 4 physical layers", "INNER_1         SIGNAL_2, POWER_1", "Via rules: 4",
-                           "Board: units \"MM\", value 3 is 60, value 4 is 40",
-                           "Selected: nets section 2 of 2, component section 2 of 2, chosen by placement 3 "
-                           "(SENSOR_NODE, value 6 is 1)",
-                           "7  CHIP_0805", "Nets: 15 with 53 pins", "14  GND"}) {
+  for (const char* line :
+       {"Stack-up: 4 physical layers", "INNER_1         SIGNAL_2, POWER_1", "Via rules: 4",
+        "Board: units \"MM\", value 3 is 60, value 4 is 40",
+        "Selected: nets section 2 of 2, component section 2 of 2, chosen by placement 3 "
+        "(SENSOR_NODE, value 6 is 1)",
+        "7  CHIP_0805", "Nets: 15 with 53 pins", "14  GND", "Traces: units MM",
+        "segments                  100", "islands                    26", "GND            22     11"}) {
     EXPECT_NE(summary.out.find(line), std::string::npos) << summary.out;
   }
   const auto check = RunTool("check " + kBoard);

@@ -1,0 +1,72 @@
+#pragma once
+
+/// @file
+/// The records that the routed copper of a net consists of. A field is named after the value of its line that
+/// it keeps: m_dValue5 is value 5, as a double, in the unit that the file names.
+
+#include "kestrin/geometry/ownership.h"
+#include "kestrin/platform/export.h"
+#include "kestrin/platform/string.h"
+
+namespace kestrin {
+
+/// A SEG line of the WIR, INC or ANT before it.
+class KESTRIN_EXPORT CMTracesSEG {
+ public:
+  double m_dValue1 = 0.0;
+  double m_dValue2 = 0.0;
+  int m_nValue3 = 0;
+  CString m_sValue4;  ///< empty when value 4 is made of decimal digits only
+  CString m_sValue5;
+  double m_dValue4 = -1.0;  ///< -1 unless value 4 is made of decimal digits only
+};
+
+/// A WIR line, or an ANT line with five values.
+class KESTRIN_EXPORT CMTracesWIRANT {
+ public:
+  int m_nValue1 = 0;
+  double m_dValue2 = 0.0;
+  double m_dValue3 = 0.0;
+  double m_dValue4 = 0.0;
+  double m_dValue5 = 0.0;
+  RecordList<CMTracesSEG> m_pSegArray;
+};
+
+/// An INC line (an incomplete connection), or an ANT line with seven values.
+class KESTRIN_EXPORT CMTracesINCANT {
+ public:
+  int m_nValue1 = 0;
+  double m_dValue2 = 0.0;
+  double m_dValue3 = 0.0;
+  int m_nValue4 = 0;
+  double m_dValue5 = 0.0;
+  double m_dValue6 = 0.0;
+  int m_nValue7 = 0;  ///< truncated toward zero when it is written with a fraction
+  RecordList<CMTracesSEG> m_pSegArray;
+};
+
+/// A GUI or a CHG line.
+class KESTRIN_EXPORT CMTracesGUICHG {
+ public:
+  double m_dValue1 = 0.0;
+  double m_dValue2 = 0.0;
+  int m_nValue3 = 0;
+  double m_dValue4 = 0.0;
+  double m_dValue5 = 0.0;
+  int m_nValue6 = 0;
+};
+
+/// A net header line and the records that follow it up to the next. Headers of the same name stay nets of
+/// their own.
+class KESTRIN_EXPORT CMTracesNET {
+ public:
+  CString m_sName;  ///< without its quotes
+  RecordList<CMTracesWIRANT> m_pWirArray;
+  RecordList<CMTracesINCANT> m_pIncArray;
+  RecordList<CMTracesWIRANT> m_pAntWirArray;  ///< ANT lines with five values
+  RecordList<CMTracesINCANT> m_pAntIncArray;  ///< ANT lines with seven values
+  RecordList<CMTracesGUICHG> m_pGuiArray;
+  RecordList<CMTracesGUICHG> m_pChgArray;
+};
+
+}  // namespace kestrin

@@ -1,0 +1,135 @@
+// The part of TracesReader for the lines of a fill: its header, its areas and islands with their vertices.
+
+#include <cstddef>
+#include <memory>
+#include <utility>
+
+#include "kestrin/traces/traces_reader.h"
+
+namespace kestrin {
+namespace {
+
+/// A line with another number of values than the two forms makes an empty fill.
+void Read(const LineValues& values, CMTracesFIL& fill) {
+  const bool isLong = values.Count() == 21;
+  if (!isLong && values.Count() != 16) return;
+  fill.m_sName1 = values.Unquoted(1);
+  fill.m_sName2 = values.Unquoted(2);
+  fill.m_sValue3 = values.Text(3);
+  fill.m_nValue4 = values.Int(4);
+  fill.m_nValue5 = values.Int(5);
+  fill.m_nValue6 = values.Int(6);
+  fill.m_nValue7 = values.Int(7);
+  fill.m_nValue8 = values.Int(8);
+  fill.m_dValue9 = values.Double(9);
+  fill.m_nValue10 = values.Int(10);
+  fill.m_nValue11 = values.Int(11);
+  fill.m_nValue12 = values.Int(12);
+  if (isLong) {
+    fill.m_nExt1 = values.Int(14);
+    fill.m_nExt2 = values.Int(15);
+    fill.m_dExt3 = values.Double(16);
+    fill.m_dExt4 = values.Double(17);
+  }
+  const std::size_t tail = isLong ? 19 : 14;
+  fill.m_sTail1 = values.Text(tail);
+  fill.m_sTail2 = values.Text(tail + 1);
+  fill.m_sTail3 = values.Text(tail + 2);
+}
+
+/// A line with another number of values than the three forms makes an empty area.
+void Read(const LineValues& values, CMTracesArea& area) {
+  const std::size_t count = values.Count();
+  if (count != 6 && count != 8 && count != 13) return;
+  area.m_sName1 = values.Unquoted(1);
+  area.m_sName2 = values.Unquoted(2);
+  area.m_sValue3 = values.Text(3);
+  area.m_nValue4 = values.Int(4);
+  area.m_dValue5 = values.Double(5);
+  area.m_nValue6 = values.Int(6);
+  if (count > 6) area.m_nLastValue = values.Int(count);
+  if (count < 13) return;
+  area.m_nValue8 = values.Int(8);
+  area.m_nValue9 = values.Int(9);
+  area.m_dValue10 = values.Double(10);
+  area.m_dValue11 = values.Double(11);
+}
+
+void Read(const LineValues& values, CMTracesTTI& record) {
+  record.m_dValue1 = values.Double(1);
+  record.m_dValue2 = values.Double(2);
+  record.m_sValue3 = values.Text(3);
+  if (values.Count() == 3) return;
+  record.m_nValue4 = values.Int(4);
+  record.m_dValue5 = values.Double(5);
+  record.m_dValue6 = values.Double(6);
+  record.m_nValue7 = values.Int(7);
+}
+
+}  // namespace
+
+bool TracesReader::AddFil() {
+  auto fill = std::make_unique<CMTracesFIL>();
+  Read(values_, *fill);
+  fill_ = model_.m_pFilArray->Append(std::move(fill));
+  vertices_ = &fill_->m_pVerArray;
+  return true;
+}
+
+bool TracesReader::AddAre() { return AddArea(&CMTracesFIL::m_pAreArray); }
+
+bool TracesReader::AddArs() { return AddArea(&CMTracesFIL::m_pArsArray); }
+
+bool TracesReader::AddIsl() { return AddIsland(&CMTracesFIL::m_pIslArray); }
+
+bool TracesReader::AddIss() { return AddIsland(&CMTracesFIL::m_pIssArray); }
+
+bool TracesReader::AddTti() {
+  auto record = std::make_unique<CMTracesTTI>();
+  Read(values_, *record);
+  if (fill_ == nullptr) return false;
+  record->m_sName1 = fill_->m_sName1;
+  record->m_sName2 = fill_->m_sName2;
+  fill_->m_pTtiArray->Append(std::move(record));
+  return true;
+}
+
+bool TracesReader::AddVer() {
+  auto vertex = std::make_unique<CMTracesVER>();
+  vertex->m_dX = values_.Double(1);
+  vertex->m_dY = values_.Double(2);
+  if (vertices_ == nullptr) return false;
+  (*vertices_)->Append(std::move(vertex));
+  return true;
+}
+
+/// An area goes to the current fill, whatever the names of both are.
+template <class AREA>
+bool TracesReader::AddArea(RecordList<AREA> CMTracesFIL::*list) {
+  auto area = std::make_unique<AREA>();
+  Read(values_, *area);
+  if (fill_ == nullptr) AddFillFor(*area);
+  vertices_ = &(fill_->*list)->Append(std::move(area))->m_pVerArray;
+  return true;
+}
+
+/// Areas may come without a FIL line; the fill that they then belong to takes after the first of them.
+void TracesReader::AddFillFor(const CMTracesArea& area) {
+  auto fill = std::make_unique<CMTracesFIL>();
+  fill->m_sName1 = area.m_sName1;
+  fill->m_sName2 = area.m_sName2;
+  fill->m_nValue7 = 1;
+  fill->m_dValue9 = area.m_dValue5;
+  fill_ = model_.m_pFilArray->Append(std::move(fill));
+}
+
+template <class ISLAND>
+bool TracesReader::AddIsland(RecordList<ISLAND> CMTracesFIL::*list) {
+  auto island = std::make_unique<ISLAND>();
+  island->m_nValue1 = values_.Int(1);
+  if (fill_ == nullptr) return false;
+  vertices_ = &(fill_->*list)->Append(std::move(island))->m_pVerArray;
+  return true;
+}
+
+}  // namespace kestrin

@@ -1,0 +1,114 @@
+// The part of TracesReader for the lines of a net: its header, its wires, incomplete connections and antennas
+// with their segments.
+
+#include <algorithm>
+#include <cstddef>
+#include <memory>
+#include <string_view>
+#include <utility>
+
+#include "kestrin/platform/characters.h"
+#include "kestrin/platform/numbers.h"
+#include "kestrin/traces/traces_reader.h"
+
+namespace kestrin {
+namespace {
+
+void Read(const LineValues& values, CMTracesWIRANT& record) {
+  record.m_nValue1 = values.Int(1);
+  record.m_dValue2 = values.Double(2);
+  record.m_dValue3 = values.Double(3);
+  record.m_dValue4 = values.Double(4);
+  record.m_dValue5 = values.Double(5);
+}
+
+void Read(const LineValues& values, CMTracesINCANT& record) {
+  record.m_nValue1 = values.Int(1);
+  record.m_dValue2 = values.Double(2);
+  record.m_dValue3 = values.Double(3);
+  record.m_nValue4 = values.Int(4);
+  record.m_dValue5 = values.Double(5);
+  record.m_dValue6 = values.Double(6);
+  record.m_nValue7 = ToInt(values.Double(7));
+}
+
+void Read(const LineValues& values, CMTracesGUICHG& record) {
+  record.m_dValue1 = values.Double(1);
+  record.m_dValue2 = values.Double(2);
+  record.m_nValue3 = values.Int(3);
+  record.m_dValue4 = values.Double(4);
+  record.m_dValue5 = values.Double(5);
+  record.m_nValue6 = values.Int(6);
+}
+
+/// As far as the line goes.
+void Read(const LineValues& values, CMTracesSEG& record) {
+  if (values.Has(1)) record.m_dValue1 = values.Double(1);
+  if (values.Has(2)) record.m_dValue2 = values.Double(2);
+  if (values.Has(3)) record.m_nValue3 = values.Int(3);
+  if (values.Has(4)) {
+    const std::string_view text = values.Text(4);
+    if (std::all_of(text.begin(), text.end(), IsDigit)) {
+      record.m_dValue4 = values.Double(4);
+    } else {
+      record.m_sValue4 = text;
+    }
+  }
+  if (values.Has(5)) record.m_sValue5 = values.Text(5);
+}
+
+}  // namespace
+
+void TracesReader::AddNet() {
+  auto net = std::make_unique<CMTracesNET>();
+  net->m_sName = values_.Unquoted(2);
+  net_ = model_.m_pNetArray->Append(std::move(net));
+  fill_ = nullptr;
+}
+
+bool TracesReader::AddWir() {
+  constexpr std::size_t kComplete = 5;
+  if (values_.Count() >= kComplete) return AddWithSegments(&CMTracesNET::m_pWirArray);
+  if (net_ == nullptr) return false;
+  net_->m_pWirArray->Append(std::make_unique<CMTracesWIRANT>());
+  return true;
+}
+
+bool TracesReader::AddInc() { return AddWithSegments(&CMTracesNET::m_pIncArray); }
+
+bool TracesReader::AddAnt() {
+  return values_.Count() == 5 ? AddWithSegments(&CMTracesNET::m_pAntWirArray)
+                              : AddWithSegments(&CMTracesNET::m_pAntIncArray);
+}
+
+bool TracesReader::AddGui() { return AddGuiOrChg(&CMTracesNET::m_pGuiArray); }
+
+bool TracesReader::AddChg() { return AddGuiOrChg(&CMTracesNET::m_pChgArray); }
+
+bool TracesReader::AddSeg() {
+  auto segment = std::make_unique<CMTracesSEG>();
+  Read(values_, *segment);
+  if (segments_ == nullptr) return false;
+  (*segments_)->Append(std::move(segment));
+  return true;
+}
+
+/// The SEG lines that follow go to the record.
+template <class RECORD>
+bool TracesReader::AddWithSegments(RecordList<RECORD> CMTracesNET::*list) {
+  auto record = std::make_unique<RECORD>();
+  Read(values_, *record);
+  if (net_ == nullptr) return false;
+  segments_ = &(net_->*list)->Append(std::move(record))->m_pSegArray;
+  return true;
+}
+
+bool TracesReader::AddGuiOrChg(RecordList<CMTracesGUICHG> CMTracesNET::*list) {
+  auto record = std::make_unique<CMTracesGUICHG>();
+  Read(values_, *record);
+  if (net_ == nullptr) return false;
+  (net_->*list)->Append(std::move(record));
+  return true;
+}
+
+}  // namespace kestrin

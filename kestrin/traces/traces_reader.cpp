@@ -1,0 +1,155 @@
+#include "kestrin/traces/traces_reader.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <iterator>
+#include <memory>
+#include <utility>
+
+#include "kestrin/text/trim.h"
+
+namespace kestrin {
+namespace {
+
+/// Whether a line without a record is meant to have none: blank lines, properties, notes in parentheses,
+/// comments. A net header that lacks its blank is no comment: its net is missed.
+bool CarriesNothing(std::string_view line) {
+  const std::string_view text = Trimmed(line);
+  if (text.empty() || text.starts_with("PRP ")) return true;
+  return text.front() == '#' ? !text.starts_with("#NET") : text.front() == '(' && text.back() == ')';
+}
+
+}  // namespace
+
+/// How the lines of a record code are read.
+struct TracesReader::RecordKind {
+  using ValueCounts = std::array<std::size_t, 3>;
+
+  constexpr RecordKind(std::string_view recordCode, std::string_view valueDemand, ValueCounts acceptedCounts,
+                       std::string_view ownerDemand, bool (TracesReader::*function)())
+      : values{recordCode, valueDemand},
+        counts(acceptedCounts),
+        owner{recordCode, ownerDemand},
+        read(function) {}
+
+  [[nodiscard]] bool Accepts(std::size_t count) const {
+    if (count == 0) return false;  // a code that stands alone is never read
+    return counts == ValueCounts{} || std::find(counts.begin(), counts.end(), count) != counts.end();
+  }
+
+  RecordRule values;
+  ValueCounts counts;  // none: any number
+  RecordRule owner;
+  bool (TracesReader::*read)();
+};
+
+/// The kind of a record code, null for a code that is none.
+const TracesReader::RecordKind* TracesReader::FindKind(std::string_view code) {
+  constexpr RecordKind::ValueCounts kAny{};
+  constexpr std::string_view kNet = "a net header before it";
+  constexpr std::string_view kFill = "a FIL, ARE or ARS before it, behind the last net header";
+  static constexpr RecordKind kKinds[] = {
+      // the most frequent first
+      {"VER", "at least 2 values", kAny, "a FIL, ARE, ARS, ISL or ISS before it", &TracesReader::AddVer},
+      {"SEG", "at least 1 value", kAny, "a WIR, INC or ANT before it", &TracesReader::AddSeg},
+      {"WIR", "at least 5 values", kAny, kNet, &TracesReader::AddWir},
+      {"ISL", "at least 1 value", kAny, kFill, &TracesReader::AddIsl},
+      {"ISS", "at least 1 value", kAny, kFill, &TracesReader::AddIss},
+      {"ARE", "6, 8 or 13 values", kAny, "", &TracesReader::AddAre},
+      {"ARS", "6, 8 or 13 values", kAny, "", &TracesReader::AddArs},
+      {"FIL", "16 or 21 values", kAny, "", &TracesReader::AddFil},
+      {"TTI", "3 or 7 values", {3, 7}, kFill, &TracesReader::AddTti},
+      {"INC", "7 values", {7}, kNet, &TracesReader::AddInc},
+      {"ANT", "5 or 7 values", {5, 7}, kNet, &TracesReader::AddAnt},
+      {"GUI", "at least 6 values", kAny, kNet, &TracesReader::AddGui},
+      {"CHG", "at least 6 values", kAny, kNet, &TracesReader::AddChg},
+      {"XRF", "at least 2 values", kAny, "", &TracesReader::AddXrf},
+      {"TET", "at least 5 values", kAny, "", &TracesReader::AddTet},
+      {"TTT", "at least 5 values", kAny, "", &TracesReader::AddTtt},
+      {"UNITS", "at least 1 value", kAny, "", &TracesReader::SetUnits},
+      {"ST", "4, 6 or 8 values", {4, 6, 8}, "", &TracesReader::SetSt},
+  };
+  const auto* found = std::find_if(std::begin(kKinds), std::end(kKinds),
+                                   [code](const RecordKind& kind) { return kind.values.record == code; });
+  return found == std::end(kKinds) ? nullptr : found;
+}
+
+LineOutcome TracesReader::ReadLine(std::string_view line) {
+  const bool beginsQuoted = values_.LeavesQuoteOpen();
+  values_.Cut(line);
+  if (beginsQuoted) {  // and so has no code: what stands first reaches to the closing apostrophe
+    return Trimmed(line).empty() ? LineOutcome::Ignored() : LineOutcome::Skipped(SkipCode::kOpenQuote);
+  }
+  if (values_.Code() == "#") return ReadComment();
+  if (const RecordKind* kind = FindKind(values_.Code())) {
+    if (!kind->Accepts(values_.Count())) return LineOutcome::WrongValueCount(kind->values, values_.Count());
+    return (this->*kind->read)() ? LineOutcome::Imported()
+                                 : LineOutcome::Skipped(SkipCode::kNoOwner, kind->owner);
+  }
+  return CarriesNothing(line) ? LineOutcome::Ignored() : LineOutcome::Skipped(SkipCode::kUnknownRecord);
+}
+
+/// A comment is a net header when its first word is NET.
+LineOutcome TracesReader::ReadComment() {
+  if (!values_.Has(1) || values_.Text(1) != "NET") return LineOutcome::Ignored();
+  AddNet();
+  return LineOutcome::Imported();
+}
+
+bool TracesReader::SetUnits() {
+  model_.m_sUnits = values_.Text(1);
+  return true;
+}
+
+bool TracesReader::SetSt() {
+  if (values_.Count() == 4) {
+    model_.m_dStValue1 = values_.Double(1);
+    model_.m_dStValue2 = values_.Double(2);
+    model_.m_nStValue3 = values_.Int(3);
+    model_.m_nStValue4 = values_.Int(4);
+    return true;
+  }
+  model_.m_nStLongValue1 = values_.Int(1);
+  model_.m_nStLongValue2 = values_.Int(2);
+  model_.m_nStLongValue3 = values_.Int(3);
+  model_.m_nStLongValue4 = values_.Int(4);
+  model_.m_nStLongValue5 = values_.Int(5);
+  model_.m_nStLongValue6 = values_.Int(6);
+  model_.m_nStLongValue7 = -1;
+  model_.m_nStLongValue8 = -1;
+  return true;
+}
+
+bool TracesReader::AddXrf() {
+  auto record = std::make_unique<CMTracesXRF>();
+  record->m_nValue1 = values_.Int(1);
+  record->m_sValue2A = values_.Text(2);
+  record->m_sValue2B = values_.Text(2);
+  model_.m_pXrfArray->Append(std::move(record));
+  return true;
+}
+
+bool TracesReader::AddTet() {
+  auto record = std::make_unique<CMTracesTET>();
+  record->m_nValue1 = values_.Int(1);
+  record->m_sValue2 = values_.Text(2);
+  record->m_dValue3 = values_.Double(3);
+  record->m_dValue4 = values_.Double(4);
+  record->m_dValue5 = values_.Double(5);
+  model_.m_pTetArray->Append(std::move(record));
+  return true;
+}
+
+bool TracesReader::AddTtt() {
+  auto record = std::make_unique<CMTracesTTT>();
+  record->m_nValue1 = values_.Int(1);
+  record->m_dValue2 = values_.Double(2);
+  record->m_nValue3 = values_.Int(3);
+  record->m_nValue4 = values_.Int(4);
+  record->m_nValue5 = values_.Int(5);
+  model_.m_pTttArray->Append(std::move(record));
+  return true;
+}
+
+}  // namespace kestrin

@@ -1,0 +1,196 @@
+#include "kestrin/traces/traces_reader.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "tests/support/feed.h"
+#include "tests/traces/described_traces.h"
+
+namespace kestrin {
+namespace {
+
+using test::Described;
+using test::Feed;
+
+struct Case {
+  std::string text;
+  std::string model;
+};
+
+void Expect(const std::vector<Case>& cases) {
+  for (const Case& c : cases) {
+    CMTraces traces;
+    TracesReader reader(traces);
+    Feed(reader, c.text);
+    EXPECT_EQ(Described(traces), c.model) << c.text;
+  }
+}
+
+TEST(TracesReader, ReadsBoardWideRecords) {
+  Expect({
+      {"UNITS MM", "UNITS [MM]"},
+      {"UNITS MM\nUNITS 'IN CH' x", "UNITS ['IN CH']"},
+      {"ST 1.5 2.5 3.9 4", "ST 1.5 2.5 3 4"},
+      {"ST 1 2 3 4 5", ""},
+      {"ST 1.9 2 3 4 5 6", "STLONG 1 2 3 4 5 6 -1 -1"},
+      {"ST 1 2 3 4 5 6 7", ""},
+      {"ST 1 2 3 4\nST 7 6 5 4 3 2 1 0\nST 9 2 3 4 5 6 7 8 9", "ST 1 2 3 4 STLONG 7 6 5 4 3 2 -1 -1"},
+      {"XRF 3 U_1 EXTRA", "xrf{XRF 3 [U_1] [U_1] 0}"},
+      {"TET x 'P 1' 3 4.5 -5e1 6", "tet{TET 0 ['P 1'] 3 4.5 -50}"},
+      {"TTT 1 2.5 3 4 5\n TTT  9 8 7 6 5 4", "ttt{TTT 1 2.5 3 4 5; TTT 9 8 7 6 5}"},
+      {"VERX 1 2\nver 1 2\n\tUNITS MM\n#NET 'A'\n# NETS 'A'\n# UNITS MM", ""},
+  });
+}
+
+TEST(TracesReader, ReadsTheRecordsOfANet) {
+  Expect({
+      {"# NET 'A B' x", "net{NET [A B]}"},
+      {"# NET ''A'B'\n#  NET A\n# NET ''", "net{NET [A'B]; NET [A]; NET []}"},
+      {"# NET A\nWIR 1.9 2 3.5 4 5e0 6", "net{NET [A] wir{5 1 2 3.5 4 5}}"},
+      {"# NET A\nWIR 1 2 3 4", "net{NET [A] wir{5 0 0 0 0 0}}"},
+      {"# NET A\nINC 1 2.5 3 4 5 6 -7.9", "net{NET [A] inc{7 1 2.5 3 4 5 6 -7}}"},
+      {"# NET A\nINC 1 2 3 4 5 6 9e99", "net{NET [A] inc{7 1 2 3 4 5 6 2147483647}}"},
+      {"# NET A\nINC 1 2 3 4 5 6\nINC 1 2 3 4 5 6 7 8", "net{NET [A]}"},
+      {"# NET A\nANT 1 2 3 4 5", "net{NET [A] ant5{5 1 2 3 4 5}}"},
+      {"# NET A\nANT 1 2 3 4 5 6 7", "net{NET [A] ant7{7 1 2 3 4 5 6 7}}"},
+      {"# NET A\nANT 1 2 3 4\nANT 1 2 3 4 5 6\nANT 1 2 3 4 5 6 7 8", "net{NET [A]}"},
+      {"# NET A\nGUI 1 2 3 4 5 6 7\nCHG 1.5 2.5 3.5 4.5 5.5 6.5",
+       "net{NET [A] gui{6 1 2 3 4 5 6} chg{6 1.5 2.5 3 4.5 5.5 6}}"},
+  });
+}
+
+TEST(TracesReader, ReadsSegmentsAsFarAsTheirLineGoes) {
+  const auto segment = [](const std::string& values, const std::string& record) {
+    return Case{"# NET A\nWIR 1 2 3 4 5\nSEG " + values,
+                "net{NET [A] wir{5 1 2 3 4 5 seg{SEG " + record + "}}}"};
+  };
+  Expect({
+      segment("1.5 2.5 3 12 X", "1.5 2.5 3 [] [X] 12"),
+      segment("1.5 2.5 3 12.5 X Y Z", "1.5 2.5 3 [12.5] [X] -1"),
+      segment("1 2 3 0012", "1 2 3 [] [] 12"),
+      segment("1 2 3 -1", "1 2 3 [-1] [] -1"),
+      segment("1 2 3 '12' 'A B'", "1 2 3 ['12'] ['A B'] -1"),
+      segment("1 2", "1 2 0 [] [] -1"),
+      segment("1", "1 0 0 [] [] -1"),
+  });
+}
+
+TEST(TracesReader, ReadsTheRecordsOfAFill) {
+  Expect({
+      {"FIL 'A' 'B C' 'S' 4 5 6 7 8 9.5 10 11 12 13 T1 'T2' 16",
+       "fil{FIL [A] [B C] ['S'] 4 5 6 7 8 9.5 10 11 12 [T1] ['T2'] [16] 0 0 0 0}"},
+      {"FIL A B S 4 5 6 7 8 9 10 11 12 13 14.5 15 16.5 17.5 18 T1 T2 T3",
+       "fil{FIL [A] [B] [S] 4 5 6 7 8 9 10 11 12 [T1] [T2] [T3] 14 15 16.5 17.5}"},
+      {"FIL 1\nVER 1 2", "fil{FIL [] [] [] 0 0 0 0 0 0 0 0 0 [] [] [] 0 0 0 0 ver{VER 1 2}}"},
+      {"FIL 1\nARE 'A' B S 4 5.5 6\nVER 1 2.5 3\nARS 1\nVER 3 4",
+       "fil{FIL [] [] [] 0 0 0 0 0 0 0 0 0 [] [] [] 0 0 0 0 are{AREA [A] [B] [S] 4 5.5 6 0 0 0 0 0 ver{VER 1 "
+       "2.5}} ars{AREA [] [] [] 0 0 0 0 0 0 0 0 ver{VER 3 4}}}"},
+      {"FIL 1\nARE A B S 4 5 6 7 8\nARS A B S 4 5 6 7 8 9 10.5 11.5 12 13",
+       "fil{FIL [] [] [] 0 0 0 0 0 0 0 0 0 [] [] [] 0 0 0 0 are{AREA [A] [B] [S] 4 5 6 8 0 0 0 0} ars{AREA "
+       "[A] "
+       "[B] [S] 4 5 6 13 8 9 10.5 11.5}}"},
+      {"FIL 1\nISL 1.9 2\nVER 1 2\nISS 3\nVER 3 4",
+       "fil{FIL [] [] [] 0 0 0 0 0 0 0 0 0 [] [] [] 0 0 0 0 isl{ISL 1 ver{VER 1 2}} iss{ISS 3 ver{VER 3 "
+       "4}}}"},
+      {"ARE A B S 4 5.5 6\nARE C D S 4 7 6\nTTI 1 2 'X Y'\nTTI 1 2 3 4.5 5.5 6.5 7\nTTI 1 2 3 4\nTTI 1 2",
+       "fil{FIL [A] [B] [] 0 0 0 1 0 5.5 0 0 0 [] [] [] 0 0 0 0 are{AREA [A] [B] [S] 4 5.5 6 0 0 0 0 0; AREA "
+       "[C] "
+       "[D] [S] 4 7 6 0 0 0 0 0} tti{TTI [A] [B] 1 2 ['X Y'] 0 0 0 0; TTI [A] [B] 1 2 [3] 4 5.5 6.5 7}}"},
+      {"ARS 1", "fil{FIL [] [] [] 0 0 0 1 0 0 0 0 0 [] [] [] 0 0 0 0 ars{AREA [] [] [] 0 0 0 0 0 0 0 0}}"},
+  });
+}
+
+TEST(TracesReader, ANetHeaderClosesTheFillAndNothingElse) {
+  CMTraces traces;
+  TracesReader reader(traces);
+  const auto outcomes = Feed(reader,
+                             "# NET A\nWIR 1 2 3 4 5\nSEG 1 0\nWIR 1\nANT 1 2 3 4 5 6\nSEG 2 0\n"
+                             "FIL 1\nVER 1 0\n# NET A\nSEG 3 0\nVER 2 0\n"
+                             "ISL 1\nISS 1\nTTI 1 2 3\nVER 3 0\nARE 6\nISL 1\nFIL 2\nISL 2");
+  EXPECT_EQ(traces.m_pNetArray->GetSize(), 2);
+  const CMTracesNET& first = *traces.m_pNetArray->GetAt(0);
+  ASSERT_EQ(first.m_pWirArray->GetSize(), 2);
+  EXPECT_EQ(first.m_pWirArray->GetAt(0)->m_pSegArray->GetSize(), 3);
+  EXPECT_EQ(first.m_pWirArray->GetAt(1)->m_pSegArray->GetSize(), 0);
+  ASSERT_EQ(traces.m_pFilArray->GetSize(), 3);
+  EXPECT_EQ(traces.m_pFilArray->GetAt(0)->m_pVerArray->GetSize(), 3);
+  EXPECT_EQ(traces.m_pFilArray->GetAt(0)->m_pIslArray->GetSize(), 0);
+  EXPECT_EQ(traces.m_pFilArray->GetAt(1)->m_pIslArray->GetSize(), 1);
+  EXPECT_EQ(traces.m_pFilArray->GetAt(2)->m_pIslArray->GetSize(), 1);
+  for (std::size_t i = 11; i <= 13; ++i) EXPECT_EQ(outcomes[i].Code(), SkipCode::kNoOwner);
+}
+
+TEST(TracesReader, QuotesStayOpenFromLineToLine) {
+  Expect({
+      {"# NET 'A B\nTTT 1 2 3 4 5\nx' TTT 1 2 3 4 5\nTTT 1 2 3 4 5", "ttt{TTT 1 2 3 4 5} net{NET [A B]}"},
+      {"# it's\nUNITS IN\n  'UNITS' IN\n'\nUNITS MM", "UNITS [MM]"},
+      {"XRF 1 'a  'b' c'd\nXRF 2 ''", "xrf{XRF 1 ['a  'b' c'd] ['a  'b' c'd] 0; XRF 2 [''] [''] 0}"},
+  });
+}
+
+TEST(TracesReader, ALineTooShortForItsRecordRaisesAndChangesNothing) {
+  const std::string before = "# NET A\nWIR 1 2 3 4 5\nFIL 1\n";
+  for (const char* line :
+       {"XRF 1", "CHG 1 2 3 4 5", "GUI 1 2 3 4 5", "TET 1 2 3 4", "TTT 1 2 3 4", "VER 1", "# NET"}) {
+    CMTraces expected;
+    TracesReader complete(expected);
+    Feed(complete, before + "SEG 1 2\nVER 1 2\nISL 1");
+    CMTraces traces;
+    TracesReader reader(traces);
+    EXPECT_THROW(reader.ReadLine(line), CInvalidArgException) << line;  // without an owner as well
+    Feed(reader, before);
+    EXPECT_THROW(reader.ReadLine(line), CInvalidArgException) << line;
+    Feed(reader, "SEG 1 2\nVER 1 2\nISL 1");
+    EXPECT_EQ(Described(traces), Described(expected)) << line;
+  }
+}
+
+TEST(TracesReader, TellsWhatBecameOfALine) {
+  const std::string unknown(TextOf(SkipCode::kUnknownRecord).text);
+  const Case cases[] = {
+      {"UNITS MM", "imported"},
+      {"FIL 1 2", "imported"},
+      {"", "ignored"},
+      {" \t ", "ignored"},
+      {"# a comment", "ignored"},
+      {"#", "ignored"},
+      {"#comment", "ignored"},
+      {"(a note)", "ignored"},
+      {"PRP a property", "ignored"},
+      {"#NET 'A'", unknown},
+      {"(a note) VER 1 2", unknown},
+      {"WIRE 1 2", unknown},
+      {"ST 1 2 3 4 5", "ST takes 4, 6 or 8 values, this line has 5"},
+      {"VER", "VER takes at least 2 values, this line has 0"},
+      {"FIL", "FIL takes 16 or 21 values, this line has 0"},
+      {"ST ", "ST takes 4, 6 or 8 values, this line has 0"},
+      {"INC", "INC takes 7 values, this line has 0"},
+      {"TTI", "TTI takes 3 or 7 values, this line has 0"},
+      {"TTI 1 2", "TTI takes 3 or 7 values, this line has 2"},
+      {"VER 1 2", "VER needs a FIL, ARE, ARS, ISL or ISS before it"},
+      {"SEG 1", "SEG needs a WIR, INC or ANT before it"},
+      {"WIR 1", "WIR needs a net header before it"},
+      {"WIR 1 2 3 4 5", "WIR needs a net header before it"},
+      {"ANT 1 2 3 4 5", "ANT needs a net header before it"},
+      {"INC 1 2 3 4 5 6 7", "INC needs a net header before it"},
+      {"GUI 1 2 3 4 5 6", "GUI needs a net header before it"},
+      {"ISS 1", "ISS needs a FIL, ARE or ARS before it, behind the last net header"},
+      {"#'\nUNITS MM", std::string(TextOf(SkipCode::kOpenQuote).text)},
+      {"#'\n# NET 'A'", std::string(TextOf(SkipCode::kOpenQuote).text)},
+      {"#'\nUNITS", std::string(TextOf(SkipCode::kOpenQuote).text)},
+      {"#'\n", "ignored"},
+  };
+  for (const Case& c : cases) {
+    CMTraces traces;
+    TracesReader reader(traces);
+    const LineOutcome outcome = Feed(reader, c.text + "\n").back();
+    const bool skipped = outcome.GetKind() == LineOutcome::Kind::kSkipped;
+    const bool imported = outcome.GetKind() == LineOutcome::Kind::kImported;
+    EXPECT_EQ(skipped ? outcome.Reason() : imported ? "imported" : "ignored", c.model) << c.text;
+  }
+}
+
+}  // namespace
+}  // namespace kestrin

@@ -1,0 +1,123 @@
+#include "tool/traces_summary.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "tool/readable_text.h"
+#include "tool/text_table.h"
+
+namespace kestrin::tool {
+namespace {
+
+using Align = TextTable::Align;
+
+struct NetCounts {
+  void Add(const NetCounts& other) {
+    wires += other.wires;
+    incomplete += other.incomplete;
+    antennas += other.antennas;
+    segments += other.segments;
+  }
+
+  std::string name;
+  std::int64_t wires = 0;
+  std::int64_t incomplete = 0;
+  std::int64_t antennas = 0;
+  std::int64_t segments = 0;
+};
+
+template <class RECORD>
+std::int64_t SegmentsOf(const RecordList<RECORD>& records) {
+  std::int64_t count = 0;
+  for (const RECORD* record : *records) count += record->m_pSegArray->GetSize();
+  return count;
+}
+
+NetCounts CountsOf(const CMTracesNET& net) {
+  return {.name = ToTerminal(net.m_sName.View()),
+          .wires = net.m_pWirArray->GetSize(),
+          .incomplete = net.m_pIncArray->GetSize(),
+          .antennas = net.m_pAntWirArray->GetSize() + net.m_pAntIncArray->GetSize(),
+          .segments = SegmentsOf(net.m_pWirArray) + SegmentsOf(net.m_pIncArray) +
+                      SegmentsOf(net.m_pAntWirArray) + SegmentsOf(net.m_pAntIncArray)};
+}
+
+struct FillCounts {
+  std::int64_t vertices = 0;
+  std::int64_t areas = 0;
+  std::int64_t islands = 0;
+};
+
+template <class RECORD>
+std::int64_t VerticesOf(const RecordList<RECORD>& records) {
+  std::int64_t count = 0;
+  for (const RECORD* record : *records) count += record->m_pVerArray->GetSize();
+  return count;
+}
+
+FillCounts CountsOf(const RecordList<CMTracesFIL>& fills) {
+  FillCounts counts{.vertices = VerticesOf(fills)};
+  for (const CMTracesFIL* fill : *fills) {
+    counts.vertices += VerticesOf(fill->m_pAreArray) + VerticesOf(fill->m_pArsArray) +
+                       VerticesOf(fill->m_pIslArray) + VerticesOf(fill->m_pIssArray);
+    counts.areas += fill->m_pAreArray->GetSize() + fill->m_pArsArray->GetSize();
+    counts.islands += fill->m_pIslArray->GetSize() + fill->m_pIssArray->GetSize();
+  }
+  return counts;
+}
+
+void PrintCounts(const CMTraces& traces, const NetCounts& nets) {
+  const FillCounts fills = CountsOf(traces.m_pFilArray);
+  std::printf("\nTraces: units %s\n", ToTerminal(traces.m_sUnits.View()).c_str());
+  TextTable table({{"records"}, {"count", Align::kRight}});
+  const auto add = [&](const char* what, std::int64_t count) { table.AddRow({what, std::to_string(count)}); };
+  add("nets", traces.m_pNetArray->GetSize());
+  add("wires", nets.wires);
+  add("incomplete connections", nets.incomplete);
+  add("antennas", nets.antennas);
+  add("segments", nets.segments);
+  add("fills", traces.m_pFilArray->GetSize());
+  add("areas", fills.areas);
+  add("islands", fills.islands);
+  add("vertices", fills.vertices);
+  table.Print();
+}
+
+void PrintLongest(std::vector<NetCounts> nets) {
+  constexpr std::size_t kShown = 10;
+  std::stable_sort(nets.begin(), nets.end(),
+                   [](const NetCounts& a, const NetCounts& b) { return a.segments > b.segments; });
+  const std::size_t shown = std::min(nets.size(), kShown);
+  std::printf("\nLongest nets: %zu of %zu\n", shown, nets.size());
+  TextTable table({{"net"},
+                   {"segments", Align::kRight},
+                   {"wires", Align::kRight},
+                   {"incomplete", Align::kRight},
+                   {"antennas", Align::kRight}});
+  for (std::size_t i = 0; i < shown; ++i) {
+    const NetCounts& net = nets[i];
+    table.AddRow({net.name, std::to_string(net.segments), std::to_string(net.wires),
+                  std::to_string(net.incomplete), std::to_string(net.antennas)});
+  }
+  table.Print();
+}
+
+}  // namespace
+
+void PrintTraces(const CMTraces& traces) {
+  NetCounts all;
+  std::vector<NetCounts> nets;
+  for (const CMTracesNET* net : *traces.m_pNetArray) {
+    nets.push_back(CountsOf(*net));
+    all.Add(nets.back());
+  }
+  PrintCounts(traces, all);
+  PrintLongest(std::move(nets));
+}
+
+}  // namespace kestrin::tool
