@@ -11,7 +11,9 @@ namespace {
 void WriteDocument(JsonWriter& json, const CPC_KESTRIN_GET& session) {
   JsonObject document(json);
   document.Member("tech", session.m_pTech);
-  for (const char* unread : {"components", "nets", "geometry", "traces"}) document.Member(unread, nullptr);
+  for (const char* unread : {"components", "nets"}) document.Member(unread, nullptr);
+  document.Member("geometry", session.m_pGeom);
+  document.Member("traces", nullptr);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "kestrin/tech/tech_model.h"
+#include "tool/geom_summary.h"
 #include "tool/import.h"
 #include "tool/readable_text.h"
 #include "tool/report_error.h"
@@ -72,6 +73,7 @@ int Summary(const ExportSet& files) {
   const std::string stopped = Import(session, files);
   PrintFiles(session.GetReport());
   if (const CMTech* tech = session.GetTech()) PrintTech(*tech);
+  if (const CMGeom* geom = session.GetGeom()) PrintGeometry(*geom);
   return stopped.empty() ? kSuccess : ReportError(stopped, kIncomplete);
 }
 

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "kestrin/platform/numbers.h"
+#include "kestrin/text/comment.h"
 #include "kestrin/text/fields.h"
 #include "kestrin/text/trim.h"
 
@@ -21,15 +22,6 @@ std::string_view ArgumentText(std::string_view line) {
   line.remove_prefix(line.find('(') + 1);  // npos + 1 is 0
   const std::size_t close = line.rfind(')');
   return close == std::string_view::npos ? std::string_view() : line.substr(0, close);
-}
-
-const CharacterSet& Commas() {
-  static const CharacterSet commas = [] {
-    CharacterSet set;
-    AddCharacters(set, ",");
-    return set;
-  }();
-  return commas;
 }
 
 }  // namespace
@@ -49,9 +41,7 @@ LineOutcome TechReader::ReadLine(std::string_view line) {
     (this->*command.add)(line);
     return LineOutcome::Imported();
   }
-  const std::string_view text = Trimmed(line);
-  return text.empty() || text.front() == '#' ? LineOutcome::Ignored()
-                                             : LineOutcome::Skipped(SkipCode::kUnknownRecord);
+  return IsBlankOrComment(line) ? LineOutcome::Ignored() : LineOutcome::Skipped(SkipCode::kUnknownRecord);
 }
 
 void TechReader::AddLayer(std::string_view line) {
@@ -85,7 +75,7 @@ void TechReader::ForEachArgument(std::string_view line, Visit visit) {
   std::erase(unquoted_, '"');
   std::int64_t number = 0;
   std::size_t position = 0;
-  while (const auto argument = NextToken(unquoted_, Commas(), position)) visit(++number, Trimmed(*argument));
+  while (const auto argument = NextToken(unquoted_, kComma, position)) visit(++number, Trimmed(*argument));
 }
 
 }  // namespace kestrin

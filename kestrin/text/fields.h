@@ -16,6 +16,8 @@ namespace kestrin {
 /// Characters by their unsigned code.
 using CharacterSet = std::bitset<256>;
 
+inline constexpr CharacterSet kComma(1ULL << ',');
+
 /// Adds every character of the text to the set.
 void AddCharacters(CharacterSet& set, std::string_view characters);
 

@@ -17,6 +17,9 @@ enum class SkipCode : std::uint8_t {
   kUnendedKeyword,
   kWrongValueCount,
   kNoOwner,
+  kUnknownCommand,
+  kUnknownAttribute,
+  kMissingValue,
 };
 
 /// A skip code as users see it.
@@ -31,6 +34,9 @@ inline constexpr std::array kSkipCodes{
     SkipCodeText{"unended-keyword", "no blank follows the keyword, so that the line is no record"},
     SkipCodeText{"wrong-value-count", "the record does not have the number of values that its kind takes"},
     SkipCodeText{"no-owner", "the record that this one belongs to does not stand before it"},
+    SkipCodeText{"unknown-command", "the command is none that is read from this file"},
+    SkipCodeText{"unknown-attribute", "the attribute is none that is read from this file"},
+    SkipCodeText{"missing-value", "a value that the record cannot do without is missing"},
 };
 
 [[nodiscard]] constexpr const SkipCodeText& TextOf(SkipCode code) {
