@@ -120,8 +120,11 @@ TEST(Tool, SummarizesTheSampleBoardAndFindsNothingSkipped) {
   const auto summary = RunTool("summary " + kBoard);
   EXPECT_EQ(summary.status, 0);
   EXPECT_EQ(summary.err, "");
-  for (const char* line :
-       {"Stack-up: 4 physical layers", "INNER_1         SIGNAL_2, POWER_1", "Via rules: 4"}) {
+  for (const char* line : {"Stack-up: 4 physical layers", "INNER_1         SIGNAL_2, POWER_1", "Via rules: 4",
+                           "Board: SENSOR_NODE, MM, 4 routing layers",
+                           "routing outline    59 x 39, from (0.5, 0.5) to (59.5, 39.5)",
+                           "board              1                1      2     7       3          3",
+                           "stack-up: 7 layer definitions"}) {
     EXPECT_NE(summary.out.find(line), std::string::npos) << summary.out;
   }
   const auto check = RunTool("check " + kBoard);
