@@ -16,6 +16,7 @@ struct Kind {
 };
 
 constexpr Kind kKinds[] = {
+    {"geometry", &kestrin::bench::GenerateGeometry},
     {"neutral", &kestrin::bench::GenerateNeutral},
     {"traces", &kestrin::bench::GenerateTraces},
 };

@@ -9,6 +9,10 @@
 
 namespace kestrin::bench {
 
+/// A Geometry file: a board, its stack-up, padstacks, and components with paths, polygons, arcs, circles,
+/// texts and attributes, with points in the line and pending ones.
+void GenerateGeometry(std::ostream& out, std::uint64_t size);
+
 /// A Neutral file of one board: nets with pins, components with properties.
 void GenerateNeutral(std::ostream& out, std::uint64_t size);
 

@@ -12,7 +12,7 @@ void WriteDocument(JsonWriter& json, const CPC_KESTRIN_GET& session) {
   JsonObject document(json);
   document.Member("tech", session.m_pTech);
   document.Member("components", session.m_pComps).Member("nets", session.m_pNetList);
-  document.Member("geometry", nullptr).Member("traces", session.m_pTraces);
+  document.Member("geometry", session.m_pGeom).Member("traces", session.m_pTraces);
 }
 
 }  // namespace

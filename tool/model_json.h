@@ -3,6 +3,7 @@
 /// @file
 /// The models as JSON: an object a record, its members in declaration order.
 
+#include "kestrin/geom/geom_model.h"
 #include "kestrin/neutral/component_model.h"
 #include "kestrin/neutral/net_model.h"
 #include "kestrin/tech/tech_model.h"
@@ -15,5 +16,6 @@ void WriteJson(JsonWriter& json, const CMTech& tech);
 void WriteJson(JsonWriter& json, const CMComps& components);
 void WriteJson(JsonWriter& json, const CMNetList& nets);
 void WriteJson(JsonWriter& json, const CMTraces& traces);
+void WriteJson(JsonWriter& json, const CMGeom& geom);
 
 }  // namespace kestrin::tool

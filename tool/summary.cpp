@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <string>
 
+#include "tool/geom_summary.h"
 #include "tool/import.h"
 #include "tool/neutral_summary.h"
 #include "tool/output.h"
@@ -53,6 +54,7 @@ int Summary(const ExportSet& files) {
   if (session.GetComps() != nullptr) {
     PrintNeutral(*session.GetComps(), *session.GetNetList(), session.GetReport().boardSelection);
   }
+  if (const CMGeom* geom = session.GetGeom()) PrintGeometry(*geom);
   if (const CMTraces* traces = session.GetTraces()) PrintTraces(*traces);
   return FinishOutput(stopped.empty() ? kSuccess : ReportError(stopped, kIncomplete));
 }

@@ -12,16 +12,20 @@
 namespace kestrin {
 
 /// An array of record pointers that deletes its records when it goes, in index order; null slots are skipped.
-/// ARRAY is the array that hosts see. Only destruction deletes: removing and clearing drop pointers as ever.
+/// ARRAY is the array that hosts see. Only destruction and DeleteRecords delete: removing and clearing drop
+/// pointers as ever.
 template <class ARRAY>
-class Owning final : public ARRAY {
+class Owning : public ARRAY {
  public:
   Owning() = default;
   Owning(const Owning&) = delete;
   Owning& operator=(const Owning&) = delete;
-  ~Owning() override {
+  ~Owning() override { DeleteRecords(); }
+
+  void DeleteRecords() {
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the one place that owns records
     for (auto* record : *this) delete record;
+    this->RemoveAll();
   }
 
   /// Hands a record to the list, at its end, and returns it.
@@ -80,8 +84,16 @@ class Shared {
   std::shared_ptr<T> object_;
 };
 
+/// A framework array of records that it owns.
+template <class RECORD>
+using OwningArray = Owning<CArray<RECORD*, RECORD*>>;
+
 /// A record's list of other records, which it owns: a pointer to CArray<RECORD*, RECORD*> for hosts.
 template <class RECORD>
-using RecordList = Owned<Owning<CArray<RECORD*, RECORD*>>>;
+using RecordList = Owned<OwningArray<RECORD>>;
+
+/// The same for a record whose copies share the list.
+template <class RECORD>
+using SharedRecordList = Shared<OwningArray<RECORD>>;
 
 }  // namespace kestrin

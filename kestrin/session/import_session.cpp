@@ -1,5 +1,7 @@
 #include "kestrin/session/import_session.h"
 
+#include "kestrin/geom/geom_model.h"
+#include "kestrin/geom/geom_reader.h"
 #include "kestrin/neutral/neutral_reader.h"
 #include "kestrin/platform/message_box.h"
 #include "kestrin/session/dialog.h"
@@ -101,7 +103,13 @@ void CPC_KESTRIN_GET::NeutralFileParse(CString path) {
   ReadLines({.path = path, .bar = m_pNeutralProgress}, reader, report_.Of(ImportFile::kNeutral));
 }
 
-void CPC_KESTRIN_GET::GeomFileParse(CString /*path*/) {}
+void CPC_KESTRIN_GET::GeomFileParse(CString path) {
+  const auto geom = Shared<CMGeom>::Make();
+  m_pGeom = geom;
+  GeomReader reader(*geom);
+  ReadLines({.path = path, .bar = m_pGeomProgress, .pumpsMessages = true}, reader,
+            report_.Of(ImportFile::kGeometry));
+}
 
 void CPC_KESTRIN_GET::TraceFileParse(CString path) {
   const auto traces = Shared<CMTraces>::Make();

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "kestrin/platform/numbers.h"
+#include "kestrin/text/comment.h"
 #include "kestrin/text/fields.h"
 #include "kestrin/text/trim.h"
 
@@ -40,9 +41,7 @@ LineOutcome TechReader::ReadLine(std::string_view line) {
     (this->*command.add)(line);
     return LineOutcome::Imported();
   }
-  const std::string_view text = Trimmed(line);
-  return text.empty() || text.front() == '#' ? LineOutcome::Ignored()
-                                             : LineOutcome::Skipped(SkipCode::kUnknownRecord);
+  return IsBlankOrComment(line) ? LineOutcome::Ignored() : LineOutcome::Skipped(SkipCode::kUnknownRecord);
 }
 
 void TechReader::AddLayer(std::string_view line) {
@@ -76,7 +75,7 @@ void TechReader::ForEachArgument(std::string_view line, Visit visit) {
   std::erase(unquoted_, '"');
   std::int64_t number = 0;
   std::size_t position = 0;
-  while (const auto argument = NextToken(unquoted_, Comma(), position)) visit(++number, Trimmed(*argument));
+  while (const auto argument = NextToken(unquoted_, kComma, position)) visit(++number, Trimmed(*argument));
 }
 
 }  // namespace kestrin

@@ -27,15 +27,6 @@ void AddCharacters(CharacterSet& set, std::string_view characters) {
   for (const char c : characters) set.set(static_cast<unsigned char>(c));
 }
 
-const CharacterSet& Comma() {
-  static const CharacterSet comma = [] {
-    CharacterSet set;
-    AddCharacters(set, ",");
-    return set;
-  }();
-  return comma;
-}
-
 std::optional<std::string_view> NextToken(std::string_view text, const CharacterSet& delimiters,
                                           std::size_t& position) {
   while (position < text.size() && Contains(delimiters, text[position])) ++position;

@@ -16,11 +16,10 @@ namespace kestrin {
 /// Characters by their unsigned code.
 using CharacterSet = std::bitset<256>;
 
+inline constexpr CharacterSet kComma(1ULL << ',');
+
 /// Adds every character of the text to the set.
 void AddCharacters(CharacterSet& set, std::string_view characters);
-
-/// The set that holds the comma alone.
-[[nodiscard]] const CharacterSet& Comma();
 
 /// The next run of characters that are not delimiters; the position then stands on the delimiter that ended
 /// it.

@@ -19,6 +19,9 @@ enum class SkipCode : std::uint8_t {
   kWrongValueCount,
   kNoOwner,
   kOpenQuote,
+  kUnknownCommand,
+  kUnknownAttribute,
+  kMissingValue,
   kCount,  // of the codes
 };
 
@@ -36,6 +39,9 @@ inline constexpr std::array kSkipCodes{
     SkipCodeText{"no-owner", "the record that this one belongs to does not stand before it"},
     SkipCodeText{"open-quote",
                  "a line before this one left an apostrophe open, so that its blanks do not separate"},
+    SkipCodeText{"unknown-command", "the command is none that is read from this file"},
+    SkipCodeText{"unknown-attribute", "the attribute is none that is read from this file"},
+    SkipCodeText{"missing-value", "a value that the record cannot do without is missing"},
 };
 static_assert(kSkipCodes.size() == static_cast<std::size_t>(SkipCode::kCount));
 

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "kestrin/geom/geom_model.h"
 #include "kestrin/neutral/component_model.h"
 #include "kestrin/neutral/net_model.h"
 #include "kestrin/platform/exceptions.h"
@@ -26,7 +27,7 @@ class ImportSession : public testing::Test {
   void SetPaths(CPC_KESTRIN_GET& session) const {
     session.vSetTechFilePath(folder_.File("a.tech", "$$define_physical_layer(1, TOP)\n$$define_rule_via(V)"));
     session.vSetNeutralFilePath(folder_.File("a.neutral", "B_UNITS MM\n###Nets\n"));
-    session.vSetGeomFilePath(folder_.File("a.geometry", ""));
+    session.vSetGeomFilePath(folder_.File("a.geometry", "$$create_pin(P)\n$$create_via(V)"));
     session.vSetTraceFilePath(folder_.File("a.traces", ""));
   }
 
@@ -60,13 +61,27 @@ TEST_F(ImportSession, TalksToTheDialogInTheOrderOfTheFiles) {
   PostMessageA(host.dialog.GetSafeHwnd(), WM_USER, 1, 0);
   PostMessageA(host.status.GetSafeHwnd(), WM_USER, 2, 0);
   session.vParse();
-  EXPECT_EQ(host.events,
-            (Events{"dialog: message 1024 1", "status: message 1024 2", "dialog: refresh",
-                    "status: Parsing Tech File", "tech bar: position 50", "tech bar: disable",
-                    "dialog: refresh", "tech bar: position 100", "tech bar: disable", "dialog: refresh",
-                    "status: Parsing Neutral File", "neutral bar: position 33", "dialog: refresh",
-                    "neutral bar: position 66", "dialog: refresh", "status: Parsing Geometry File",
-                    "status: Parsing Trace File"}));
+  EXPECT_EQ(host.events, (Events{"dialog: message 1024 1",
+                                 "status: message 1024 2",
+                                 "dialog: refresh",
+                                 "status: Parsing Tech File",
+                                 "tech bar: position 50",
+                                 "tech bar: disable",
+                                 "dialog: refresh",
+                                 "tech bar: position 100",
+                                 "tech bar: disable",
+                                 "dialog: refresh",
+                                 "status: Parsing Neutral File",
+                                 "neutral bar: position 33",
+                                 "dialog: refresh",
+                                 "neutral bar: position 66",
+                                 "dialog: refresh",
+                                 "status: Parsing Geometry File",
+                                 "geometry bar: position 50",
+                                 "dialog: refresh",
+                                 "geometry bar: position 100",
+                                 "dialog: refresh",
+                                 "status: Parsing Trace File"}));
   EXPECT_EQ(session.sGetErrorMsg(), "");
 }
 
@@ -76,7 +91,7 @@ TEST_F(ImportSession, RefreshesThroughWhicheverBarThereIs) {
     int refreshes;
   };
   for (const Case& c : {Case{true, false, false, false, 3}, Case{false, true, false, false, 3},
-                        Case{false, false, true, false, 1}, Case{false, false, false, true, 1},
+                        Case{false, false, true, false, 3}, Case{false, false, false, true, 1},
                         Case{false, false, false, false, 0}}) {
     CPC_KESTRIN_GET session;
     SetPaths(session);
@@ -85,6 +100,19 @@ TEST_F(ImportSession, RefreshesThroughWhicheverBarThereIs) {
     session.vParse();
     EXPECT_EQ(std::count(host.events.begin(), host.events.end(), "dialog: refresh"), c.refreshes);
   }
+}
+
+TEST_F(ImportSession, TheGeometryReaderLetsTheHostWorkOffItsMessages) {
+  CPC_KESTRIN_GET session;
+  SetPaths(session);
+  RecordingDialog host;
+  PostMessageA(host.dialog.GetSafeHwnd(), WM_USER, 1, 0);
+  session.TechFileParse(session.m_sTechFilePath);
+  EXPECT_EQ(host.events, Events{});
+  session.GeomFileParse(session.m_sGeomFilePath);
+  EXPECT_EQ(host.events, (Events{"dialog: message 1024 1"}));
+  EXPECT_EQ(session.GetGeom()->m_pVias->GetSize(), 1);
+  EXPECT_EQ(session.GetReport().Of(ImportFile::kGeometry).Imported(), 2);
 }
 
 TEST_F(ImportSession, TheTechPathIsOptional) {
@@ -109,6 +137,9 @@ TEST_F(ImportSession, AFileThatCannotBeOpenedLeavesAnEmptyRoot) {
   ASSERT_NE(session.GetNetList(), nullptr);
   EXPECT_TRUE(session.GetNetList()->m_pNets->IsEmpty());
   EXPECT_EQ(session.GetReport().Of(ImportFile::kTech).end, ReadingEnd::kNotOpened);
+  session.GeomFileParse(folder_.Path("missing"));
+  ASSERT_NE(session.GetGeom(), nullptr);
+  EXPECT_TRUE(session.GetGeom()->m_pPins->IsEmpty());
   EXPECT_EQ(session.GetReport().Of(ImportFile::kNeutral).end, ReadingEnd::kNotOpened);
 }
 

@@ -17,4 +17,10 @@ std::vector<LineOutcome> Feed(READER& reader, const std::string& text) {
   return outcomes;
 }
 
+/// An outcome in words.
+inline std::string Told(LineOutcome outcome) {
+  if (outcome == LineOutcome::Imported()) return "imported";
+  return outcome == LineOutcome::Ignored() ? "ignored" : outcome.Reason();
+}
+
 }  // namespace kestrin::test

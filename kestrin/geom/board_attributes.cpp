@@ -1,0 +1,73 @@
+#include <algorithm>
+#include <iterator>
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "kestrin/geom/attribute_handlers.h"
+#include "kestrin/geom/bracketed_number.h"
+
+namespace kestrin::attribute {
+namespace {
+
+CMGeomBoard& Board(ReaderState& state) { return *state.geometry.BoundBoard(); }
+
+bool BoardIsOpen(const ReaderState& state) { return state.geometry.Kind() == GeometryKind::kBoard; }
+
+}  // namespace
+
+LineOutcome DefaultPadstackOfBoard(ReaderState& state) {
+  Board(state).m_sDefaultPadstack = state.values[2];
+  return LineOutcome::Imported();
+}
+
+LineOutcome DefaultVia(ReaderState& state) {
+  Board(state).m_sDefaultVia = state.values[2];
+  return LineOutcome::Imported();
+}
+
+LineOutcome PlacementClearance(ReaderState& state) {
+  return AssignBracketed(state.values, Board(state).m_dPlacementClearance);
+}
+
+LineOutcome RoutingLayers(ReaderState& state) {
+  return AssignBracketed(state.values, Board(state).m_nRoutingLayers);
+}
+
+LineOutcome PlacementOutlineOfBoard(ReaderState& state) {
+  Append(*Board(state).m_pPlacementOutline, state.TakePoints(2, kOutlineScan));
+  return LineOutcome::Imported();
+}
+
+LineOutcome RoutingOutline(ReaderState& state) {
+  Board(state).m_pRoutingOutline->RemoveAll();  // the last outline counts, where those for placement add up
+  Append(*Board(state).m_pRoutingOutline, state.TakePoints(2, kOutlineScan));
+  return LineOutcome::Imported();
+}
+
+LineOutcome PlacementKeepout(ReaderState& state) {
+  auto keepout = std::make_unique<CMGeomKeepout>();
+  keepout->m_sName = state.values[2];
+  Append(*keepout->m_pCoords, state.TakePoints(3, kOutlineScan));
+  if (BoardIsOpen(state)) Board(state).m_pPlacementKeepouts->Append(std::move(keepout));
+  return LineOutcome::Imported();
+}
+
+LineOutcome PlacementRegion(ReaderState& state) {
+  auto region = std::make_unique<CMGeomPlacementRegion>();
+  Append(*region->m_pCoords, state.TakePoints(2, kOutlineScan));
+  if (BoardIsOpen(state)) Board(state).m_pPlacementRegions->Append(std::move(region));
+  return LineOutcome::Imported();
+}
+
+LineOutcome PowerNetNames(ReaderState& state) {
+  for (std::size_t number = 2; number <= state.values.Count(); ++number) {
+    const std::string_view value = state.values[number];
+    std::string name;
+    std::remove_copy(value.begin(), value.end(), std::back_inserter(name), '\'');
+    Board(state).m_pPowerNetNames->Add(name);
+  }
+  return LineOutcome::Imported();
+}
+
+}  // namespace kestrin::attribute

@@ -1,0 +1,157 @@
+#include "kestrin/geom/drawing_commands.h"
+
+#include <memory>
+#include <utility>
+
+#include "kestrin/platform/numbers.h"
+#include "kestrin/text/trim.h"
+
+namespace kestrin {
+namespace {
+
+constexpr RecordRule kDrawObjRule{"a drawing object", "a geometry that takes drawing objects before it"};
+constexpr RecordRule kTextRule{"$$text", "a geometry that takes texts before it"};
+constexpr RecordRule kAddRule{"$$add", "a geometry that takes adds before it"};
+
+/// Hands a record to the list that it goes to, if there is one.
+template <class LIST, class RECORD>
+LineOutcome Keep(LIST* list, std::unique_ptr<RECORD> record, const RecordRule& rule) {
+  if (list == nullptr) return LineOutcome::Skipped(SkipCode::kNoOwner, rule);
+  list->Append(std::move(record));
+  return LineOutcome::Imported();
+}
+
+/// Every drawing object uses the pending points up, whether it needs them or not.
+template <class OBJECT>
+LineOutcome KeepDrawObj(ReaderState& state, std::unique_ptr<OBJECT> object) {
+  state.pending.Clear();
+  return Keep(state.geometry.DrawObjs(), std::move(object), kDrawObjRule);
+}
+
+/// Calls read with every value that is not empty once cleaned: its number, its text and its raw text.
+template <class READ>
+void ForEachFilled(const Values& values, READ read) {
+  for (std::size_t number = 1; number <= values.Count(); ++number) {
+    const std::string_view value = values[number];
+    if (!value.empty()) read(number, value, values.Raw(number));
+  }
+}
+
+bool Contains(std::string_view text, std::string_view part) { return text.find(part) != text.npos; }
+
+}  // namespace
+
+LineOutcome Initial(ReaderState& state, std::string_view arguments) {
+  state.pending.Begin(arguments);
+  return LineOutcome::Imported();
+}
+
+LineOutcome Terminal(ReaderState& state, std::string_view arguments) {
+  state.pending.Continue(arguments);
+  return LineOutcome::Imported();
+}
+
+LineOutcome TemplatePathWidth(ReaderState& state, std::string_view arguments) {
+  state.pathWidth = ToDouble(WithoutTrailing(WithoutLeading(Trimmed(arguments), '('), ')'));
+  return LineOutcome::Imported();
+}
+
+LineOutcome Path(ReaderState& state, std::string_view arguments) {
+  state.values.CutAtCommas(arguments);
+  auto path = std::make_unique<CMGeomPath>();
+  path->m_sLayer = state.values[1];
+  path->m_dWidth = ToDouble(state.values.Raw(2));
+  Append(*path->m_pCoords, state.TakePoints(3, kPathScan));
+  return KeepDrawObj(state, std::move(path));
+}
+
+LineOutcome Arc(ReaderState& state, std::string_view arguments) {
+  state.values.CutAtCommas(arguments);
+  auto arc = std::make_unique<CMGeomArc>();
+  arc->m_dWidth = state.pathWidth;
+  double* const numbers[] = {&arc->m_dX1, &arc->m_dY1, &arc->m_dX2,   &arc->m_dY2,
+                             &arc->m_dX3, &arc->m_dY3, &arc->m_dWidth};
+  ForEachFilled(state.values, [&](std::size_t number, std::string_view value, std::string_view raw) {
+    if (number == 1) {
+      arc->m_sLayer = value;
+    } else if (number <= 8) {
+      *numbers[number - 2] = ToDouble(raw);
+    } else if (Contains(value, "@radius")) {
+      arc->m_nArcMode = 1;
+    } else if (Contains(value, "@center")) {
+      arc->m_nArcMode = 2;
+    }
+  });
+  if (arc->m_nArcMode != 0) {
+    for (std::size_t number = 1; number <= 6; ++number) state.pending.CopyTo(number, *numbers[number - 1]);
+  }
+  return KeepDrawObj(state, std::move(arc));
+}
+
+LineOutcome Polygon(ReaderState& state, std::string_view arguments) {
+  state.values.CutAtCommas(arguments);
+  auto polygon = std::make_unique<CMGeomPolygon>();
+  polygon->m_sLayer = state.values[1];
+  Append(*polygon->m_pCoords, state.TakePoints(2, kPolygonScan));
+  return KeepDrawObj(state, std::move(polygon));
+}
+
+LineOutcome Circle(ReaderState& state, std::string_view arguments) {
+  state.values.CutAtCommas(arguments);
+  auto circle = std::make_unique<CMGeomCircle>();
+  circle->m_dWidth = state.pathWidth;
+  double* const numbers[] = {&circle->m_dX, &circle->m_dY, &circle->m_dSize, &circle->m_dWidth};
+  ForEachFilled(state.values, [&](std::size_t number, std::string_view value, std::string_view raw) {
+    if (number == 1) {
+      circle->m_sLayer = value;
+    } else if (number <= 5) {
+      *numbers[number - 2] = ToDouble(raw);
+    }
+  });
+  if (state.values[2].empty()) {
+    for (std::size_t number = 1; number <= 4; ++number) state.pending.CopyTo(number, *numbers[number - 1]);
+  }
+  return KeepDrawObj(state, std::move(circle));
+}
+
+LineOutcome Text(ReaderState& state, std::string_view arguments) {
+  state.values.CutAtUnquotedCommas(arguments);
+  auto text = std::make_unique<CMGeomText>();
+  ForEachFilled(state.values, [&](std::size_t number, std::string_view value, std::string_view /*raw*/) {
+    switch (number) {
+      case 1: text->m_sLayer = value; break;
+      case 2: text->m_sText = value; break;
+      case 3: text->m_dX = ToDouble(value); break;
+      case 4: text->m_dY = ToDouble(value); break;
+      case 5: text->m_dSize = ToDouble(value); break;
+      case 6: text->m_sJustification = value; break;
+      case 7: text->m_dAngle = ToInt(value); break;  // whole degrees
+      case 8: text->m_dValue8 = ToDouble(value); break;
+      case 9: text->m_dValue9 = ToDouble(value); break;
+      case 10: text->m_sValue10 = value; break;
+      case 11: text->m_sValue11 = value; break;
+      case 12: text->m_dValue12 = ToDouble(value); break;
+      case 13: text->m_dValue13 = ToDouble(value); break;
+      case 14:
+      case 15: text->m_sMirror = value; break;
+      default: break;
+    }
+  });
+  return Keep(state.geometry.Texts(), std::move(text), kTextRule);
+}
+
+LineOutcome Add(ReaderState& state, std::string_view arguments) {
+  state.values.CutAtCommas(arguments);
+  const Values& values = state.values;
+  auto add = std::make_unique<CMGeomAdd>();
+  add->m_sArg0 = values[1];
+  add->m_dArg1 = ToDouble(values[2]);
+  add->m_dArg2 = ToDouble(values[3]);
+  add->m_sArg3 = values[4];
+  add->m_nArg4 = ToInt(values[5]);
+  add->m_nArg5 = ToInt(values[6]);
+  add->m_nArg6 = ToInt(values[7]);
+  return Keep(state.geometry.Adds(), std::move(add), kAddRule);
+}
+
+}  // namespace kestrin

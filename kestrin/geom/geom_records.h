@@ -1,0 +1,91 @@
+#pragma once
+
+/// @file
+/// The small records that geometries are made of. All lengths are in the unit of their geometry; members
+/// named spare or unset are there for the host's sake, and nothing fills them.
+
+#include <cstdint>
+
+#include "kestrin/geom/number_list.h"
+#include "kestrin/platform/string.h"
+
+namespace kestrin {
+
+/// A geometry placed on another; the members are the arguments of its line.
+class CMGeomAdd {
+ public:
+  CString m_sArg0;
+  double m_dArg1 = 0.0;
+  double m_dArg2 = 0.0;
+  CString m_sArg3;
+  int m_nArg4 = 0;
+  int m_nArg5 = 0;
+  int m_nArg6 = 0;
+};
+
+/// An area that something has to keep out of.
+class CMGeomKeepout {
+ public:
+  CString m_sName;
+  NumberList m_pCoords;  ///< flat
+};
+
+/// The room that a component or generic part takes.
+class CMGeomPlacementOutline {
+ public:
+  CString m_sName;
+  NumberList m_pCoords;  ///< flat
+};
+
+/// An area for placing components.
+class CMGeomPlacementRegion {
+ public:
+  CString m_sName;  ///< always empty: lines give no name
+  std::int64_t m_nUnset1 = 0;
+  std::int64_t m_nUnset2 = 0;
+  std::int64_t m_nUnset3 = 0;
+  CString m_sSpare;
+  NumberList m_pCoords;  ///< flat
+};
+
+/// A drilled hole.
+class CMGeomDrill {
+ public:
+  double m_dSize = 0.0;
+  double m_dUnset = 0.0;
+  double m_dX = 0.0;
+  double m_dY = 0.0;
+};
+
+/// An exception from a component's default padstack; the members are the arguments of its line.
+class CMGeomOverride {
+ public:
+  CString m_sArg1;
+  CString m_sArg2;
+  std::int64_t m_nUnset = 0;
+};
+
+/// Where a pin of a component stands.
+class CMGeomPinDef {
+ public:
+  CString m_sName;
+  double m_dX = 0.0;
+  double m_dY = 0.0;
+};
+
+/// Geometry files make none.
+class CMGeomMechanicalParts {
+ public:
+  CString m_sSpare1;
+  std::int64_t m_nUnset = 0;
+  CString m_sSpare2;
+};
+
+/// Geometry files make none.
+class CMGeomRoutingDirection {
+ public:
+  CString m_sSpare;
+  std::int64_t m_nUnset = 0;
+};
+
+}  // namespace kestrin

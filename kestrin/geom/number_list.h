@@ -1,0 +1,27 @@
+#pragma once
+
+/// @file
+/// Lists of numbers. Coordinates are kept flat, as x, y, x, y, … in the file's order and unit; nothing pairs
+/// them up, so that an odd number of values stays odd.
+
+#include <algorithm>
+#include <vector>
+
+#include "kestrin/geometry/ownership.h"
+#include "kestrin/platform/array.h"
+
+namespace kestrin {
+
+using NumberArray = CArray<double, double>;
+
+/// A record's list of numbers: a pointer to CArray<double, double> for hosts.
+using NumberList = Owned<NumberArray>;
+
+/// Appends in one step, so that a list that is filled once takes no more memory than its numbers.
+inline void Append(NumberArray& list, const std::vector<double>& numbers) {
+  const auto oldSize = list.GetSize();
+  list.SetSize(oldSize + static_cast<std::int64_t>(numbers.size()));
+  std::copy(numbers.begin(), numbers.end(), list.GetData() + oldSize);
+}
+
+}  // namespace kestrin

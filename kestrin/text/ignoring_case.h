@@ -1,0 +1,25 @@
+#pragma once
+
+/// @file
+/// Comparing text whatever the case of its ASCII letters, without a copy of it.
+
+#include <algorithm>
+#include <string_view>
+
+#include "kestrin/platform/characters.h"
+
+namespace kestrin {
+
+[[nodiscard]] constexpr bool EqualIgnoringCase(char a, char b) { return ToUpper(a) == ToUpper(b); }
+
+[[nodiscard]] constexpr bool EqualIgnoringCase(std::string_view a, std::string_view b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](char left, char right) { return EqualIgnoringCase(left, right); });
+}
+
+[[nodiscard]] constexpr bool ContainsIgnoringCase(std::string_view text, std::string_view part) {
+  return std::search(text.begin(), text.end(), part.begin(), part.end(),
+                     [](char left, char right) { return EqualIgnoringCase(left, right); }) != text.end();
+}
+
+}  // namespace kestrin

@@ -1,0 +1,123 @@
+#include "tool/geom_summary.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdint>
+#include <cstdio>
+#include <string>
+#include <string_view>
+
+#include "kestrin/geom/geom_model.h"
+#include "tool/readable_text.h"
+#include "tool/text_table.h"
+
+namespace kestrin::tool {
+namespace {
+
+using Align = TextTable::Align;
+
+std::string Number(double value) {
+  char text[32];
+  return {text, std::to_chars(text, text + sizeof text, value).ptr};
+}
+
+/// The rectangle around a flat list of coordinates; one without its pair is left out.
+std::string Extent(const NumberArray& coords) {
+  if (coords.GetSize() < 2) return "none";
+  double low[] = {coords[0], coords[1]};
+  double high[] = {coords[0], coords[1]};
+  for (std::int64_t i = 2; i < coords.GetSize() / 2 * 2; ++i) {
+    low[i % 2] = std::min(low[i % 2], coords[i]);
+    high[i % 2] = std::max(high[i % 2], coords[i]);
+  }
+  return Number(high[0] - low[0]) + " x " + Number(high[1] - low[1]) + ", from (" + Number(low[0]) + ", " +
+         Number(low[1]) + ") to (" + Number(high[0]) + ", " + Number(high[1]) + ")";
+}
+
+void PrintBoard(const CMGeomBoard& board) {
+  const std::string units = board.m_sUnits.IsEmpty() ? "unit not given" : ToTerminal(board.m_sUnits.View());
+  std::printf("\nBoard: %s, %s, %d routing layers\n", ToTerminal(board.m_sName.View()).c_str(), units.c_str(),
+              board.m_nRoutingLayers);
+  std::printf("  placement outline  %s\n", Extent(*board.m_pPlacementOutline).c_str());
+  std::printf("  routing outline    %s\n", Extent(*board.m_pRoutingOutline).c_str());
+}
+
+/// What the geometries of a kind hold altogether.
+struct Counts {
+  std::int64_t geometries = 0;
+  std::int64_t drawObjs = 0;
+  std::int64_t texts = 0;
+  std::int64_t adds = 0;
+  std::int64_t drills = 0;
+  std::int64_t keepouts = 0;
+};
+
+/// Counts what a geometry of any kind has.
+template <class RECORD>
+void CountIn(const RECORD& record, Counts& counts) {
+  ++counts.geometries;
+  counts.drawObjs += record.m_pDrawObjs->GetSize();
+  counts.texts += record.m_pTexts->GetSize();
+  counts.adds += record.m_pAdds->GetSize();
+  if constexpr (requires { record.m_pDrills; }) {
+    counts.drills += record.m_pDrills->GetSize() + record.m_pUnplatedDrills->GetSize();
+  }
+  if constexpr (requires { record.m_pPlacementKeepouts; }) {
+    counts.keepouts += record.m_pPlacementKeepouts->GetSize();
+  }
+  if constexpr (requires { record.m_pRoutingKeepouts; }) {
+    counts.keepouts += record.m_pRoutingKeepouts->GetSize();
+  }
+  if constexpr (requires { record.m_pTraceKeepouts; }) {
+    counts.keepouts += record.m_pTraceKeepouts->GetSize() + record.m_pViaKeepouts->GetSize();
+  }
+}
+
+template <class RECORD>
+Counts CountsOf(const CArray<RECORD*, RECORD*>& records) {
+  Counts counts;
+  for (const RECORD* record : records) CountIn(*record, counts);
+  return counts;
+}
+
+Counts CountsOf(const CMGeomBoard& board) {
+  Counts counts;
+  CountIn(board, counts);
+  return counts;
+}
+
+void AddRow(TextTable& table, const char* kind, const Counts& counts) {
+  table.AddRow({kind, std::to_string(counts.geometries), std::to_string(counts.drawObjs),
+                std::to_string(counts.texts), std::to_string(counts.adds), std::to_string(counts.drills),
+                std::to_string(counts.keepouts)});
+}
+
+void PrintGeometries(const CMGeom& geom) {
+  std::puts("\nGeometries");
+  TextTable table({{"kind"},
+                   {"number", Align::kRight},
+                   {"drawing objects", Align::kRight},
+                   {"texts", Align::kRight},
+                   {"adds", Align::kRight},
+                   {"drills", Align::kRight},
+                   {"keep-outs", Align::kRight}});
+  AddRow(table, "board", CountsOf(*geom.m_pBoard));
+  AddRow(table, "panel", CountsOf(*geom.m_pPanels));
+  AddRow(table, "component", CountsOf(*geom.m_pComponents));
+  AddRow(table, "generic part", CountsOf(*geom.m_pGenericParts));
+  AddRow(table, "pin", CountsOf(*geom.m_pPins));
+  AddRow(table, "via", CountsOf(*geom.m_pVias));
+  AddRow(table, "drawing", CountsOf(*geom.m_pDrawings));
+  table.Print();
+  const CMGeomStackup& stackup = *geom.m_pStackup;
+  std::printf("  stack-up: %lld layer definitions\n", static_cast<long long>(stackup.m_pLayers->GetSize()));
+}
+
+}  // namespace
+
+void PrintGeometry(const CMGeom& geom) {
+  PrintBoard(*geom.m_pBoard);
+  PrintGeometries(geom);
+}
+
+}  // namespace kestrin::tool
