@@ -75,7 +75,7 @@ void PrintNets(const CMNetList& nets) {
 }  // namespace
 
 void PrintNeutral(const CMComps& components, const CMNetList& nets, const BoardSelection& selection) {
-  std::printf("\nBoard: units \"%s\", value 3 is %s, value 4 is %s\n",
+  std::printf("\nBoard values: units \"%s\", value 3 is %s, value 4 is %s\n",
               ToTerminal(components.m_sUnits.View()).c_str(), Number(components.m_dBoardValue3).c_str(),
               Number(components.m_dBoardValue4).c_str());
   PrintPanel(components);

@@ -1,6 +1,7 @@
 #include "kestrin/traces/line_values.h"
 
 #include "kestrin/text/fields.h"
+#include "kestrin/text/trim.h"
 
 namespace kestrin {
 
@@ -11,10 +12,7 @@ void LineValues::Cut(std::string_view line) {
 }
 
 std::string_view LineValues::Unquoted(std::size_t number) const {
-  std::string_view text = Text(number);
-  while (!text.empty() && text.front() == '\'') text.remove_prefix(1);
-  while (!text.empty() && text.back() == '\'') text.remove_suffix(1);
-  return text;
+  return WithoutTrailing(WithoutLeading(Text(number), '\''), '\'');
 }
 
 }  // namespace kestrin

@@ -195,7 +195,7 @@ TEST(Tool, SummarizesTheSampleBoardAndFindsNothingSkipped) {
   EXPECT_EQ(summary.status, 0);
   EXPECT_EQ(summary.err, "");
   for (const char* line : {"Stack-up: 4 physical layers", "INNER_1         SIGNAL_2, POWER_1", "Via rules: 4",
-                           "Board: units \"MM\", value 3 is 60, value 4 is 40",
+                           "Board values: units \"MM\", value 3 is 60, value 4 is 40",
                            "Selected: nets section 2 of 2, component section 2 of 2, chosen by placement 3 "
                            "(SENSOR_NODE, value 6 is 1)",
                            "7  CHIP_0805", "Nets: 15 with 53 pins", "14  GND", "Traces: units MM",
