@@ -96,8 +96,8 @@ void WriteJson(JsonWriter& json, const CMGeomDrill& drill) {
   JsonObject(json).Member("m_dSize", drill.m_dSize).Member("m_dX", drill.m_dX).Member("m_dY", drill.m_dY);
 }
 
-void WriteJson(JsonWriter& json, const CMGeomOverride& exception) {
-  JsonObject(json).Member("m_sArg1", exception.m_sArg1).Member("m_sArg2", exception.m_sArg2);
+void WriteJson(JsonWriter& json, const CMGeomOverride& padstackOverride) {
+  JsonObject(json).Member("m_sArg1", padstackOverride.m_sArg1).Member("m_sArg2", padstackOverride.m_sArg2);
 }
 
 void WriteJson(JsonWriter& json, const CMGeomPinDef& pin) {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cinttypes>
+#include <cmath>
 #include <cstdint>
 #include <cstdio>
 #include <string>
@@ -30,14 +32,18 @@ std::string Extent(const NumberArray& coords) {
     low[i % 2] = std::min(low[i % 2], coords[i]);
     high[i % 2] = std::max(high[i % 2], coords[i]);
   }
-  return Number(high[0] - low[0]) + " x " + Number(high[1] - low[1]) + ", from (" + Number(low[0]) + ", " +
-         Number(low[1]) + ") to (" + Number(high[0]) + ", " + Number(high[1]) + ")";
+  const std::string corners = "from (" + Number(low[0]) + ", " + Number(low[1]) + ") to (" + Number(high[0]) +
+                              ", " + Number(high[1]) + ")";
+  const double width = high[0] - low[0];
+  const double height = high[1] - low[1];
+  if (!std::isfinite(width) || !std::isfinite(height)) return corners;
+  return Number(width) + " x " + Number(height) + ", " + corners;
 }
 
 void PrintBoard(const CMGeomBoard& board) {
   const std::string units = board.m_sUnits.IsEmpty() ? "unit not given" : ToTerminal(board.m_sUnits.View());
-  std::printf("\nBoard: %s, %s, %d routing layers\n", ToTerminal(board.m_sName.View()).c_str(), units.c_str(),
-              board.m_nRoutingLayers);
+  const std::string name = board.m_sName.IsEmpty() ? "no name" : ToTerminal(board.m_sName.View());
+  std::printf("\nBoard: %s, %s, %d routing layers\n", name.c_str(), units.c_str(), board.m_nRoutingLayers);
   std::printf("  placement outline  %s\n", Extent(*board.m_pPlacementOutline).c_str());
   std::printf("  routing outline    %s\n", Extent(*board.m_pRoutingOutline).c_str());
 }
@@ -110,7 +116,7 @@ void PrintGeometries(const CMGeom& geom) {
   AddRow(table, "drawing", CountsOf(*geom.m_pDrawings));
   table.Print();
   const CMGeomStackup& stackup = *geom.m_pStackup;
-  std::printf("  stack-up: %lld layer definitions\n", static_cast<long long>(stackup.m_pLayers->GetSize()));
+  std::printf("  stack-up: %" PRId64 " layer definitions\n", stackup.m_pLayers->GetSize());
 }
 
 }  // namespace

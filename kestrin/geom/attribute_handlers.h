@@ -1,8 +1,9 @@
 #pragma once
 
 /// @file
-/// What each attribute does, once its values are cut and its owner is known to be there: one function for
-/// each row of the table in attributes.cpp. Value 1 is the attribute's name.
+/// What each attribute does, once its values are cut: one function for each row of the table in
+/// attributes.cpp. Value 1 is the attribute's name. Where the table says kRead a function also runs without
+/// its owner, and then only uses the pending points up; else its owner is there.
 
 #include "kestrin/geom/reader_state.h"
 
@@ -17,8 +18,6 @@ LineOutcome PlacementOutlineOfBoard(ReaderState& state);
 LineOutcome RoutingOutline(ReaderState& state);
 
 // Of the open board.
-LineOutcome PlacementKeepout(ReaderState& state);
-LineOutcome PlacementRegion(ReaderState& state);
 LineOutcome PowerNetNames(ReaderState& state);
 
 // Of the last component, whatever geometry is open.
@@ -33,8 +32,9 @@ LineOutcome ComponentType(ReaderState& state);
 LineOutcome PadstackOverride(ReaderState& state);
 LineOutcome PinDefinition(ReaderState& state);
 
-// Of the open geometry, if it is of a kind that has a place for them. In other kinds these are read as well:
-// most of them use the pending points up.
+// Of the open geometry, if it is of a kind that has a place for them; also read in other kinds.
+LineOutcome PlacementKeepout(ReaderState& state);
+LineOutcome PlacementRegion(ReaderState& state);
 LineOutcome BodyOutline(ReaderState& state);
 LineOutcome PlacementOutline(ReaderState& state);
 LineOutcome Drill(ReaderState& state);

@@ -69,48 +69,49 @@ constexpr Attribute kRows[] = {
     {"BOARD_DEFAULT_PADSTACK",          kQuoted, 2, &kBoundBoard,    kUntouched, DefaultPadstackOfBoard},
     {"BOARD_DEFAULT_VIA",               kQuoted, 2, &kBoundBoard,    kUntouched, DefaultVia},
     {"BOARD_PLACEMENT_CLEARANCE",       kQuoted, 2, &kBoundBoard,    kUntouched, PlacementClearance},
-    {"BOARD_PLACEMENT_KEEPOUT",         kQuoted, 1, &kInBoard,       kRead,      PlacementKeepout},
-    {"BOARD_PLACEMENT_OUTLINE",         kQuoted, 1, &kBoundBoard,    kUntouched, PlacementOutlineOfBoard},
-    {"BOARD_PLACEMENT_REGION",          kQuoted, 1, &kInBoard,       kRead,      PlacementRegion},
+    {"BOARD_PLACEMENT_KEEPOUT",         kQuoted, 0, &kInBoard,       kRead,      PlacementKeepout},
+    {"BOARD_PLACEMENT_OUTLINE",         kQuoted, 0, &kBoundBoard,    kUntouched, PlacementOutlineOfBoard},
+    {"BOARD_PLACEMENT_REGION",          kQuoted, 0, &kInBoard,       kRead,      PlacementRegion},
     {"BOARD_ROUTING_LAYERS",            kQuoted, 2, &kBoundBoard,    kUntouched, RoutingLayers},
-    {"BOARD_ROUTING_OUTLINE",           kQuoted, 1, &kBoundBoard,    kUntouched, RoutingOutline},
-    {"COMPONENT_BODY_OUTLINE",          kQuoted, 1, &kInPart,        kRead,      BodyOutline},
+    {"BOARD_ROUTING_OUTLINE",           kQuoted, 0, &kBoundBoard,    kUntouched, RoutingOutline},
+    {"COMPONENT_BODY_OUTLINE",          kQuoted, 0, &kInPart,        kRead,      BodyOutline},
     {"COMPONENT_DEFAULT_PADSTACK",      kQuoted, 2, &kLastComponent, kUntouched, DefaultPadstackOfComponent},
     {"COMPONENT_HEIGHT",                kQuoted, 2, &kInComponent,   kUntouched, Height},
     {"COMPONENT_LAYOUT_SURFACE",        kQuoted, 2, &kLastComponent, kUntouched, LayoutSurface},
     {"COMPONENT_LAYOUT_TYPE",           kQuoted, 2, &kLastComponent, kUntouched, LayoutType},
     {"COMPONENT_METALIZATION_AREA"},
     {"COMPONENT_OUTLINE_OVERHANG",      kQuoted, 2, &kLastComponent, kUntouched, OutlineOverhang},
-    {"COMPONENT_PADSTACK_OVERRIDE",     kCommas, 1, &kInComponent,   kUntouched, PadstackOverride},
+    {"COMPONENT_PADSTACK_OVERRIDE",     kCommas, 0, &kInComponent,   kUntouched, PadstackOverride},
     {"COMPONENT_PINANGLE_OVERRIDE"},
-    {"COMPONENT_PIN_DEFINITION",        kCommas, 1, &kInComponent,   kUntouched, PinDefinition},
-    {"COMPONENT_PLACEMENT_OUTLINE",     kCommas, 1, &kInPart,        kRead,      PlacementOutline},
+    {"COMPONENT_PIN_DEFINITION",        kCommas, 0, &kInComponent,   kUntouched, PinDefinition},
+    {"COMPONENT_PLACEMENT_OUTLINE",     kCommas, 0, &kInPart,        kRead,      PlacementOutline},
     {"COMPONENT_TYPE",                  kCommas, 2, &kInComponent,   kUntouched, ComponentType},
     {"FIXED_COMPONENT_LOCATION"},
-    {"DRILL_DEFINITION_UNPLATED",       kCommas, 1, &kInDrilled,     kRead,      UnplatedDrill},
-    {"DRILL_DEFINITION",                kCommas, 1, &kInDrilled,     kRead,      Drill},
+    {"DRILL_DEFINITION_UNPLATED",       kCommas, 0, &kInDrilled,     kRead,      UnplatedDrill},
+    {"DRILL_DEFINITION",                kCommas, 0, &kInDrilled,     kRead,      Drill},
     {"DRILL_ORIGIN"},
     {"GEOMETRY_CONSTRUCT_POINT"},
     {"JUMPER_PART_NUMBER"},
-    {"POWER_NET_NAMES",                 kCommas, 1, &kInBoard,       kUntouched, PowerNetNames},
-    {"ROUTING_KEEPOUT",                 kCommas, 1, &kInBoardOrPart, kRead,      RoutingKeepout},
+    {"POWER_NET_NAMES",                 kCommas, 0, &kInBoard,       kUntouched, PowerNetNames},
+    {"ROUTING_KEEPOUT",                 kCommas, 0, &kInBoardOrPart, kRead,      RoutingKeepout},
     {"TERMINAL_2_LAYER_VIA_DEFINITION", kUncut,  0, &kInVia,         kUntouched, ViaType<4>},
     {"TERMINAL_BLIND_DEFINITION",       kUncut,  0, &kInPin,         kUntouched, TerminalType<3>},
     {"TERMINAL_BURIED_VIA_DEFINITION",  kUncut,  0, &kInVia,         kUntouched, ViaType<2>},
-    {"TERMINAL_DRILL_SIZE",             kCommas, 1, &kInPadstack,    kRead,      DrillSize},
+    {"TERMINAL_DRILL_SIZE",             kCommas, 0, &kInPadstack,    kRead,      DrillSize},
     {"TERMINAL_SEGMENT_VIA_DEFINITION", kUncut,  0, &kInVia,         kUntouched, ViaType<3>},
     {"TERMINAL_SURFACE_DEFINITION",     kUncut,  0, &kInPin,         kUntouched, TerminalType<2>},
     {"TERMINAL_THRUHOLE_DEFINITION",    kUncut,  0, &kInPin,         kUntouched, TerminalType<1>},
     {"TERMINAL_THRUVIA_DEFINITION",     kUncut,  0, &kInVia,         kUntouched, ViaType<1>},
     {"TESTPOINT_KEEPOUT"},
-    {"TRACE_KEEPOUT",                   kCommas, 1, &kInPart,        kRead,      TraceKeepout},
-    {"VIA_KEEPOUT",                     kCommas, 1, &kInPart,        kRead,      ViaKeepout},
+    {"TRACE_KEEPOUT",                   kCommas, 0, &kInPart,        kRead,      TraceKeepout},
+    {"VIA_KEEPOUT",                     kCommas, 0, &kInPart,        kRead,      ViaKeepout},
 };
 // clang-format on
 constexpr NameTable kAttributes(kRows);
 
 constexpr RecordRule kNameRule{"$$attribute", "a name"};
 constexpr RecordRule kCountRule{"the attribute", "at least 2 values, its name being the first"};
+constexpr RecordRule kLayerRule{"the attribute", "a stack-up to stand in"};
 constexpr RecordRule kStackupRule{"the attribute", "another geometry than the stack-up to stand in"};
 
 std::string_view NameIn(std::string_view arguments) {
@@ -137,7 +138,8 @@ LineOutcome Read(ReaderState& state, std::string_view arguments) {
   const std::string_view name = NameIn(arguments);
   if (name.empty()) return LineOutcome::Skipped(SkipCode::kMissingValue, kNameRule);
   const bool inStackup = state.geometry.Kind() == kStackup;
-  if (inStackup && ContainsIgnoringCase(name, "LAYER_DEFINITION")) {
+  if (ContainsIgnoringCase(name, "LAYER_DEFINITION")) {
+    if (!inStackup) return LineOutcome::Skipped(SkipCode::kNoOwner, kLayerRule);
     state.values.CutAtCommas(arguments);
     return LayerDefinition(state, name);
   }

@@ -1,7 +1,4 @@
-#include <algorithm>
-#include <iterator>
 #include <memory>
-#include <string>
 #include <utility>
 
 #include "kestrin/geom/attribute_handlers.h"
@@ -46,26 +43,28 @@ LineOutcome RoutingOutline(ReaderState& state) {
 }
 
 LineOutcome PlacementKeepout(ReaderState& state) {
+  const auto& points = state.TakePoints(3, kOutlineScan);
+  if (!BoardIsOpen(state)) return LineOutcome::Imported();
   auto keepout = std::make_unique<CMGeomKeepout>();
   keepout->m_sName = state.values[2];
-  Append(*keepout->m_pCoords, state.TakePoints(3, kOutlineScan));
-  if (BoardIsOpen(state)) Board(state).m_pPlacementKeepouts->Append(std::move(keepout));
+  Append(*keepout->m_pCoords, points);
+  Board(state).m_pPlacementKeepouts->Append(std::move(keepout));
   return LineOutcome::Imported();
 }
 
 LineOutcome PlacementRegion(ReaderState& state) {
+  const auto& points = state.TakePoints(2, kOutlineScan);
+  if (!BoardIsOpen(state)) return LineOutcome::Imported();
   auto region = std::make_unique<CMGeomPlacementRegion>();
-  Append(*region->m_pCoords, state.TakePoints(2, kOutlineScan));
-  if (BoardIsOpen(state)) Board(state).m_pPlacementRegions->Append(std::move(region));
+  Append(*region->m_pCoords, points);
+  Board(state).m_pPlacementRegions->Append(std::move(region));
   return LineOutcome::Imported();
 }
 
 LineOutcome PowerNetNames(ReaderState& state) {
+  CStringArray& names = *Board(state).m_pPowerNetNames;
   for (std::size_t number = 2; number <= state.values.Count(); ++number) {
-    const std::string_view value = state.values[number];
-    std::string name;
-    std::remove_copy(value.begin(), value.end(), std::back_inserter(name), '\'');
-    Board(state).m_pPowerNetNames->Add(name);
+    names[names.Add(state.values[number])].Remove('\'');
   }
   return LineOutcome::Imported();
 }

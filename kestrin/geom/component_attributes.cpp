@@ -41,10 +41,10 @@ LineOutcome ComponentType(ReaderState& state) {
 }
 
 LineOutcome PadstackOverride(ReaderState& state) {
-  auto exception = std::make_unique<CMGeomOverride>();
-  exception->m_sArg1 = state.values[2];
-  exception->m_sArg2 = state.values[3];
-  Component(state).m_pPadstackOverrides->Append(std::move(exception));
+  auto padstackOverride = std::make_unique<CMGeomOverride>();
+  padstackOverride->m_sArg1 = state.values[2];
+  padstackOverride->m_sArg2 = state.values[3];
+  Component(state).m_pPadstackOverrides->Append(std::move(padstackOverride));
   return LineOutcome::Imported();
 }
 

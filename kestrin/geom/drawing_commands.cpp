@@ -13,19 +13,20 @@ constexpr RecordRule kDrawObjRule{"a drawing object", "a geometry that takes dra
 constexpr RecordRule kTextRule{"$$text", "a geometry that takes texts before it"};
 constexpr RecordRule kAddRule{"$$add", "a geometry that takes adds before it"};
 
-/// Hands a record to the list that it goes to, if there is one.
-template <class LIST, class RECORD>
-LineOutcome Keep(LIST* list, std::unique_ptr<RECORD> record, const RecordRule& rule) {
-  if (list == nullptr) return LineOutcome::Skipped(SkipCode::kNoOwner, rule);
-  list->Append(std::move(record));
-  return LineOutcome::Imported();
-}
-
-/// Every drawing object uses the pending points up, whether it needs them or not.
+/// Every drawing object uses the pending points up, whether it needs them or not, and whether there is a
+/// geometry that takes it or not.
 template <class OBJECT>
-LineOutcome KeepDrawObj(ReaderState& state, std::unique_ptr<OBJECT> object) {
+LineOutcome AddDrawObj(ReaderState& state, std::string_view arguments,
+                       void (*read)(ReaderState& state, OBJECT& object)) {
+  CMGeomDrawObjArray* target = state.geometry.DrawObjs();
+  if (target != nullptr) {
+    state.values.CutAtCommas(arguments);
+    auto object = std::make_unique<OBJECT>();
+    read(state, *object);
+    target->Append(std::move(object));
+  }
   state.pending.Clear();
-  return Keep(state.geometry.DrawObjs(), std::move(object), kDrawObjRule);
+  return target != nullptr ? LineOutcome::Imported() : LineOutcome::Skipped(SkipCode::kNoOwner, kDrawObjRule);
 }
 
 /// Calls read with every value that is not empty once cleaned: its number, its text and its raw text.
@@ -38,6 +39,52 @@ void ForEachFilled(const Values& values, READ read) {
 }
 
 bool Contains(std::string_view text, std::string_view part) { return text.find(part) != text.npos; }
+
+void Read(ReaderState& state, CMGeomPath& path) {
+  path.m_sLayer = state.values[1];
+  path.m_dWidth = ToDouble(state.values.Raw(2));
+  Append(*path.m_pCoords, state.TakePoints(3, kPathScan));
+}
+
+void Read(ReaderState& state, CMGeomArc& arc) {
+  arc.m_dWidth = state.pathWidth;
+  double* const numbers[] = {&arc.m_dX1, &arc.m_dY1, &arc.m_dX2,   &arc.m_dY2,
+                             &arc.m_dX3, &arc.m_dY3, &arc.m_dWidth};
+  ForEachFilled(state.values, [&](std::size_t number, std::string_view value, std::string_view raw) {
+    if (number == 1) {
+      arc.m_sLayer = value;
+    } else if (number <= 8) {
+      *numbers[number - 2] = ToDouble(raw);
+    } else if (Contains(value, "@radius")) {
+      arc.m_nArcMode = 1;
+    } else if (Contains(value, "@center")) {
+      arc.m_nArcMode = 2;
+    }
+  });
+  if (arc.m_nArcMode != 0) {
+    for (std::size_t number = 1; number <= 6; ++number) state.pending.CopyTo(number, *numbers[number - 1]);
+  }
+}
+
+void Read(ReaderState& state, CMGeomPolygon& polygon) {
+  polygon.m_sLayer = state.values[1];
+  Append(*polygon.m_pCoords, state.TakePoints(2, kPolygonScan));
+}
+
+void Read(ReaderState& state, CMGeomCircle& circle) {
+  circle.m_dWidth = state.pathWidth;
+  double* const numbers[] = {&circle.m_dX, &circle.m_dY, &circle.m_dSize, &circle.m_dWidth};
+  ForEachFilled(state.values, [&](std::size_t number, std::string_view value, std::string_view raw) {
+    if (number == 1) {
+      circle.m_sLayer = value;
+    } else if (number <= 5) {
+      *numbers[number - 2] = ToDouble(raw);
+    }
+  });
+  if (state.values[2].empty()) {
+    for (std::size_t number = 1; number <= 4; ++number) state.pending.CopyTo(number, *numbers[number - 1]);
+  }
+}
 
 }  // namespace
 
@@ -57,64 +104,24 @@ LineOutcome TemplatePathWidth(ReaderState& state, std::string_view arguments) {
 }
 
 LineOutcome Path(ReaderState& state, std::string_view arguments) {
-  state.values.CutAtCommas(arguments);
-  auto path = std::make_unique<CMGeomPath>();
-  path->m_sLayer = state.values[1];
-  path->m_dWidth = ToDouble(state.values.Raw(2));
-  Append(*path->m_pCoords, state.TakePoints(3, kPathScan));
-  return KeepDrawObj(state, std::move(path));
+  return AddDrawObj<CMGeomPath>(state, arguments, &Read);
 }
 
 LineOutcome Arc(ReaderState& state, std::string_view arguments) {
-  state.values.CutAtCommas(arguments);
-  auto arc = std::make_unique<CMGeomArc>();
-  arc->m_dWidth = state.pathWidth;
-  double* const numbers[] = {&arc->m_dX1, &arc->m_dY1, &arc->m_dX2,   &arc->m_dY2,
-                             &arc->m_dX3, &arc->m_dY3, &arc->m_dWidth};
-  ForEachFilled(state.values, [&](std::size_t number, std::string_view value, std::string_view raw) {
-    if (number == 1) {
-      arc->m_sLayer = value;
-    } else if (number <= 8) {
-      *numbers[number - 2] = ToDouble(raw);
-    } else if (Contains(value, "@radius")) {
-      arc->m_nArcMode = 1;
-    } else if (Contains(value, "@center")) {
-      arc->m_nArcMode = 2;
-    }
-  });
-  if (arc->m_nArcMode != 0) {
-    for (std::size_t number = 1; number <= 6; ++number) state.pending.CopyTo(number, *numbers[number - 1]);
-  }
-  return KeepDrawObj(state, std::move(arc));
+  return AddDrawObj<CMGeomArc>(state, arguments, &Read);
 }
 
 LineOutcome Polygon(ReaderState& state, std::string_view arguments) {
-  state.values.CutAtCommas(arguments);
-  auto polygon = std::make_unique<CMGeomPolygon>();
-  polygon->m_sLayer = state.values[1];
-  Append(*polygon->m_pCoords, state.TakePoints(2, kPolygonScan));
-  return KeepDrawObj(state, std::move(polygon));
+  return AddDrawObj<CMGeomPolygon>(state, arguments, &Read);
 }
 
 LineOutcome Circle(ReaderState& state, std::string_view arguments) {
-  state.values.CutAtCommas(arguments);
-  auto circle = std::make_unique<CMGeomCircle>();
-  circle->m_dWidth = state.pathWidth;
-  double* const numbers[] = {&circle->m_dX, &circle->m_dY, &circle->m_dSize, &circle->m_dWidth};
-  ForEachFilled(state.values, [&](std::size_t number, std::string_view value, std::string_view raw) {
-    if (number == 1) {
-      circle->m_sLayer = value;
-    } else if (number <= 5) {
-      *numbers[number - 2] = ToDouble(raw);
-    }
-  });
-  if (state.values[2].empty()) {
-    for (std::size_t number = 1; number <= 4; ++number) state.pending.CopyTo(number, *numbers[number - 1]);
-  }
-  return KeepDrawObj(state, std::move(circle));
+  return AddDrawObj<CMGeomCircle>(state, arguments, &Read);
 }
 
 LineOutcome Text(ReaderState& state, std::string_view arguments) {
+  auto* target = state.geometry.Texts();
+  if (target == nullptr) return LineOutcome::Skipped(SkipCode::kNoOwner, kTextRule);
   state.values.CutAtUnquotedCommas(arguments);
   auto text = std::make_unique<CMGeomText>();
   ForEachFilled(state.values, [&](std::size_t number, std::string_view value, std::string_view /*raw*/) {
@@ -137,10 +144,13 @@ LineOutcome Text(ReaderState& state, std::string_view arguments) {
       default: break;
     }
   });
-  return Keep(state.geometry.Texts(), std::move(text), kTextRule);
+  target->Append(std::move(text));
+  return LineOutcome::Imported();
 }
 
 LineOutcome Add(ReaderState& state, std::string_view arguments) {
+  auto* target = state.geometry.Adds();
+  if (target == nullptr) return LineOutcome::Skipped(SkipCode::kNoOwner, kAddRule);
   state.values.CutAtCommas(arguments);
   const Values& values = state.values;
   auto add = std::make_unique<CMGeomAdd>();
@@ -151,7 +161,8 @@ LineOutcome Add(ReaderState& state, std::string_view arguments) {
   add->m_nArg4 = ToInt(values[5]);
   add->m_nArg5 = ToInt(values[6]);
   add->m_nArg6 = ToInt(values[7]);
-  return Keep(state.geometry.Adds(), std::move(add), kAddRule);
+  target->Append(std::move(add));
+  return LineOutcome::Imported();
 }
 
 }  // namespace kestrin

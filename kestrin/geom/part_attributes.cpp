@@ -10,20 +10,35 @@
 namespace kestrin::attribute {
 namespace {
 
-std::unique_ptr<CMGeomDrill> ReadDrill(ReaderState& state) {
-  auto drill = std::make_unique<CMGeomDrill>();
-  drill->m_dSize = ToDouble(state.values[2]);
+/// Adds a drill to the list that listOf finds in the open geometry; where it gives null the drill is lost.
+template <class LISTOF>
+LineOutcome AddDrill(ReaderState& state, LISTOF listOf) {
   const BracketedPoint point = state.TakePoint(3);
-  drill->m_dX = point.x;
-  drill->m_dY = point.y;
-  return drill;
+  state.geometry.VisitOpen([&](auto& record) {
+    OwningArray<CMGeomDrill>* list = listOf(record);
+    if (list == nullptr) return;
+    auto drill = std::make_unique<CMGeomDrill>();
+    drill->m_dSize = ToDouble(state.values[2]);
+    drill->m_dX = point.x;
+    drill->m_dY = point.y;
+    list->Append(std::move(drill));
+  });
+  return LineOutcome::Imported();
 }
 
-std::unique_ptr<CMGeomKeepout> ReadKeepout(ReaderState& state) {
-  auto keepout = std::make_unique<CMGeomKeepout>();
-  keepout->m_sName = state.values[2];
-  Append(*keepout->m_pCoords, state.TakePoints(3, kKeepoutScan));
-  return keepout;
+/// The same for a keep-out.
+template <class LISTOF>
+LineOutcome AddKeepout(ReaderState& state, LISTOF listOf) {
+  const auto& points = state.TakePoints(3, kKeepoutScan);
+  state.geometry.VisitOpen([&](auto& record) {
+    OwningArray<CMGeomKeepout>* list = listOf(record);
+    if (list == nullptr) return;
+    auto keepout = std::make_unique<CMGeomKeepout>();
+    keepout->m_sName = state.values[2];
+    Append(*keepout->m_pCoords, points);
+    list->Append(std::move(keepout));
+  });
+  return LineOutcome::Imported();
 }
 
 }  // namespace
@@ -52,45 +67,38 @@ LineOutcome PlacementOutline(ReaderState& state) {
 }
 
 LineOutcome Drill(ReaderState& state) {
-  auto drill = ReadDrill(state);
-  state.geometry.VisitOpen([&](auto& record) {
-    if constexpr (requires { record.m_pDrills; }) record.m_pDrills->Append(std::move(drill));
+  return AddDrill(state, [](auto& record) -> OwningArray<CMGeomDrill>* {
+    if constexpr (requires { record.m_pDrills; }) return record.m_pDrills;
+    return nullptr;
   });
-  return LineOutcome::Imported();
 }
 
 LineOutcome UnplatedDrill(ReaderState& state) {
-  auto drill = ReadDrill(state);
-  state.geometry.VisitOpen([&](auto& record) {
-    if constexpr (requires { record.m_pUnplatedDrills; }) record.m_pUnplatedDrills->Append(std::move(drill));
+  return AddDrill(state, [](auto& record) -> OwningArray<CMGeomDrill>* {
+    if constexpr (requires { record.m_pUnplatedDrills; }) return record.m_pUnplatedDrills;
+    return nullptr;
   });
-  return LineOutcome::Imported();
 }
 
 LineOutcome RoutingKeepout(ReaderState& state) {
-  auto keepout = ReadKeepout(state);
-  state.geometry.VisitOpen([&](auto& record) {
-    if constexpr (requires { record.m_pRoutingKeepouts; }) {
-      record.m_pRoutingKeepouts->Append(std::move(keepout));
-    }
+  return AddKeepout(state, [](auto& record) -> OwningArray<CMGeomKeepout>* {
+    if constexpr (requires { record.m_pRoutingKeepouts; }) return record.m_pRoutingKeepouts;
+    return nullptr;
   });
-  return LineOutcome::Imported();
 }
 
 LineOutcome TraceKeepout(ReaderState& state) {
-  auto keepout = ReadKeepout(state);
-  state.geometry.VisitOpen([&](auto& record) {
-    if constexpr (requires { record.m_pTraceKeepouts; }) record.m_pTraceKeepouts->Append(std::move(keepout));
+  return AddKeepout(state, [](auto& record) -> OwningArray<CMGeomKeepout>* {
+    if constexpr (requires { record.m_pTraceKeepouts; }) return record.m_pTraceKeepouts;
+    return nullptr;
   });
-  return LineOutcome::Imported();
 }
 
 LineOutcome ViaKeepout(ReaderState& state) {
-  auto keepout = ReadKeepout(state);
-  state.geometry.VisitOpen([&](auto& record) {
-    if constexpr (requires { record.m_pViaKeepouts; }) record.m_pViaKeepouts->Append(std::move(keepout));
+  return AddKeepout(state, [](auto& record) -> OwningArray<CMGeomKeepout>* {
+    if constexpr (requires { record.m_pViaKeepouts; }) return record.m_pViaKeepouts;
+    return nullptr;
   });
-  return LineOutcome::Imported();
 }
 
 }  // namespace kestrin::attribute

@@ -27,7 +27,6 @@ class PendingPoints {
 
   [[nodiscard]] const std::vector<PendingValue>& Values() const { return values_; }
   [[nodiscard]] bool IsEmpty() const { return values_.empty(); }
-  [[nodiscard]] std::size_t Count() const { return values_.size(); }
 
   /// Overwrites a number with the value of that number, from 1, if there is one.
   void CopyTo(std::size_t number, double& target) const {

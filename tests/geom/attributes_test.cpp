@@ -115,8 +115,15 @@ TEST(GeomAttributes, OfTheLastComponentInEveryKind) {
   });
   CMGeom geom;
   GeomReader reader(geom);
-  test::Feed(reader, "$$create_component(C)\n$$create_pin(P)\n$$attribute(COMPONENT_LAYOUT_TYPE, smd)");
-  EXPECT_EQ(Described(geom), "component{name=C layout=smd} pin{name=P}");
+  test::Feed(reader,
+             "$$create_component(C)\n$$create_pin(P)\n$$attribute(COMPONENT_LAYOUT_TYPE, smd)\n"
+             "$$attribute(COMPONENT_DEFAULT_PADSTACK, D)\n$$attribute(COMPONENT_LAYOUT_SURFACE, top)\n"
+             "$$attribute(COMPONENT_OUTLINE_OVERHANG, yes)");
+  const CMGeomComponent& component = *geom.m_pComponents->GetAt(0);
+  EXPECT_EQ(component.m_sLayoutType, "smd");
+  EXPECT_EQ(component.m_sDefaultPadstack, "D");
+  EXPECT_EQ(component.m_sLayoutSurface, "top");
+  EXPECT_EQ(component.m_bOutlineOverhang, 1);
 }
 
 TEST(GeomAttributes, OfTheOpenComponent) {

@@ -111,8 +111,8 @@ inline std::string Described(const CMGeomDrill& drill) {
   return Description("").Add("size", drill.m_dSize).Add("x", drill.m_dX).Add("y", drill.m_dY).Text();
 }
 
-inline std::string Described(const CMGeomOverride& exception) {
-  return Description("").Add("1", exception.m_sArg1).Add("2", exception.m_sArg2).Text();
+inline std::string Described(const CMGeomOverride& padstackOverride) {
+  return Description("").Add("1", padstackOverride.m_sArg1).Add("2", padstackOverride.m_sArg2).Text();
 }
 
 inline std::string Described(const CMGeomPinDef& pin) {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 #include <rapidjson/document.h>
+#include <rapidjson/pointer.h>
 
 #include <string>
 
@@ -142,6 +143,27 @@ TEST(Tool, DumpsWhatWasReadBeforeATracesLineThatIsTooShort) {
             ])"),
             std::string::npos)
       << dump.out;
+}
+
+/// One record of every class, with the names of its members in their order.
+TEST(Tool, DumpsTheMembersOfEveryRecordInTheirOrder) {
+  const auto dump =
+      RunTool("dump --tech " + kBoard + "/board.tech --neutral " + kBoard + "/board.neutral --geometry " +
+              kBoard + "/board.geometry --traces " + kBoard + "/board.traces");
+  rapidjson::Document document;
+  ASSERT_FALSE(document.Parse(dump.out.c_str()).HasParseError());
+  std::ifstream expected(KESTRIN_TESTS "/tool/dump_members.txt");
+  int records = 0;
+  for (std::string line; std::getline(expected, line); ++records) {
+    const std::size_t colon = line.find(':');
+    const std::string path = line.substr(0, colon);
+    const rapidjson::Value* record = rapidjson::Pointer(path == "/" ? "" : path.c_str()).Get(document);
+    ASSERT_TRUE(record != nullptr && record->IsObject()) << path;
+    std::string members;
+    for (const auto& member : record->GetObject()) members.append(" ").append(member.name.GetString());
+    EXPECT_EQ(members, line.substr(colon + 1)) << path;
+  }
+  EXPECT_EQ(records, 47);
 }
 
 TEST(Tool, ChecksWhatAnImportSkips) {
