@@ -4,6 +4,7 @@
 /// Who owns a list or a record, said by its type. Hosts see every holder here as a pointer that is never null
 /// unless its description says so.
 
+#include <cstddef>
 #include <memory>
 #include <utility>
 

@@ -19,15 +19,16 @@ namespace kestrin {
 inline constexpr std::int64_t kSmallestStep = 4;
 inline constexpr std::int64_t kGreatestStep = 1024;
 
-/// How many slots are really allocated behind a capacity. An array's capacity grows in steps of at most 1,024
-/// slots; moving the slots at every such step would cost quadratic time, so beyond the size where the steps
-/// stop growing the memory comes in eighths of a power of two, and most steps find theirs already there.
+/// How many slots are really allocated behind a capacity. An array's capacity grows in steps of at least 4
+/// and at most 1,024 slots; moving the slots at every such step would cost a small array many allocations and
+/// a large one quadratic time. So the memory comes in powers of two, and beyond some slots in eighths of one,
+/// and most steps find theirs already there.
 [[nodiscard]] constexpr std::int64_t AllocatedSlots(std::int64_t capacity) {
-  if (capacity <= 8 * kGreatestStep) return capacity;
-  const auto granule = static_cast<std::int64_t>(std::bit_floor(static_cast<std::uint64_t>(capacity)) / 8);
-  return capacity > std::numeric_limits<std::int64_t>::max() - granule
-             ? capacity
-             : (capacity + granule - 1) / granule * granule;
+  constexpr std::int64_t kSmall = 64;
+  const auto slots = static_cast<std::uint64_t>(capacity);
+  if (capacity <= kSmall) return static_cast<std::int64_t>(std::bit_ceil(slots));
+  const std::uint64_t granule = std::bit_floor(slots) / 8;
+  return static_cast<std::int64_t>((slots + granule - 1) / granule * granule);
 }
 
 // NOLINTBEGIN(cppcoreguidelines-owning-memory,bugprone-sizeof-expression): here slots are raw memory, that of

@@ -10,7 +10,7 @@
 
 namespace kestrin {
 
-/// A SEG line of the WIR, INC or ANT before it.
+/// A SEG line of the last complete WIR, INC or ANT before it.
 class KESTRIN_EXPORT CMTracesSEG {
  public:
   double m_dValue1 = 0.0;

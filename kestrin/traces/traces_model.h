@@ -3,7 +3,7 @@
 /// @file
 /// What a Traces file says: the routed copper of every net, the copper fills, and a few board-wide records.
 /// Lists are in file order. A record class is named after the code of the line that makes it; every record
-/// owns its lists and they their records, so that records cannot be copied.
+/// owns its lists and they their records, so that a record with lists cannot be copied.
 
 #include <cstdint>
 

@@ -7,17 +7,28 @@
 #include <memory>
 #include <utility>
 
+#include "kestrin/platform/characters.h"
 #include "kestrin/text/trim.h"
 
 namespace kestrin {
 namespace {
 
+/// Whether a comment was meant as a net header but is not written like one, so that its net is missed.
+bool IsMissedNetHeader(std::string_view comment) {
+  constexpr std::string_view kWord = "NET";
+  const std::string_view text = TrimmedLeft(comment.substr(1));
+  if (!text.starts_with(kWord)) return false;
+  const std::string_view rest = text.substr(kWord.size());
+  return rest.empty() || IsSpace(rest.front()) || rest.front() == '\'';
+}
+
 /// Whether a line without a record is meant to have none: blank lines, properties, notes in parentheses,
-/// comments. A net header that lacks its blank is no comment: its net is missed.
+/// comments.
 bool CarriesNothing(std::string_view line) {
   const std::string_view text = Trimmed(line);
   if (text.empty() || text.starts_with("PRP ")) return true;
-  return text.front() == '#' ? !text.starts_with("#NET") : text.front() == '(' && text.back() == ')';
+  if (text.front() == '#') return !IsMissedNetHeader(text);
+  return text.front() == '(' && text.back() == ')';
 }
 
 }  // namespace
@@ -52,7 +63,8 @@ const TracesReader::RecordKind* TracesReader::FindKind(std::string_view code) {
   static constexpr RecordKind kKinds[] = {
       // the most frequent first
       {"VER", "at least 2 values", kAny, "a FIL, ARE, ARS, ISL or ISS before it", &TracesReader::AddVer},
-      {"SEG", "at least 1 value", kAny, "a WIR, INC or ANT before it", &TracesReader::AddSeg},
+      {"SEG", "at least 1 value", kAny, "a WIR of 5 values, an INC or an ANT before it",
+       &TracesReader::AddSeg},
       {"WIR", "at least 5 values", kAny, kNet, &TracesReader::AddWir},
       {"ISL", "at least 1 value", kAny, kFill, &TracesReader::AddIsl},
       {"ISS", "at least 1 value", kAny, kFill, &TracesReader::AddIss},
@@ -81,20 +93,16 @@ LineOutcome TracesReader::ReadLine(std::string_view line) {
   if (beginsQuoted) {  // and so has no code: what stands first reaches to the closing apostrophe
     return Trimmed(line).empty() ? LineOutcome::Ignored() : LineOutcome::Skipped(SkipCode::kOpenQuote);
   }
-  if (values_.Code() == "#") return ReadComment();
+  if (values_.Code() == "#" && values_.Has(1) && values_.Text(1) == "NET") {
+    AddNet();
+    return LineOutcome::Imported();
+  }
   if (const RecordKind* kind = FindKind(values_.Code())) {
     if (!kind->Accepts(values_.Count())) return LineOutcome::WrongValueCount(kind->values, values_.Count());
     return (this->*kind->read)() ? LineOutcome::Imported()
                                  : LineOutcome::Skipped(SkipCode::kNoOwner, kind->owner);
   }
   return CarriesNothing(line) ? LineOutcome::Ignored() : LineOutcome::Skipped(SkipCode::kUnknownRecord);
-}
-
-/// A comment is a net header when its first word is NET.
-LineOutcome TracesReader::ReadComment() {
-  if (!values_.Has(1) || values_.Text(1) != "NET") return LineOutcome::Ignored();
-  AddNet();
-  return LineOutcome::Imported();
 }
 
 bool TracesReader::SetUnits() {

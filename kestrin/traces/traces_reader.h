@@ -25,7 +25,6 @@ class TracesReader {
  private:
   struct RecordKind;
   static const RecordKind* FindKind(std::string_view code);
-  [[nodiscard]] LineOutcome ReadComment();
 
   // A function for every record code. It reads the values first, so that a missing one raises whatever the
   // record belongs to, and gives false when there is no owner to add the record to.

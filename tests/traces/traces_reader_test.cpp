@@ -87,7 +87,7 @@ TEST(TracesReader, ReadsTheRecordsOfAFill) {
       {"FIL 1\nARE 'A' B S 4 5.5 6\nVER 1 2.5 3\nARS 1\nVER 3 4",
        "fil{FIL [] [] [] 0 0 0 0 0 0 0 0 0 [] [] [] 0 0 0 0 are{AREA [A] [B] [S] 4 5.5 6 0 0 0 0 0 ver{VER 1 "
        "2.5}} ars{AREA [] [] [] 0 0 0 0 0 0 0 0 ver{VER 3 4}}}"},
-      {"FIL 1\nARE A B S 4 5 6 7 8\nARS A B S 4 5 6 7 8 9 10.5 11.5 12 13",
+      {"FIL 1\nARE A 'B' S 4 5 6 7 8\nARS A B S 4 5 6 7 8 9 10.5 11.5 12 13",
        "fil{FIL [] [] [] 0 0 0 0 0 0 0 0 0 [] [] [] 0 0 0 0 are{AREA [A] [B] [S] 4 5 6 8 0 0 0 0} ars{AREA "
        "[A] "
        "[B] [S] 4 5 6 13 8 9 10.5 11.5}}"},
@@ -100,6 +100,43 @@ TEST(TracesReader, ReadsTheRecordsOfAFill) {
        "[D] [S] 4 7 6 0 0 0 0 0} tti{TTI [A] [B] 1 2 ['X Y'] 0 0 0 0; TTI [A] [B] 1 2 [3] 4 5.5 6.5 7}}"},
       {"ARS 1", "fil{FIL [] [] [] 0 0 0 1 0 0 0 0 0 [] [] [] 0 0 0 0 ars{AREA [] [] [] 0 0 0 0 0 0 0 0}}"},
   });
+}
+
+/// "code 1 2 3 …" with a number of values.
+std::string Counted(const std::string& code, int count) {
+  std::string line = code;
+  for (int i = 1; i <= count; ++i) line += " " + std::to_string(i);
+  return line;
+}
+
+TEST(TracesReader, OtherFormsOfFillsAndAreasAreEmpty) {
+  for (int count = 1; count <= 23; ++count) {
+    CMTraces traces;
+    TracesReader reader(traces);
+    Feed(reader, Counted("FIL", count) + "\n" + Counted("ARE", count) + "\n" + Counted("ARS", count));
+    ASSERT_EQ(traces.m_pFilArray->GetSize(), 1) << count;
+    const CMTracesFIL& fill = *traces.m_pFilArray->GetAt(0);
+    EXPECT_EQ(fill.m_sName1, count == 16 || count == 21 ? "1" : "") << count;
+    EXPECT_EQ(fill.m_nExt1, count == 21 ? 14 : 0) << count;
+    const char* name = count == 6 || count == 8 || count == 13 ? "2" : "";
+    EXPECT_EQ(fill.m_pAreArray->GetAt(0)->m_sName2, name) << count;
+    EXPECT_EQ(fill.m_pArsArray->GetAt(0)->m_sName2, name) << count;
+  }
+}
+
+TEST(TracesReader, AnExponentCountsInDoublesOnly) {
+  CMTraces traces;
+  TracesReader reader(traces);
+  Feed(reader,
+       "# NET A\nINC 1e3 2 3 1e3 5 6 -1e3\nSEG 1e3 2 1e3\nFIL A B S 1e3 5 6 7 8 1e3 10 11 12 13 14 15 16");
+  const CMTracesINCANT& inc = *traces.m_pNetArray->GetAt(0)->m_pIncArray->GetAt(0);
+  EXPECT_EQ(inc.m_nValue1, 1);
+  EXPECT_EQ(inc.m_nValue4, 1);
+  EXPECT_EQ(inc.m_nValue7, -1000);
+  EXPECT_EQ(inc.m_pSegArray->GetAt(0)->m_dValue1, 1000);
+  EXPECT_EQ(inc.m_pSegArray->GetAt(0)->m_nValue3, 1);
+  EXPECT_EQ(traces.m_pFilArray->GetAt(0)->m_nValue4, 1);
+  EXPECT_EQ(traces.m_pFilArray->GetAt(0)->m_dValue9, 1000);
 }
 
 TEST(TracesReader, ANetHeaderClosesTheFillAndNothingElse) {
@@ -160,6 +197,8 @@ TEST(TracesReader, TellsWhatBecameOfALine) {
       {"(a note)", "ignored"},
       {"PRP a property", "ignored"},
       {"#NET 'A'", unknown},
+      {"\t# \tNET 'A'", unknown},
+      {"# NETWORK of A", "ignored"},
       {"(a note) VER 1 2", unknown},
       {"WIRE 1 2", unknown},
       {"ST 1 2 3 4 5", "ST takes 4, 6 or 8 values, this line has 5"},
@@ -170,7 +209,7 @@ TEST(TracesReader, TellsWhatBecameOfALine) {
       {"TTI", "TTI takes 3 or 7 values, this line has 0"},
       {"TTI 1 2", "TTI takes 3 or 7 values, this line has 2"},
       {"VER 1 2", "VER needs a FIL, ARE, ARS, ISL or ISS before it"},
-      {"SEG 1", "SEG needs a WIR, INC or ANT before it"},
+      {"SEG 1", "SEG needs a WIR of 5 values, an INC or an ANT before it"},
       {"WIR 1", "WIR needs a net header before it"},
       {"WIR 1 2 3 4 5", "WIR needs a net header before it"},
       {"ANT 1 2 3 4 5", "ANT needs a net header before it"},
@@ -186,9 +225,7 @@ TEST(TracesReader, TellsWhatBecameOfALine) {
     CMTraces traces;
     TracesReader reader(traces);
     const LineOutcome outcome = Feed(reader, c.text + "\n").back();
-    const bool skipped = outcome.GetKind() == LineOutcome::Kind::kSkipped;
-    const bool imported = outcome.GetKind() == LineOutcome::Kind::kImported;
-    EXPECT_EQ(skipped ? outcome.Reason() : imported ? "imported" : "ignored", c.model) << c.text;
+    EXPECT_EQ(test::Told(outcome), c.model) << c.text;
   }
 }
 
