@@ -32,8 +32,8 @@ std::string Extent(const NumberArray& coords) {
     low[i % 2] = std::min(low[i % 2], coords[i]);
     high[i % 2] = std::max(high[i % 2], coords[i]);
   }
-  const std::string corners = "from (" + Number(low[0]) + ", " + Number(low[1]) + ") to (" + Number(high[0]) +
-                              ", " + Number(high[1]) + ")";
+  std::string corners = "from (" + Number(low[0]) + ", " + Number(low[1]) + ") to (" + Number(high[0]) +
+                        ", " + Number(high[1]) + ")";
   const double width = high[0] - low[0];
   const double height = high[1] - low[1];
   if (!std::isfinite(width) || !std::isfinite(height)) return corners;

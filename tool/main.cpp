@@ -2,6 +2,7 @@
 #include <exception>
 #include <string>
 
+#include "kestrin/version.h"
 #include "tool/check.h"
 #include "tool/dump.h"
 #include "tool/export_set.h"
@@ -51,7 +52,7 @@ void AddFolder(CLI::App& command, Arguments& arguments) {
 int Run(int count, char** words) {
   CLI::App app("Imports a printed-circuit board from its four export files and shows what they hold.",
                "kestrin");
-  app.set_version_flag("--version", "kestrin " KESTRIN_VERSION);
+  app.set_version_flag("--version", std::string("kestrin ") + kVersion);
   app.require_subcommand(0, 1);
   app.footer(std::string("Example:\n  kestrin summary examples/board\n\n") + kExitStatuses);
 

@@ -7,18 +7,16 @@
 
 #include <string_view>
 
-#include "kestrin/platform/export.h"
-
 namespace kestrin {
 
 /// The integer that the text starts with; one out of range becomes the nearest 32-bit limit.
-[[nodiscard]] KESTRIN_EXPORT int ToInt(std::string_view text);
+[[nodiscard]] int ToInt(std::string_view text);
 
 /// The number that the text starts with; one too large becomes plus or minus infinity, one too small the
 /// nearest denormal or zero.
-[[nodiscard]] KESTRIN_EXPORT double ToDouble(std::string_view text);
+[[nodiscard]] double ToDouble(std::string_view text);
 
 /// The value truncated toward zero; out of range it becomes the nearest 32-bit limit, not-a-number 0.
-[[nodiscard]] KESTRIN_EXPORT int ToInt(double value);
+[[nodiscard]] int ToInt(double value);
 
 }  // namespace kestrin

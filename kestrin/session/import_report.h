@@ -12,7 +12,6 @@
 #include <vector>
 
 #include "kestrin/neutral/board_selection.h"
-#include "kestrin/platform/export.h"
 #include "kestrin/text/line_outcome.h"
 
 namespace kestrin {
@@ -44,7 +43,7 @@ struct SkippedLines {
 
 /// What became of the lines of one file. Every line read is imported, ignored or skipped; only the line at
 /// which an exception stopped the reading is none of these.
-class KESTRIN_EXPORT FileReport {
+class FileReport {
  public:
   static constexpr std::size_t kKeptLines = 100;
   static constexpr std::size_t kKeptBytes = 200;

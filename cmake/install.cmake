@@ -1,0 +1,52 @@
+# What `cmake --install` puts where, and the packages that are made of it.
+include(CMakePackageConfigHelpers)
+
+install(TARGETS kestrin kestrin_static
+  EXPORT kestrinTargets
+  LIBRARY COMPONENT runtime NAMELINK_COMPONENT development
+  ARCHIVE COMPONENT development
+  FILE_SET HEADERS COMPONENT development
+  FILE_SET generated COMPONENT development)
+install(EXPORT kestrinTargets
+  NAMESPACE kestrin::
+  DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/kestrin
+  COMPONENT development)
+
+configure_package_config_file(cmake/kestrinConfig.cmake.in ${PROJECT_BINARY_DIR}/kestrinConfig.cmake
+  INSTALL_DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/kestrin)
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/kestrinConfigVersion.cmake COMPATIBILITY SameMinorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/kestrinConfig.cmake ${PROJECT_BINARY_DIR}/kestrinConfigVersion.cmake
+  DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/kestrin
+  COMPONENT development)
+
+# The pkg-config file finds its prefix from where it lies, however deep the library folder is.
+file(RELATIVE_PATH KESTRIN_PREFIX_FROM_PC /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+configure_file(cmake/kestrin.pc.in ${PROJECT_BINARY_DIR}/kestrin.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/kestrin.pc
+  DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
+  COMPONENT development)
+
+if(KESTRIN_BUILD_TOOL)
+  install(TARGETS kestrin_tool COMPONENT tool)
+  install(FILES packaging/kestrin.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
+  install(FILES packaging/kestrin.bash
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME kestrin
+    COMPONENT tool)
+endif()
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_CONTACT "kestrin maintainers <maintainers@example.org>")
+set(CPACK_PACKAGE_VENDOR kestrin)
+set(CPACK_COMPONENTS_ALL runtime development tool)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME libkestrin${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/triggers)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libkestrin-dev)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${CPACK_DEBIAN_RUNTIME_PACKAGE_NAME} (= ${PROJECT_VERSION})")
+set(CPACK_DEBIAN_TOOL_PACKAGE_NAME kestrin)
+set(CPACK_DEBIAN_TOOL_PACKAGE_SECTION electronics)
+include(CPack)

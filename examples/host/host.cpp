@@ -1,0 +1,109 @@
+// A small host: imports an export set, shows progress, and prints every net with its pins and how many
+// segments it is routed with.
+
+#include <kestrin/kestrin.h>
+
+#include <cstdint>
+#include <exception>
+#include <iostream>
+#include <map>
+#include <string>
+
+namespace {
+
+/// A dialog that writes a line when a file's reading begins and when a bar has moved on by a quarter.
+class Dialog : public kestrin::CWnd {
+ public:
+  /// The bars: Geometry, Neutral, Traces, Tech.
+  void Attach(kestrin::CPC_KESTRIN_GET& session) {
+    session.m_pStatusWnd = &status_;
+    session.SetProgressPtr(&geometry_, &neutral_, &traces_, &tech_);
+  }
+
+ private:
+  class Status : public CWnd {
+   public:
+    void SetWindowTextA(const char* text) override { std::cerr << text << '\n'; }
+  };
+
+  class Bar : public kestrin::CProgressCtrl {
+   public:
+    using CProgressCtrl::CProgressCtrl;
+
+   private:
+    kestrin::LRESULT WindowProc(kestrin::UINT message, kestrin::WPARAM position, kestrin::LPARAM) override {
+      if (message == kestrin::PBM_SETPOS && position / 25 != quarter_) {
+        quarter_ = position / 25;
+        std::cerr << "  " << position << " %\n";
+      }
+      return 0;
+    }
+    kestrin::WPARAM quarter_ = 0;
+  };
+
+  Status status_;
+  Bar geometry_{this};
+  Bar neutral_{this};
+  Bar traces_{this};
+  Bar tech_{this};
+};
+
+/// How many segments the nets of each name are routed with.
+std::map<std::string, std::int64_t> CountSegments(const kestrin::CMTraces& traces) {
+  std::map<std::string, std::int64_t> segments;
+  for (const auto* net : *traces.m_pNetArray) {
+    std::int64_t& count = segments[net->m_sName.GetString()];
+    for (const auto* wire : *net->m_pWirArray) count += wire->m_pSegArray->GetSize();
+  }
+  return segments;
+}
+
+void PrintNets(const kestrin::CMNetList& nets, const kestrin::CMTraces& traces) {
+  const auto segments = CountSegments(traces);
+  for (const auto* net : *nets.m_pNets) {
+    const auto routed = segments.find(net->m_sName.GetString());
+    std::cout << net->m_sName << ": " << (routed == segments.end() ? 0 : routed->second) << " segments, pins";
+    for (const auto* pin : *net->m_pPins) std::cout << ' ' << pin->m_sRef << '-' << pin->m_sPin;
+    std::cout << '\n';
+  }
+}
+
+void PrintReport(const kestrin::ImportReport& report) {
+  using kestrin::ImportFile;
+  for (const auto file :
+       {ImportFile::kTech, ImportFile::kNeutral, ImportFile::kGeometry, ImportFile::kTraces}) {
+    const kestrin::FileReport& read = report.Of(file);
+    std::cerr << read.path << ": " << read.linesRead << " lines, " << read.Imported() << " imported, "
+              << read.Skipped() << " skipped\n";
+    if (read.end == kestrin::ReadingEnd::kNotOpened) std::cerr << "  it could not be opened\n";
+    if (read.end == kestrin::ReadingEnd::kStopped) std::cerr << "  reading stopped there\n";
+  }
+}
+
+}  // namespace
+
+int main(int count, char** words) {
+  if (count != 5) {
+    std::cerr << "usage: host TECH NEUTRAL GEOMETRY TRACES\n";
+    return 2;
+  }
+  kestrin::CPC_KESTRIN_GET session;
+  session.vSetTechFilePath(words[1]);
+  session.vSetNeutralFilePath(words[2]);
+  session.vSetGeomFilePath(words[3]);
+  session.vSetTraceFilePath(words[4]);
+  Dialog dialog;
+  dialog.Attach(session);
+  int status = 0;
+  try {
+    session.vParse();
+  } catch (const std::exception& error) {  // what was read before it is there all the same
+    std::cerr << "the import stopped: " << error.what() << '\n';
+    status = 1;
+  }
+  PrintReport(session.GetReport());
+  if (session.GetNetList() != nullptr && session.GetTraces() != nullptr) {
+    PrintNets(*session.GetNetList(), *session.GetTraces());
+  }
+  return status;
+}
