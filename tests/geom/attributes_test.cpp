@@ -94,6 +94,7 @@ TEST(GeomAttributes, OfTheOpenBoard) {
       {"board", "pending|BOARD_PLACEMENT_KEEPOUT, [1, 2]", "board{noplace=[{name=[1 at=[7 0 9]}]}"},
       {"locked", "pending|BOARD_PLACEMENT_KEEPOUT, K, [1]|BOARD_PLACEMENT_OUTLINE", ""},
       {"none", "pending|BOARD_PLACEMENT_REGION", ""},
+      {"board", "BOARD_PLACEMENT_REGION, 5], [1, 2], [3]", "board{regions=[{at=[1 2]}]}"},
       {"board", "BOARD_PLACEMENT_REGION, N, [1, 2]|pending|BOARD_PLACEMENT_REGION",
        "board{regions=[{at=[1 2]} {at=[7 0 9]}]}"},
       {"board", R"(POWER_NET_NAMES, "'VCC'", "", G'N'D, "A,B", ''|pending|POWER_NET_NAMES)",

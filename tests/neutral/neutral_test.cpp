@@ -90,7 +90,7 @@ TEST(NeutralReader, ReadsNetsAndPins) {
 
 TEST(NeutralReader, ReadsComponentsAndTheirProperties) {
   const Case cases[] = {
-      {"COMP R1 'PART 1' S G 1.5 -2x 2 90.9", "R1 'PART 1' S G 1.5 -2 2 90{}"},
+      {"COMP R1 'PN 1' S G 1.5 -2x 2 90.9", "R1 'PN 1' S G 1.5 -2 2 90{}"},
       {"  COMP R1 P S G a b c d ", "R1 P S G 0 0 0 0{}"},
       {"COMP R1 P S G 1 2 3\nCOMP R1 P S G 1 2 3 4 5\ncomp R1 P S G 1 2 3 4\nC_PROP (A,\"1\")", ""},
       {"COMP R P S G 1 2 3 4\nC_PIN x\nC_PROP (HEIGHT,\"2.5\") (VALUE , \"10 k\")",
