@@ -29,6 +29,8 @@ void AddFileOptions(CLI::App& command, Arguments& arguments) {
         .add_option(kind.option, arguments.files.PathOf(kind.file), std::string("The ") + kind.name + " file")
         ->option_text("FILE");
   }
+  command.add_flag("--strict", arguments.files.Strict(),
+                   "Read the Traces file by its grammar: order and form of its records count");
 }
 
 CLI::App* AddCommand(CLI::App& app, Arguments& arguments, const char* name, const char* description,
