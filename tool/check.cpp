@@ -65,7 +65,9 @@ void PrintErrors(const StrictTraces& traces) {
 
 void WriteErrors(JsonWriter& json, const StrictTraces& traces) {
   JsonObject object(json);
-  object.Member("file", std::string_view(PathToUtf8(traces.path))).Member("strict", traces);
+  object.Member("file", std::string_view(PathToUtf8(traces.path)))
+      .Member("lines", traces.parse.line)
+      .Member("strict", traces);
   json.Key("errors");
   json.StartArray();
   for (const SyntaxError& error : traces.parse.errors) {

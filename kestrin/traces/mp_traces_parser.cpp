@@ -39,11 +39,16 @@ void PrintErrors(const StrictParse& parse) {
 
 }  // namespace
 
+MPTracesParser::MPTracesParser() = default;
+MPTracesParser::MPTracesParser(const MPTracesParser&) = default;
+MPTracesParser::MPTracesParser(MPTracesParser&&) noexcept = default;
+MPTracesParser& MPTracesParser::operator=(const MPTracesParser&) = default;
+MPTracesParser& MPTracesParser::operator=(MPTracesParser&&) noexcept = default;
+
 MPTracesParser::MPTracesParser(char* file) { SetFile(file); }
 
 void MPTracesParser::SetFile(char* file) {
-  State().file.reset();
-  if (file != nullptr) State().file.reset(std::fopen(file, "r"));
+  State().file.reset(file == nullptr ? nullptr : std::fopen(file, "r"));
 }
 
 int MPTracesParser::Parse() {

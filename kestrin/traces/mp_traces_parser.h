@@ -20,9 +20,14 @@ class CMTraces;
 /// error.
 class KESTRIN_EXPORT MPTracesParser {
  public:
-  MPTracesParser() = default;
+  MPTracesParser();
   /// As SetFile.
   MPTracesParser(char* file);
+  // There is nothing to copy.
+  MPTracesParser(const MPTracesParser&);
+  MPTracesParser(MPTracesParser&&) noexcept;
+  MPTracesParser& operator=(const MPTracesParser&);
+  MPTracesParser& operator=(MPTracesParser&&) noexcept;
 
   /// Opens a file, closing the one that is open. Where none can be opened, Parse reads standard input.
   void SetFile(char* file);

@@ -1,6 +1,7 @@
 #include "kestrin/traces/strict/strict_parser.h"
 
 #include <new>
+#include <optional>
 #include <utility>
 
 #include "kestrin/traces/strict/model_builder.h"
@@ -19,9 +20,15 @@ void Exhaust(StrictParse& parse, const char* message) {
   parse.error = message;
 }
 
-void Run(TracesScanner& scanner, ModelBuilder& model, StrictParse& parse) {
+}  // namespace
+
+StrictParse ParseStrictly(ByteSource source) {
+  StrictParse parse;
+  ModelBuilder model;
+  std::optional<TracesScanner> scanner;
   try {
-    TracesGrammar grammar(scanner, model, parse.errors);
+    scanner.emplace(std::move(source));
+    TracesGrammar grammar(*scanner, model, parse.errors);
     parse.result = grammar.parse() == 0 ? ParseResult::kAccepted : ParseResult::kRejected;
     if (!parse.errors.empty()) parse.error = ErrorText(parse.errors.back());
   } catch (const ScannerError& error) {
@@ -29,17 +36,8 @@ void Run(TracesScanner& scanner, ModelBuilder& model, StrictParse& parse) {
   } catch (const std::bad_alloc&) {
     Exhaust(parse, "out of dynamic memory in yy_create_buffer()");
   }
-}
-
-}  // namespace
-
-StrictParse ParseStrictly(ByteSource source) {
-  StrictParse parse;
-  TracesScanner scanner(std::move(source));
-  ModelBuilder model;
-  Run(scanner, model, parse);
+  if (scanner) parse.line = scanner->LineEnds();
   parse.traces = model.Take();
-  parse.line = scanner.LineEnds();
   return parse;
 }
 
