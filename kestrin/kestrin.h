@@ -13,5 +13,7 @@
 #include "kestrin/session/import_session.h"
 #include "kestrin/session/tokenizer.h"
 #include "kestrin/tech/tech_model.h"
+#include "kestrin/traces/mp_traces_parser.h"
+#include "kestrin/traces/strict/strict_parser.h"
 #include "kestrin/traces/traces_model.h"
 #include "kestrin/version.h"

@@ -11,8 +11,8 @@ _kestrin() {
         return
       fi
       case ${COMP_WORDS[1]} in
-        summary | dump) mapfile -t COMPREPLY < <(compgen -W "$files --help" -- "$word") ;;
-        check) mapfile -t COMPREPLY < <(compgen -W "$files --format --help" -- "$word") ;;
+        summary | dump) mapfile -t COMPREPLY < <(compgen -W "$files --strict --help" -- "$word") ;;
+        check) mapfile -t COMPREPLY < <(compgen -W "$files --strict --format --help" -- "$word") ;;
       esac
       ;;
   esac

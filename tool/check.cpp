@@ -56,6 +56,26 @@ void PrintCounts(const FileReport& file) {
   }
 }
 
+void PrintErrors(const StrictTraces& traces) {
+  for (const SyntaxError& error : traces.parse.errors) {
+    std::printf("%s:%" PRId64 ": syntax-error: %s\n", PathToTerminal(traces.path).c_str(), LineOf(error),
+                ToTerminal(error.Describe()).c_str());
+  }
+}
+
+void WriteErrors(JsonWriter& json, const StrictTraces& traces) {
+  JsonObject object(json);
+  object.Member("file", std::string_view(PathToUtf8(traces.path)))
+      .Member("lines", traces.parse.line)
+      .Member("strict", traces);
+  json.Key("errors");
+  json.StartArray();
+  for (const SyntaxError& error : traces.parse.errors) {
+    JsonObject(json).Member("line", LineOf(error)).Member("reason", CString(error.Describe()));
+  }
+  json.EndArray();
+}
+
 void WriteSkipped(JsonWriter& json, const FileReport& file) {
   json.StartArray();
   for (const SkipCode code : CodesIn(file)) {
@@ -75,7 +95,7 @@ void WriteSkipped(JsonWriter& json, const FileReport& file) {
   json.EndArray();
 }
 
-void WriteDocument(const std::vector<const FileReport*>& files) {
+void WriteDocument(const std::vector<const FileReport*>& files, const StrictTraces* strictTraces) {
   JsonWriter json;
   {
     JsonObject document(json);
@@ -91,6 +111,7 @@ void WriteDocument(const std::vector<const FileReport*>& files) {
       json.Key("codes");
       WriteSkipped(json, *file);
     }
+    if (strictTraces != nullptr) WriteErrors(json, *strictTraces);
     json.EndArray();
   }
   json.Finish();
@@ -100,23 +121,30 @@ void WriteDocument(const std::vector<const FileReport*>& files) {
 
 int Check(const ExportSet& files, CheckFormat format) {
   files.CheckReadable();
-  CPC_KESTRIN_GET session;
-  const std::string stopped = Import(session, files);
+  Imported imported;
+  const std::string stopped = Import(imported, files);
+  const StrictTraces* strictTraces = imported.strictTraces ? &*imported.strictTraces : nullptr;
   std::vector<const FileReport*> reports;
   for (const FileKind& kind : kFileKinds) {
-    const FileReport& file = session.GetReport().Of(kind.file);
+    const FileReport& file = imported.session.GetReport().Of(kind.file);
     if (file.end != ReadingEnd::kNotRead) reports.push_back(&file);
   }
   if (format == CheckFormat::kJson) {
-    WriteDocument(reports);
+    WriteDocument(reports, strictTraces);
   } else {
     for (const FileReport* file : reports) PrintLines(*file);
+    if (strictTraces != nullptr) PrintErrors(*strictTraces);
     for (const FileReport* file : reports) PrintCounts(*file);
+    if (strictTraces != nullptr) {
+      std::printf("%s: %" PRId64 " lines read strictly, %s\n", PathToTerminal(strictTraces->path).c_str(),
+                  strictTraces->parse.line, Verdict(strictTraces->parse).c_str());
+    }
   }
   if (!stopped.empty()) return FinishOutput(ReportError(stopped, kIncomplete));
+  const bool anyError = strictTraces != nullptr && !strictTraces->parse.errors.empty();
   const bool anySkipped =
       std::any_of(reports.begin(), reports.end(), [](auto* file) { return file->Skipped() > 0; });
-  return FinishOutput(anySkipped ? kIncomplete : kSuccess);
+  return FinishOutput(anySkipped || anyError ? kIncomplete : kSuccess);
 }
 
 }  // namespace kestrin::tool

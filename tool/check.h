@@ -1,7 +1,8 @@
 #pragma once
 
 /// @file
-/// kestrin check: the lines of an export set that an import skips.
+/// kestrin check: the lines of an export set that an import skips; with --strict, the syntax errors of its
+/// Traces file.
 
 #include "tool/export_set.h"
 
@@ -9,8 +10,8 @@ namespace kestrin::tool {
 
 enum class CheckFormat { kText, kJson };
 
-/// Imports the files and prints their skipped lines. Returns the exit status: success only when there are
-/// none.
+/// Imports the files and prints their skipped lines and syntax errors. Returns the exit status: success only
+/// when there are none.
 [[nodiscard]] int Check(const ExportSet& files, CheckFormat format);
 
 }  // namespace kestrin::tool

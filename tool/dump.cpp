@@ -8,21 +8,23 @@
 namespace kestrin::tool {
 namespace {
 
-void WriteDocument(JsonWriter& json, const CPC_KESTRIN_GET& session) {
+void WriteDocument(JsonWriter& json, const Imported& imported) {
+  const CPC_KESTRIN_GET& session = imported.session;
   JsonObject document(json);
   document.Member("tech", session.m_pTech);
   document.Member("components", session.m_pComps).Member("nets", session.m_pNetList);
-  document.Member("geometry", session.m_pGeom).Member("traces", session.m_pTraces);
+  document.Member("geometry", session.m_pGeom).Member("traces", imported.Traces());
+  if (imported.strictTraces) document.Member("strict", *imported.strictTraces);
 }
 
 }  // namespace
 
 int Dump(const ExportSet& files) {
   files.CheckReadable();
-  CPC_KESTRIN_GET session;
-  const std::string stopped = Import(session, files);
+  Imported imported;
+  const std::string stopped = Import(imported, files);
   JsonWriter json;
-  WriteDocument(json, session);
+  WriteDocument(json, imported);
   json.Finish();
   return FinishOutput(stopped.empty() ? kSuccess : ReportError(stopped, kIncomplete));
 }

@@ -71,6 +71,8 @@ void ExportSet::CheckReadable() const {
     any = true;
   }
   if (!any) throw UsageError("no file is given");
+  if (strict_ && !Has(ImportFile::kTraces))
+    throw UsageError("--strict reads a Traces file, and none is given");
 }
 
 }  // namespace kestrin::tool

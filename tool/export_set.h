@@ -36,16 +36,21 @@ class ExportSet {
   [[nodiscard]] std::string& PathOf(ImportFile file) { return paths_[static_cast<std::size_t>(file)]; }
   [[nodiscard]] bool Has(ImportFile file) const { return !PathOf(file).empty(); }
 
+  /// Whether the Traces file is to be read by its grammar, not by the session.
+  [[nodiscard]] bool IsStrict() const { return strict_; }
+  [[nodiscard]] bool& Strict() { return strict_; }
+
   /// Looks for the files that are not given yet by their endings in a folder. Raises UsageError unless it has
   /// exactly one of each.
   void FindInFolder(const std::string& folder);
 
   /// Raises UsageError unless at least one file is given and all of them can be read, twice: the import
-  /// counts a file's lines before it reads them.
+  /// counts a file's lines before it reads them. Reading strictly needs a Traces file.
   void CheckReadable() const;
 
  private:
   std::array<std::string, kImportFileCount> paths_;
+  bool strict_ = false;
 };
 
 }  // namespace kestrin::tool

@@ -51,9 +51,8 @@ std::string WhereStopped(const ImportReport& report) {
   return {};
 }
 
-}  // namespace
-
-std::string Import(CPC_KESTRIN_GET& session, const ExportSet& files) {
+/// Returns where and why a reader stopped early, as Import does.
+std::string ReadWithSession(CPC_KESTRIN_GET& session, const ExportSet& files) {
   std::string stopped;
   {
     TerminalDialog dialog(files);
@@ -74,6 +73,18 @@ std::string Import(CPC_KESTRIN_GET& session, const ExportSet& files) {
     if (file.end == ReadingEnd::kNotOpened) throw UsageError(file.path + ": cannot be opened");
   }
   return stopped;
+}
+
+}  // namespace
+
+std::string Import(Imported& imported, const ExportSet& files) {
+  if (!files.IsStrict()) return ReadWithSession(imported.session, files);
+  ExportSet others = files;
+  others.PathOf(ImportFile::kTraces).clear();
+  const std::string stopped = ReadWithSession(imported.session, others);
+  if (!stopped.empty()) return stopped;
+  imported.strictTraces = ReadStrictly(files.PathOf(ImportFile::kTraces));
+  return imported.strictTraces->stopped;
 }
 
 }  // namespace kestrin::tool

@@ -20,9 +20,9 @@ struct Arguments {
 };
 
 constexpr char kExitStatuses[] =
-    "Exit status: 0 all is well; 1 a reader stopped early, or check found skipped lines; 2 wrong usage or a "
-    "file "
-    "that cannot be read.";
+    "Exit status: 0 all is well; 1 a reader stopped early or the strict reading gave up, or check found "
+    "skipped "
+    "lines or syntax errors; 2 wrong usage or a file that cannot be read.";
 
 void AddFileOptions(CLI::App& command, Arguments& arguments) {
   for (const FileKind& kind : kFileKinds) {
@@ -30,6 +30,8 @@ void AddFileOptions(CLI::App& command, Arguments& arguments) {
         .add_option(kind.option, arguments.files.PathOf(kind.file), std::string("The ") + kind.name + " file")
         ->option_text("FILE");
   }
+  command.add_flag("--strict", arguments.files.Strict(),
+                   "Read the Traces file by its grammar: order and form of its records count");
 }
 
 CLI::App* AddCommand(CLI::App& app, Arguments& arguments, const char* name, const char* description,

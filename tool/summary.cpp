@@ -24,7 +24,7 @@ std::string Milliseconds(std::chrono::nanoseconds duration) {
   return text.GetString();
 }
 
-void PrintFiles(const ImportReport& report) {
+void PrintFiles(const Imported& imported) {
   std::puts("Files");
   TextTable table({{"file"},
                    {"lines", Align::kRight},
@@ -34,28 +34,36 @@ void PrintFiles(const ImportReport& report) {
                    {"time", Align::kRight},
                    {"path"}});
   for (const FileKind& kind : kFileKinds) {
-    const FileReport& file = report.Of(kind.file);
+    const FileReport& file = imported.session.GetReport().Of(kind.file);
     if (file.end == ReadingEnd::kNotRead) continue;
     table.AddRow({kind.name, std::to_string(file.linesRead), std::to_string(file.Imported()),
                   std::to_string(file.Ignored()), std::to_string(file.Skipped()), Milliseconds(file.duration),
                   PathToTerminal(file.path)});
   }
+  if (const auto& strict = imported.strictTraces) {
+    table.AddRow({"Traces", std::to_string(strict->parse.line), "", "", "", Milliseconds(strict->duration),
+                  PathToTerminal(strict->path)});
+  }
   table.Print();
+  if (imported.strictTraces) {
+    std::printf("\nStrict reading of the Traces file: %s\n", Verdict(imported.strictTraces->parse).c_str());
+  }
 }
 
 }  // namespace
 
 int Summary(const ExportSet& files) {
   files.CheckReadable();
-  CPC_KESTRIN_GET session;
-  const std::string stopped = Import(session, files);
-  PrintFiles(session.GetReport());
+  Imported imported;
+  const std::string stopped = Import(imported, files);
+  const CPC_KESTRIN_GET& session = imported.session;
+  PrintFiles(imported);
   if (const CMTech* tech = session.GetTech()) PrintTech(*tech);
   if (session.GetComps() != nullptr) {
     PrintNeutral(*session.GetComps(), *session.GetNetList(), session.GetReport().boardSelection);
   }
   if (const CMGeom* geom = session.GetGeom()) PrintGeometry(*geom);
-  if (const CMTraces* traces = session.GetTraces()) PrintTraces(*traces);
+  if (const CMTraces* traces = imported.Traces()) PrintTraces(*traces);
   return FinishOutput(stopped.empty() ? kSuccess : ReportError(stopped, kIncomplete));
 }
 

@@ -1,0 +1,53 @@
+#pragma once
+
+/// @file
+/// The scanner of the strict reader: turns the characters of a Traces file into the tokens of its grammar.
+
+#include <cstdint>
+#include <stdexcept>
+#include <string_view>
+
+#include "kestrin/traces/strict/text_input.h"
+#include "kestrin/traces/strict/traces_grammar.h"
+
+namespace kestrin {
+
+/// The scanner cannot go on: its memory, or a text that is too long for it.
+class ScannerError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// Scans one file. Line ends are no tokens; the scanner counts them.
+class TracesScanner {
+ public:
+  /// The longest text that a token keeps; the rest of a longer one is passed over.
+  static constexpr std::size_t kLongestText = 255;
+
+  explicit TracesScanner(ByteSource source);
+  TracesScanner(const TracesScanner&) = delete;
+  TracesScanner& operator=(const TracesScanner&) = delete;
+  ~TracesScanner();
+
+  /// The next token's number, 0 at the end of the file; its value is put into the place given.
+  [[nodiscard]] int Next(TracesGrammar::value_type& value);
+
+  /// The text of the token read last, empty at the end of the file. Valid until the next token.
+  [[nodiscard]] std::string_view Text() const;
+  /// How many line ends were read so far.
+  [[nodiscard]] std::int64_t LineEnds() const { return state_.lineEnds; }
+
+  /// What the rules read and write.
+  struct State {
+    TextInput input;
+    std::int64_t lineEnds = 0;
+    bool fillSeen = false;  // an ARE behind the first FIL belongs to a fill
+  };
+
+ private:
+  State state_;
+  void* automaton_ = nullptr;
+  bool ended_ = false;
+};
+
+}  // namespace kestrin

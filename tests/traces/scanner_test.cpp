@@ -1,0 +1,150 @@
+#include "kestrin/traces/strict/scanner.h"
+
+#include <gtest/gtest.h>
+
+#include <iterator>
+#include <string>
+#include <string_view>
+
+#include "tests/traces/strict_text.h"
+
+namespace kestrin {
+namespace {
+
+using Token = TracesGrammar::token;
+
+std::string NameOf(int token) {
+  static constexpr std::string_view kNames[] = {
+      "ANT",      "ARE_ALONE", "ARE_FILL", "ARS",        "CHG",     "FIL",  "GUI",     "INC",
+      "ISL",      "ISS",       "ST",       "SEG",        "TET",     "TTI",  "TTT",     "UNITS",
+      "VER",      "WIR",       "XRF",      "NET_HEADER", "INTEGER", "REAL", "QSTRING", "NETNAME",
+      "SEGFIELD", "WORD",      "WORDNUM",  "UNITNAME",   "APPTEXT", "RANGE"};
+  if (token < 256) return std::string(1, static_cast<char>(token));
+  const auto index = static_cast<std::size_t>(token - Token::T_ANT);
+  return std::string(index < std::size(kNames) ? kNames[index] : "?");
+}
+
+/// A token with the value that it hands on.
+std::string Described(int token, TracesGrammar::value_type& value) {
+  const auto take = [&]<class T>(T) {
+    T taken = value.as<T>();
+    value.destroy<T>();
+    return taken;
+  };
+  switch (token) {
+    case Token::T_INTEGER: return "INTEGER=" + std::to_string(take(int()));
+    case Token::T_REAL: {
+      CString text;
+      text.Format("REAL=%.15g", take(double()));
+      return text.GetString();
+    }
+    case Token::T_QSTRING:
+    case Token::T_NETNAME:
+    case Token::T_SEGFIELD:
+    case Token::T_WORD:
+    case Token::T_WORDNUM:
+    case Token::T_UNITNAME:
+    case Token::T_APPTEXT: return NameOf(token) + "=" + take(CString()).GetString();
+    default: return NameOf(token);
+  }
+}
+
+/// The tokens of a text, with "/" where a line has ended.
+std::string Tokens(const std::string& text, std::size_t piece = 1000) {
+  TracesScanner scanner(test::SourceOf(text, piece));
+  std::string tokens;
+  std::int64_t lines = 0;
+  for (;;) {
+    TracesGrammar::value_type value;
+    const int token = scanner.Next(value);
+    for (; lines < scanner.LineEnds(); ++lines) tokens += "/ ";
+    if (token == Token::T_END) break;
+    tokens += Described(token, value) + " ";
+  }
+  if (!tokens.empty()) tokens.pop_back();
+  return tokens;
+}
+
+struct Case {
+  std::string text;
+  std::string tokens;
+};
+
+void Expect(std::initializer_list<Case> cases) {
+  for (const Case& c : cases) {
+    EXPECT_EQ(Tokens(c.text), c.tokens) << c.text;
+    EXPECT_EQ(Tokens(c.text, 1), c.tokens) << c.text;  // nothing depends on where a block ends
+  }
+}
+
+TEST(TracesScanner, KnowsKeywordsInEveryConditionUnlessMoreMatches) {
+  Expect({
+      {"ANT ARS CHG GUI INC ISL ST TET", "ANT ARS CHG GUI INC ISL ST TET"},
+      {"TTI TTT VER WIR XRF ISS SEG", "TTI TTT VER WIR XRF ISS SEG"},
+      {"ARE FIL ARE\nARE", "ARE_ALONE FIL ARE_FILL / ARE_FILL"},
+      {"# NET 'FIL' ARE", "NET_HEADER FIL ' NETNAME= ARE"},
+      {"ANTX ANT_1 ANT1", "WORD=ANTX WORDNUM=ANT_1 ANT INTEGER=1"},
+      {"SEG ANT ANTX", "SEG ANT SEGFIELD=ANTX"},
+      {"UNITS ANT ANTX", "UNITS ANT UNITNAME=ANTX"},
+      {"# ApplicationANT\nANT x", "ANT / APPTEXT=ANT x"},
+  });
+}
+
+TEST(TracesScanner, CutsWordsNumbersAndQuotedTexts) {
+  Expect({
+      {"V1 Ab_1 A_1x", "WORD=V INTEGER=1 WORD=A INTEGER=1 WORDNUM=A_1"},
+      {"12 -12 +5 0012", "INTEGER=12 INTEGER=-12 INTEGER=5 INTEGER=12"},
+      {"1.5 -1.25 12.5.3 -.5 5. .5",
+       "REAL=1.5 REAL=-1.25 REAL=12.5 INTEGER=3 - INTEGER=5 INTEGER=5 INTEGER=5"},
+      {"1-2 1- 1-2.5 -1-2 1--2",
+       "RANGE INTEGER=1 - RANGE INTEGER=5 INTEGER=-1 INTEGER=-2 INTEGER=1 - INTEGER=-2"},
+      {"99999999999 -99999999999", "INTEGER=2147483647 INTEGER=-2147483648"},
+      {"$A$ $ $a A$", "WORD=$A$ WORD=$ WORD=$ WORD=A WORD=$"},
+      {"'a b' '' 'x", "QSTRING='a b' ' QSTRING=' '"},
+      {"lower;,*\x01\xE9 \t", ""},
+      {"", ""},
+  });
+}
+
+TEST(TracesScanner, PassesOverCommentsPropertiesAndNotes) {
+  Expect({
+      {"# BOARD B 1\n#\tdate 1\n#STI 1\nPRP 1\n1", "/ / / / INTEGER=1"},
+      {"# A 1\n#BOAR 1\nPRP\nPRPX 1", "WORD=A INTEGER=1 / WORD=BOAR INTEGER=1 / WORD=PRP /"},
+      {"1 (a (2) 3) 4 ) 5\n( 6", "INTEGER=1 INTEGER=5 / INTEGER=6"},
+      {"() 1 ()) 2", "INTEGER=2"},
+      {"SEG (a b) c\nSEG (d)e", "SEG SEGFIELD=c / SEG SEGFIELD=(d)e"},
+      {"SEG # BOARD x\n1", "SEG / INTEGER=1"},
+      {"ANT#  ApplicationX", "ANT WORD=A WORD=X"},
+  });
+}
+
+TEST(TracesScanner, EntersAndLeavesItsConditions) {
+  Expect({
+      {"# NET 'GND'\nWIR", "NET_HEADER NETNAME=GND ' / WIR"},
+      {"#  NET 'GND'", "WORD=NET QSTRING='GND'"},
+      {"# NET ''\nA'", "NET_HEADER ' / NETNAME=A '"},
+      {"# NET 'a 1(b)#' 1", "NET_HEADER NETNAME=a 1(b)# ' INTEGER=1"},
+      {"SEG 1.5 2.5 3 12 X\n1 X",
+       "SEG SEGFIELD=1.5 SEGFIELD=2.5 SEGFIELD=3 SEGFIELD=12 SEGFIELD=X / INTEGER=1 WORD=X"},
+      {"SEG 'a b' 'c", "SEG QSTRING='a b' SEGFIELD='c"},
+      {"UNITS MM MM", "UNITS UNITNAME=MM WORD=MM"},
+      {"UNITS mm 1 1.5 A_1 $A\nIN", "UNITS INTEGER=1 REAL=1.5 WORDNUM=A_1 WORD=$A / UNITNAME=IN"},
+      {"# Application  board 'x'\nA", "APPTEXT=  board 'x' / WORD=A"},
+      {"# Application\n\n(x)\nA", "/ / APPTEXT=(x) / WORD=A"},
+  });
+}
+
+TEST(TracesScanner, ReadsTextWhateverItsSizeAndLineEnds) {
+  Expect({
+      {"1\r\n2\r\r\n\r3\r", "INTEGER=1 / INTEGER=2 / INTEGER=3"},
+      {"SEG a\r\r\nSEG b\r", "SEG SEGFIELD=a\r / SEG SEGFIELD=b\r"},
+      {std::string("SEG a\0b c\n\0A", 12), "SEG SEGFIELD=a SEGFIELD=c / WORD=A"},
+  });
+  const std::string longText(300'000, 'A');
+  EXPECT_EQ(Tokens(longText + " 1"), "WORD=" + longText.substr(0, 255) + " INTEGER=1");
+  EXPECT_EQ(Tokens("(" + longText + ") 1"), "INTEGER=1");
+  EXPECT_EQ(Tokens(std::string(300'000, '0') + "7"), "INTEGER=7");
+}
+
+}  // namespace
+}  // namespace kestrin

@@ -1,0 +1,58 @@
+#include "tool/strict_traces.h"
+
+#include <exception>
+
+#include "kestrin/platform/input_file.h"
+#include "tool/readable_text.h"
+#include "tool/usage_error.h"
+
+namespace kestrin::tool {
+namespace {
+
+std::string WhyStopped(const std::string& path, const StrictParse& parse, const std::string& readError) {
+  const auto at = [&](std::int64_t line) { return path + ":" + std::to_string(line) + ": "; };
+  if (!readError.empty()) return at(parse.line) + "the reading stopped: " + readError;
+  switch (parse.result) {
+    case ParseResult::kAccepted: return {};
+    case ParseResult::kExhausted: return at(parse.line + 1) + "the strict reading gave up: " + parse.error;
+    case ParseResult::kRejected: break;
+  }
+  const SyntaxError& last = parse.errors.back();
+  return at(LineOf(last)) + "the strict reading gave up: " + ToTerminal(last.Describe());
+}
+
+}  // namespace
+
+StrictTraces ReadStrictly(const std::string& path) {
+  const auto start = std::chrono::steady_clock::now();
+  InputFile file;
+  if (!file.Open(path.c_str())) throw UsageError(path + ": cannot be opened");
+  std::string readError;
+  const auto read = [&](char* bytes, std::size_t size) -> std::size_t {
+    try {
+      return file.Read(bytes, size);
+    } catch (const std::exception& error) {
+      readError = error.what();
+      return 0;
+    }
+  };
+  StrictTraces traces{.path = path, .parse = ParseStrictly(read), .stopped = {}};
+  traces.stopped = WhyStopped(path, traces.parse, readError);
+  traces.duration = std::chrono::steady_clock::now() - start;
+  return traces;
+}
+
+void WriteJson(JsonWriter& json, const StrictTraces& traces) {
+  JsonObject(json)
+      .Member("result", static_cast<int>(traces.parse.result))
+      .Member("error", std::string_view(traces.parse.error))
+      .Member("line", traces.parse.line);
+}
+
+std::string Verdict(const StrictParse& parse) {
+  const std::size_t errors = parse.errors.size();
+  return (parse.result == ParseResult::kAccepted ? "accepted with " : "given up with ") +
+         std::to_string(errors) + (errors == 1 ? " syntax error" : " syntax errors");
+}
+
+}  // namespace kestrin::tool
