@@ -65,9 +65,7 @@ void PrintErrors(const StrictTraces& traces) {
 
 void WriteErrors(JsonWriter& json, const StrictTraces& traces) {
   JsonObject object(json);
-  object.Member("file", std::string_view(PathToUtf8(traces.path)))
-      .Member("lines", traces.parse.line)
-      .Member("strict", traces);
+  object.Member("file", std::string_view(PathToUtf8(traces.path))).Member("parse", traces);
   json.Key("errors");
   json.StartArray();
   for (const SyntaxError& error : traces.parse.errors) {
@@ -111,8 +109,11 @@ void WriteDocument(const std::vector<const FileReport*>& files, const StrictTrac
       json.Key("codes");
       WriteSkipped(json, *file);
     }
-    if (strictTraces != nullptr) WriteErrors(json, *strictTraces);
     json.EndArray();
+    if (strictTraces != nullptr) {
+      json.Key("strict");
+      WriteErrors(json, *strictTraces);
+    }
   }
   json.Finish();
 }
@@ -122,7 +123,7 @@ void WriteDocument(const std::vector<const FileReport*>& files, const StrictTrac
 int Check(const ExportSet& files, CheckFormat format) {
   files.CheckReadable();
   Imported imported;
-  const std::string stopped = Import(imported, files);
+  const std::string stopped = Import(imported, files, StrictReading::kBeside);
   const StrictTraces* strictTraces = imported.strictTraces ? &*imported.strictTraces : nullptr;
   std::vector<const FileReport*> reports;
   for (const FileKind& kind : kFileKinds) {

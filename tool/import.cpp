@@ -77,14 +77,14 @@ std::string ReadWithSession(CPC_KESTRIN_GET& session, const ExportSet& files) {
 
 }  // namespace
 
-std::string Import(Imported& imported, const ExportSet& files) {
+std::string Import(Imported& imported, const ExportSet& files, StrictReading strict) {
   if (!files.IsStrict()) return ReadWithSession(imported.session, files);
-  ExportSet others = files;
-  others.PathOf(ImportFile::kTraces).clear();
-  const std::string stopped = ReadWithSession(imported.session, others);
-  if (!stopped.empty()) return stopped;
+  ExportSet forSession = files;
+  if (strict == StrictReading::kInstead) forSession.PathOf(ImportFile::kTraces).clear();
+  const std::string stopped = ReadWithSession(imported.session, forSession);
+  if (!stopped.empty() && strict == StrictReading::kInstead) return stopped;
   imported.strictTraces = ReadStrictly(files.PathOf(ImportFile::kTraces));
-  return imported.strictTraces->stopped;
+  return stopped.empty() ? imported.strictTraces->stopped : stopped;
 }
 
 }  // namespace kestrin::tool

@@ -23,9 +23,16 @@ struct Imported {
   }
 };
 
+/// Who reads a Traces file that is to be read strictly.
+enum class StrictReading {
+  kInstead,  ///< the strict reader alone
+  kBeside,   ///< the session too, for its report
+};
+
 /// Imports the files, with progress on the terminal. Returns an empty text, or when a reader stopped early
-/// one line that says where and why; the files after it are not read then. Raises UsageError when a file
-/// cannot be opened.
-[[nodiscard]] std::string Import(Imported& imported, const ExportSet& files);
+/// one line that says where and why; the session's files after it are not read then. Raises UsageError when a
+/// file cannot be opened.
+[[nodiscard]] std::string Import(Imported& imported, const ExportSet& files,
+                                 StrictReading strict = StrictReading::kInstead);
 
 }  // namespace kestrin::tool
