@@ -22,6 +22,7 @@ class KESTRIN_EXPORT CMGeomDrawObj {
   CString m_sType;  ///< "LINE", "POLYGON", "ARC" or "CIRCLE"; empty in the base class
 
  protected:
+  /// An object of a kind.
   explicit CMGeomDrawObj(const char* type) : m_sType(type) {}
 };
 
@@ -31,7 +32,7 @@ class KESTRIN_EXPORT CMGeomPath : public CMGeomDrawObj {
   CMGeomPath() : CMGeomDrawObj("LINE") {}
   ~CMGeomPath() override;
 
-  CString m_sLayer;
+  CString m_sLayer;       ///< as the file names it
   double m_dWidth = 0.0;  ///< of the pen
   NumberList m_pCoords;   ///< flat
 };
@@ -42,7 +43,7 @@ class KESTRIN_EXPORT CMGeomPolygon : public CMGeomDrawObj {
   CMGeomPolygon() : CMGeomDrawObj("POLYGON") {}
   ~CMGeomPolygon() override;
 
-  CString m_sLayer;
+  CString m_sLayer;      ///< as the file names it
   NumberList m_pCoords;  ///< flat
 };
 
@@ -52,13 +53,17 @@ class KESTRIN_EXPORT CMGeomArc : public CMGeomDrawObj {
   CMGeomArc() : CMGeomDrawObj("ARC") {}
   ~CMGeomArc() override;
 
-  CString m_sLayer;
+  CString m_sLayer;  ///< as the file names it
+  ///@{
+  /// One of the three pairs.
   double m_dX1 = 0.0;
   double m_dY1 = 0.0;
   double m_dX2 = 0.0;
   double m_dY2 = 0.0;
   double m_dX3 = 0.0;
   double m_dY3 = 0.0;
+  ///@}
+
   double m_dWidth = 0.0;  ///< of the pen
   int m_nArcMode = 0;     ///< how the third pair is meant: 0 not said, 1 "@radius", 2 "@center"
 };
@@ -69,9 +74,9 @@ class KESTRIN_EXPORT CMGeomCircle : public CMGeomDrawObj {
   CMGeomCircle() : CMGeomDrawObj("CIRCLE") {}
   ~CMGeomCircle() override;
 
-  CString m_sLayer;
-  double m_dX = 0.0;  ///< the centre
-  double m_dY = 0.0;
+  CString m_sLayer;       ///< as the file names it
+  double m_dX = 0.0;      ///< the centre
+  double m_dY = 0.0;      ///< the centre
   double m_dSize = 0.0;   ///< as the file has it
   double m_dWidth = 0.0;  ///< of the pen
 };

@@ -19,28 +19,29 @@
 
 namespace kestrin {
 
+/// The board.
 class CMGeomBoard {
  public:
-  int m_nRoutingLayers = 0;
+  int m_nRoutingLayers = 0;  ///< how many there are
   CString m_sName;
   CString m_sUnits;
   Owned<CMGeomDrawObjArray> m_pDrawObjs;
   RecordList<CMGeomText> m_pTexts;
   RecordList<CMGeomAdd> m_pAdds;
-  CString m_sDefaultPadstack;
-  CString m_sDefaultVia;
-  double m_dPlacementClearance = 0.0;
-  NumberList m_pPlacementOutline;  ///< flat
-  NumberList m_pRoutingOutline;    ///< flat
-  Owned<CStringArray> m_pPowerNetNames;
-  RecordList<CMGeomKeepout> m_pPlacementKeepouts;
+  CString m_sDefaultPadstack;                      ///< the name of a padstack
+  CString m_sDefaultVia;                           ///< the name of a via
+  double m_dPlacementClearance = 0.0;              ///< between components
+  NumberList m_pPlacementOutline;                  ///< flat
+  NumberList m_pRoutingOutline;                    ///< flat
+  Owned<CStringArray> m_pPowerNetNames;            ///< without apostrophes
+  RecordList<CMGeomKeepout> m_pPlacementKeepouts;  ///< for components
   RecordList<CMGeomKeepout> m_pSpareKeepouts1;
   RecordList<CMGeomKeepout> m_pRoutingKeepouts;
   RecordList<CMGeomKeepout> m_pSpareKeepouts2;
   RecordList<CMGeomKeepout> m_pSpareKeepouts3;
   RecordList<CMGeomKeepout> m_pSpareKeepouts4;
-  RecordList<CMGeomMechanicalParts> m_pMechanicalParts;  ///< spare
-  RecordList<CMGeomPlacementRegion> m_pPlacementRegions;
+  RecordList<CMGeomMechanicalParts> m_pMechanicalParts;     ///< spare
+  RecordList<CMGeomPlacementRegion> m_pPlacementRegions;    ///< for components
   RecordList<CMGeomRoutingDirection> m_pRoutingDirections;  ///< spare
   RecordList<CMGeomDrill> m_pDrills;
   RecordList<CMGeomDrill> m_pUnplatedDrills;
@@ -58,20 +59,20 @@ class CMGeomComponent {
   RecordList<CMGeomAdd> m_pAdds;
   std::int64_t m_nUnset1 = 0;
   std::int64_t m_nUnset2 = 0;
-  double m_dHeight = 0.0;
-  NumberList m_pBodyOutline;  ///< flat
-  RecordList<CMGeomPlacementOutline> m_pPlacementOutlines;
+  double m_dHeight = 0.0;                                   ///< in its unit
+  NumberList m_pBodyOutline;                                ///< flat
+  RecordList<CMGeomPlacementOutline> m_pPlacementOutlines;  ///< a record per line
   Owned<CStringArray> m_pSpareStrings;
   CString m_sSpare;
-  CString m_sDefaultPadstack;
+  CString m_sDefaultPadstack;  ///< the name of a padstack
   std::int64_t m_nUnset3 = 0;
-  CString m_sLayoutSurface = "both";
-  CString m_sLayoutType;
-  int m_bOutlineOverhang = 0;
-  RecordList<CMGeomOverride> m_pPadstackOverrides;
+  CString m_sLayoutSurface = "both";                ///< as the file has it
+  CString m_sLayoutType;                            ///< as the file has it
+  int m_bOutlineOverhang = 0;                       ///< 1 when the file says yes, else 0
+  RecordList<CMGeomOverride> m_pPadstackOverrides;  ///< pins with a padstack of their own
   RecordList<CMGeomOverride> m_pSpareOverrides;
-  RecordList<CMGeomPinDef> m_pPinDefs;
-  CString m_sComponentType;
+  RecordList<CMGeomPinDef> m_pPinDefs;  ///< its pins
+  CString m_sComponentType;             ///< as the file has it
   RecordList<CMGeomDrill> m_pDrills;
   RecordList<CMGeomDrill> m_pUnplatedDrills;
   RecordList<CMGeomKeepout> m_pRoutingKeepouts;
@@ -99,6 +100,7 @@ class CMGeomGenericPart {
   RecordList<CMGeomAdd> m_pAdds;
 };
 
+/// A drawing.
 class CMGeomDrawing {
  public:
   Owned<CMGeomDrawObjArray> m_pDrawObjs;
@@ -118,7 +120,7 @@ class CMGeomPin {
   CString m_sUnits;
   std::int64_t m_nSpare1 = 0;
   std::int64_t m_nSpare2 = 0;
-  double m_dDrillSize = 0.0;
+  double m_dDrillSize = 0.0;  ///< of the hole, 0 when none is given
   RecordList<CMGeomText> m_pTexts;
   RecordList<CMGeomAdd> m_pAdds;
 };
@@ -131,7 +133,7 @@ class CMGeomVia {
   CString m_sUnits;
   std::int64_t m_nUnset1 = 0;
   std::int64_t m_nUnset2 = 0;
-  double m_dDrillSize = 0.0;
+  double m_dDrillSize = 0.0;  ///< of the hole, 0 when none is given
   Owned<CMGeomDrawObjArray> m_pDrawObjs;
   RecordList<CMGeomAdd> m_pAdds;
   RecordList<CMGeomText> m_pTexts;
@@ -163,7 +165,7 @@ class KESTRIN_EXPORT CMGeomLayerDEF {
   ~CMGeomLayerDEF();
 
   std::int64_t m_nUnset1 = 0;
-  Shared<CStringArray> m_pValues;
+  Shared<CStringArray> m_pValues;  ///< of its line, but for those in brackets
   std::int64_t m_nUnset2 = 0;
   std::int64_t m_nUnset3 = 0;
   std::int64_t m_nUnset4 = 0;
@@ -181,7 +183,7 @@ class KESTRIN_EXPORT CMGeomStackup {
 
   CString m_sName;
   CString m_sUnits;
-  SharedRecordList<CMGeomLayerDEF> m_pLayers;
+  SharedRecordList<CMGeomLayerDEF> m_pLayers;  ///< from the last create command on
 };
 
 /// The root of a Geometry file. Copies share everything; it goes with the last copy. Lists are in file order.
@@ -196,14 +198,14 @@ class KESTRIN_EXPORT CMGeom {
   void* m_pReserved2 = nullptr;
   void* m_pReserved3 = nullptr;
   void* m_pReserved4 = nullptr;
-  Shared<CMGeomBoard> m_pBoard;
-  SharedRecordList<CMGeomComponent> m_pComponents;
-  Shared<CMGeomStackup> m_pStackup;
-  SharedRecordList<CMGeomPin> m_pPins;
-  SharedRecordList<CMGeomVia> m_pVias;
-  SharedRecordList<CMGeomDrawing> m_pDrawings;
-  SharedRecordList<CMGeomGenericPart> m_pGenericParts;
-  SharedRecordList<CMGeomPanel> m_pPanels;
+  Shared<CMGeomBoard> m_pBoard;                         ///< the one board, there also when the file has none
+  SharedRecordList<CMGeomComponent> m_pComponents;      ///< the packages
+  Shared<CMGeomStackup> m_pStackup;                     ///< the one stack-up, likewise
+  SharedRecordList<CMGeomPin> m_pPins;                  ///< padstacks of pins
+  SharedRecordList<CMGeomVia> m_pVias;                  ///< padstacks of vias
+  SharedRecordList<CMGeomDrawing> m_pDrawings;          ///< the drawings
+  SharedRecordList<CMGeomGenericPart> m_pGenericParts;  ///< mounting holes, fiducials and the like
+  SharedRecordList<CMGeomPanel> m_pPanels;              ///< the panels
 };
 
 }  // namespace kestrin

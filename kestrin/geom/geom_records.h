@@ -14,26 +14,26 @@ namespace kestrin {
 /// A geometry placed on another; the members are the arguments of its line.
 class CMGeomAdd {
  public:
-  CString m_sArg0;
-  double m_dArg1 = 0.0;
-  double m_dArg2 = 0.0;
-  CString m_sArg3;
-  int m_nArg4 = 0;
-  int m_nArg5 = 0;
-  int m_nArg6 = 0;
+  CString m_sArg0;       ///< value 1 of its line
+  double m_dArg1 = 0.0;  ///< value 2
+  double m_dArg2 = 0.0;  ///< value 3
+  CString m_sArg3;       ///< value 4
+  int m_nArg4 = 0;       ///< value 5
+  int m_nArg5 = 0;       ///< value 6
+  int m_nArg6 = 0;       ///< value 7
 };
 
 /// An area that something has to keep out of.
 class CMGeomKeepout {
  public:
-  CString m_sName;
+  CString m_sName;       ///< value 2 of its line
   NumberList m_pCoords;  ///< flat
 };
 
 /// The room that a component or generic part takes.
 class CMGeomPlacementOutline {
  public:
-  CString m_sName;
+  CString m_sName;       ///< value 2 of its line
   NumberList m_pCoords;  ///< flat
 };
 
@@ -51,26 +51,32 @@ class CMGeomPlacementRegion {
 /// A drilled hole.
 class CMGeomDrill {
  public:
-  double m_dSize = 0.0;
+  double m_dSize = 0.0;  ///< of the hole
   double m_dUnset = 0.0;
+  ///@{
+  /// Where it stands.
   double m_dX = 0.0;
   double m_dY = 0.0;
+  ///@}
 };
 
 /// An exception from a component's default padstack; the members are the arguments of its line.
 class CMGeomOverride {
  public:
-  CString m_sArg1;
-  CString m_sArg2;
+  CString m_sArg1;  ///< value 2 of its line
+  CString m_sArg2;  ///< value 3
   std::int64_t m_nUnset = 0;
 };
 
 /// Where a pin of a component stands.
 class CMGeomPinDef {
  public:
-  CString m_sName;
+  CString m_sName;  ///< of the pin
+  ///@{
+  /// Where it stands on the component.
   double m_dX = 0.0;
   double m_dY = 0.0;
+  ///@}
 };
 
 /// Geometry files make none.

@@ -20,11 +20,15 @@ class KESTRIN_EXPORT CMGeomText {
   /// and its anchor change, the mirror flag does not.
   void Get_OrvaneTextStyleValue(int& mirror, double& angle, int& anchor) const;
 
-  CString m_sLayer;
-  CString m_sText;
+  CString m_sLayer;  ///< as the file names it
+  CString m_sText;   ///< what is to be read
+  ///@{
+  /// The position.
   double m_dX = 0.0;
   double m_dY = 0.0;
-  double m_dSize = 0.0;
+  ///@}
+
+  double m_dSize = 0.0;      ///< as the file has it
   CString m_sJustification;  ///< a code like "@CC"; what is no code stands for "@BL"
   double m_dAngle = 0.0;     ///< in degrees
   double m_dValue8 = 1.0;

@@ -12,6 +12,7 @@
 
 namespace kestrin {
 
+/// An array of numbers.
 using NumberArray = CArray<double, double>;
 
 /// A record's list of numbers: a pointer to CArray<double, double> for hosts.

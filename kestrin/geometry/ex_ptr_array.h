@@ -42,6 +42,7 @@ class CExPtrArray : public CArray<POINTER, POINTER> {
   [[nodiscard]] POINTER GetLastElement() const { return GetAt(GetLastIndex()); }
   /// -1 when empty.
   [[nodiscard]] std::int64_t GetLastIndex() const { return this->GetUpperBound(); }
+  /// Whether there is an element at the index.
   [[nodiscard]] bool IsValidIndex(const std::int32_t& index) const { return IsInside(index); }
 
   /// The first slot of this pointer, or -1.
@@ -49,6 +50,7 @@ class CExPtrArray : public CArray<POINTER, POINTER> {
     const auto* found = std::find(this->begin(), this->end(), element);
     return found == this->end() ? -1 : static_cast<std::int32_t>(found - this->begin());
   }
+  /// Whether the pointer stands in some slot.
   [[nodiscard]] bool Exists(POINTER element) const { return FindIndex(element) != -1; }
   /// The new index, or -1 when the pointer is in the array already.
   std::int64_t Add_if_only_do_not_exists(POINTER element) {
@@ -65,6 +67,7 @@ class CExPtrArray : public CArray<POINTER, POINTER> {
   POINTER RemoveLastElement();
   /// Removes one slot for every slot of the other array that holds the same pointer.
   void Subtract(const Base& other);
+  /// Turns the order of the slots round.
   void Reverse() { std::reverse(this->begin(), this->end()); }
   /// Moves the slots first to last to the end of the destination. False when last is below first; raises for
   /// indexes outside this array, and both arrays stay as they were.
@@ -74,7 +77,7 @@ class CExPtrArray : public CArray<POINTER, POINTER> {
   bool Delete(POINTER element);
   /// Deletes the records in a range and removes their slots. Raises once it has run beyond the end.
   void DeleteAt(std::int32_t index, std::int32_t count = 1);
-  /// False when empty.
+  /// Deletes the last record and removes its slot; false when empty.
   bool DeleteLastElement();
   /// Deletes every record, in order, and releases the memory.
   void DeleteAll();

@@ -23,6 +23,7 @@ class Owning : public ARRAY {
   Owning& operator=(const Owning&) = delete;
   ~Owning() override { DeleteRecords(); }
 
+  /// Deletes every record and empties the list.
   void DeleteRecords() {
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the one place that owns records
     for (auto* record : *this) delete record;
@@ -54,9 +55,12 @@ class Owned {
   Owned(const Owned&) = delete;
   Owned& operator=(const Owned&) = delete;
 
+  ///@{
+  /// The object; it stays the holder's.
   T* operator->() const noexcept { return &object_; }
   T& operator*() const noexcept { return object_; }
   operator T*() const noexcept { return &object_; }
+  ///@}
 
  private:
   mutable T object_;  // a pointer member's target can be changed through a const record, so can this
@@ -68,8 +72,10 @@ template <class T>
 class Shared {
  public:
   Shared() = default;
+  /// Holds nothing.
   Shared(std::nullptr_t) {}
 
+  /// Holds a new object, made from the arguments.
   template <class... Arguments>
   [[nodiscard]] static Shared Make(Arguments&&... arguments) {
     Shared made;
@@ -77,9 +83,12 @@ class Shared {
     return made;
   }
 
+  ///@{
+  /// The object, null when nothing is held; it stays the holders'.
   T* operator->() const noexcept { return object_.get(); }
   T& operator*() const noexcept { return *object_; }
   operator T*() const noexcept { return object_.get(); }
+  ///@}
 
  private:
   std::shared_ptr<T> object_;

@@ -13,18 +13,31 @@ namespace kestrin {
 /// A point in the plane.
 class KESTRIN_EXPORT CPointD {
  public:
+  ///@{
+  /// A coordinate.
   double x = 0.0;
   double y = 0.0;
+  ///@}
 
   CPointD() = default;
+  /// The point with these coordinates.
   CPointD(double newX, double newY) : x(newX), y(newY) {}
 
+  ///@{
+  /// A coordinate; the references are valid as long as the point.
   [[nodiscard]] double& GetX() { return x; }
   [[nodiscard]] double& GetY() { return y; }
   [[nodiscard]] double GetX() const { return x; }
   [[nodiscard]] double GetY() const { return y; }
+  ///@}
+
+  ///@{
+  /// Sets a coordinate.
   void SetX(const double& newX) { x = newX; }
   void SetY(const double& newY) { y = newY; }
+  ///@}
+
+  /// Sets both coordinates.
   void SetData(const double& newX, const double& newY) {
     x = newX;
     y = newY;
@@ -34,32 +47,49 @@ class KESTRIN_EXPORT CPointD {
 /// A point in space.
 class KESTRIN_EXPORT CPoint3D {
  public:
+  ///@{
+  /// A coordinate.
   double x = 0.0;
   double y = 0.0;
   double z = 0.0;
+  ///@}
 
   CPoint3D() = default;
+  /// The point with these coordinates.
   CPoint3D(double newX, double newY, double newZ) : x(newX), y(newY), z(newZ) {}
   CPoint3D(const CPoint3D&) = default;
   CPoint3D& operator=(const CPoint3D&) = default;
   virtual ~CPoint3D();
 
-  /// 1 for the same object and for coordinates that are equal as doubles, else 0.
+  ///@{
+  /// Equal is the same object, and are coordinates that are equal as doubles; 1 for true, 0 for false.
   virtual int operator==(const CPoint3D& other) const;
   virtual int operator!=(const CPoint3D& other) const;
+  ///@}
+
   /// A new point, which the caller owns.
   [[nodiscard]] virtual CPoint3D* clone() const;
 
+  ///@{
+  /// A coordinate; the references are valid as long as the point.
   [[nodiscard]] double& GetX() { return x; }
   [[nodiscard]] double& GetY() { return y; }
   [[nodiscard]] double& GetZ() { return z; }
   [[nodiscard]] double GetX() const { return x; }
   [[nodiscard]] double GetY() const { return y; }
   [[nodiscard]] double GetZ() const { return z; }
+  ///@}
+
+  ///@{
+  /// Sets a coordinate.
   void SetX(const double& newX) { x = newX; }
   void SetY(const double& newY) { y = newY; }
   void SetZ(const double& newZ) { z = newZ; }
+  ///@}
+
+  /// Sets all coordinates.
   void SetData(const double& newX, const double& newY, const double& newZ);
+  /// Gives all coordinates.
   void GetData(double& outX, double& outY, double& outZ) const;
 };
 
@@ -98,9 +128,12 @@ class KESTRIN_EXPORT CArrayPoint3D : public CExPtrArray<CPoint3D*> {
   CArrayPoint3D(const CArrayPoint3D& source);
   CArrayPoint3D& operator=(const CArrayPoint3D&) = delete;
 
-  /// 1 for the same array and for equal points in the same order, else 0.
+  ///@{
+  /// Equal is the same array, and are equal points in the same order; 1 for true, 0 for false.
   virtual int operator==(const CArrayPoint3D& other) const;
   virtual int operator!=(const CArrayPoint3D& other) const;
+  ///@}
+
   /// A new array with copies of the points, which the caller owns.
   [[nodiscard]] virtual CArrayPoint3D* clone() const;
 };

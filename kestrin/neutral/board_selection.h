@@ -12,7 +12,7 @@ struct BoardSelection {
   int ordinal = 1;              ///< of the sections that are read, from 1
   std::int64_t placement = -1;  ///< the index of the placement on the panel that chose them, -1 when none did
   int netsSections = 0;         ///< how many there are in what was read of the file
-  int componentSections = 0;
+  int componentSections = 0;    ///< likewise
 };
 
 }  // namespace kestrin

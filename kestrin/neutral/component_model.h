@@ -26,7 +26,7 @@ struct KESTRIN_EXPORT tagMCOMPDATA {
 
 /// A property of a component.
 struct KESTRIN_EXPORT tagMCOMPCOMMENT {
-  CString m_sName;
+  CString m_sName;   ///< the text before its first comma
   CString m_sValue;  ///< without its enclosing double quotes
 };
 
@@ -48,8 +48,8 @@ class KESTRIN_EXPORT CMCompsRefLoc {
 /// A component.
 class KESTRIN_EXPORT CMCompsInfo {
  public:
-  CString m_sExtra1;  ///< not filled
-  tagMCOMPDATA m_Data;
+  CString m_sExtra1;                        ///< not filled
+  tagMCOMPDATA m_Data;                      ///< the values of its line
   CString m_sRefLocFirst;                   ///< the first value of its last REFLOC property with values
   RecordList<CMCompsRefLoc> m_pRefLocs;     ///< the groups of its REFLOC properties
   CString m_sExtra2;                        ///< not filled
@@ -65,8 +65,8 @@ class KESTRIN_EXPORT CMCompsPanel {
   CMCompsPanel& operator=(const CMCompsPanel&) = default;
   virtual ~CMCompsPanel();
 
-  CString m_sBoardName;
-  int m_nValue6 = 0;  ///< tells whether the placement can select its board's sections
+  CString m_sBoardName;  ///< value 2 of its line
+  int m_nValue6 = 0;     ///< tells whether the placement can select its board's sections
   int m_nValue7 = 0;
   int m_nValue8 = 0;
   double m_dValue4 = 0.0;

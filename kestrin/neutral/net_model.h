@@ -19,15 +19,15 @@ class KESTRIN_EXPORT CMRefPin {
 /// A net property.
 class KESTRIN_EXPORT CMNetProperty {
  public:
-  CString m_sName;
-  CString m_sValue;
+  CString m_sName;   ///< not filled
+  CString m_sValue;  ///< not filled
 };
 
 /// A net.
 class KESTRIN_EXPORT CMNetInfo {
  public:
-  CString m_sName;  ///< without apostrophes and trailing white space
-  RecordList<CMRefPin> m_pPins;
+  CString m_sName;                          ///< without apostrophes and trailing white space
+  RecordList<CMRefPin> m_pPins;             ///< in file order
   RecordList<CMNetProperty> m_pProperties;  ///< always empty
 };
 

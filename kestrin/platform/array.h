@@ -27,10 +27,13 @@ class CArray : public CObject {
   CArray() = default;
   ~CArray() override { Release(); }
 
+  /// The number of elements.
   [[nodiscard]] std::int64_t GetSize() const noexcept { return m_nSize; }
+  /// The same.
   [[nodiscard]] std::int64_t GetCount() const noexcept { return m_nSize; }
   /// Size less one: -1 when empty.
   [[nodiscard]] std::int64_t GetUpperBound() const noexcept { return m_nSize - 1; }
+  /// Whether there are no elements.
   [[nodiscard]] bool IsEmpty() const noexcept { return m_nSize == 0; }
 
   /// Sets the number of elements; new ones are zero (null, empty). A growBy of 0 or more becomes the growth
@@ -38,18 +41,23 @@ class CArray : public CObject {
   void SetSize(std::int64_t newSize, std::int64_t growBy = -1);
   /// Shrinks the memory to the elements.
   void FreeExtra();
+  /// Removes every element and releases the memory.
   void RemoveAll() { SetSize(0); }
 
   /// The elements in a row, null when there is no memory; valid until the array grows or shrinks.
   [[nodiscard]] TYPE* GetData() noexcept { return m_pData; }
+  /// The same, to read.
   [[nodiscard]] const TYPE* GetData() const noexcept { return m_pData; }
 
+  /// The element at an index, valid until the array grows or shrinks.
   [[nodiscard]] TYPE& ElementAt(std::int64_t index) { return m_pData[Checked(index)]; }
+  /// The same, to read.
   [[nodiscard]] const TYPE& ElementAt(std::int64_t index) const { return m_pData[Checked(index)]; }
-  [[nodiscard]] TYPE& GetAt(std::int64_t index) { return ElementAt(index); }
-  [[nodiscard]] const TYPE& GetAt(std::int64_t index) const { return ElementAt(index); }
-  [[nodiscard]] TYPE& operator[](std::int64_t index) { return ElementAt(index); }
-  [[nodiscard]] const TYPE& operator[](std::int64_t index) const { return ElementAt(index); }
+  [[nodiscard]] TYPE& GetAt(std::int64_t index) { return ElementAt(index); }                   ///< the same
+  [[nodiscard]] const TYPE& GetAt(std::int64_t index) const { return ElementAt(index); }       ///< the same
+  [[nodiscard]] TYPE& operator[](std::int64_t index) { return ElementAt(index); }              ///< the same
+  [[nodiscard]] const TYPE& operator[](std::int64_t index) const { return ElementAt(index); }  ///< the same
+  /// Replaces the element at an index.
   void SetAt(std::int64_t index, ARG_TYPE element) { ElementAt(index) = element; }
 
   /// Stores an element, growing the array to its index when needed; a negative index raises.
@@ -68,21 +76,21 @@ class CArray : public CObject {
   /// Removes a range that lies inside the array.
   void RemoveAt(std::int64_t index, std::int64_t count = 1);
 
-  // For range-based loops.
+  /// For range-based loops.
   [[nodiscard]] TYPE* begin() noexcept { return m_pData; }
-  [[nodiscard]] TYPE* end() noexcept { return m_pData + m_nSize; }
-  [[nodiscard]] const TYPE* begin() const noexcept { return m_pData; }
-  [[nodiscard]] const TYPE* end() const noexcept { return m_pData + m_nSize; }
+  [[nodiscard]] TYPE* end() noexcept { return m_pData + m_nSize; }              ///< likewise
+  [[nodiscard]] const TYPE* begin() const noexcept { return m_pData; }          ///< likewise
+  [[nodiscard]] const TYPE* end() const noexcept { return m_pData + m_nSize; }  ///< likewise
 
  protected:
   /// Appends an element made from the arguments; returns its index.
   template <class... Arguments>
   std::int64_t Emplace(Arguments&&... arguments);
 
-  TYPE* m_pData = nullptr;
-  std::int64_t m_nSize = 0;
-  std::int64_t m_nMaxSize = 0;  // capacity; the memory behind it may be larger, see AllocatedSlots
-  std::int64_t m_nGrowBy = 0;
+  TYPE* m_pData = nullptr;      ///< the elements, null without memory
+  std::int64_t m_nSize = 0;     ///< how many there are
+  std::int64_t m_nMaxSize = 0;  ///< capacity; the memory behind it may be larger, see AllocatedSlots
+  std::int64_t m_nGrowBy = 0;   ///< the growth step, 0 for a computed one
 
  private:
   [[nodiscard]] std::int64_t Checked(std::int64_t index) const {

@@ -17,6 +17,7 @@ class KESTRIN_EXPORT CException : public std::exception {
   [[nodiscard]] const char* what() const noexcept override { return text_; }
 
  protected:
+  /// The text must live as long as the program.
   explicit CException(const char* text) noexcept : text_(text) {}
   CException(const CException&) = default;
   CException& operator=(const CException&) = default;

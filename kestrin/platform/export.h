@@ -11,5 +11,6 @@
 #define KESTRIN_EXPORT
 #endif
 #else
+/// Stands before the name of whatever hosts may use.
 #define KESTRIN_EXPORT [[gnu::visibility("default")]]
 #endif

@@ -15,9 +15,11 @@
 
 namespace kestrin {
 
+///@{
 /// The growth step of an array without one of its own.
 inline constexpr std::int64_t kSmallestStep = 4;
 inline constexpr std::int64_t kGreatestStep = 1024;
+///@}
 
 /// How many slots are really allocated behind a capacity. An array's capacity grows in steps of at least 4
 /// and at most 1,024 slots; moving the slots at every such step would cost a small array many allocations and

@@ -25,6 +25,7 @@ class KESTRIN_EXPORT CStdioFile {
   /// Opens a file for reading; zero when it cannot be opened, as a folder cannot. The flags are the
   /// framework's; reading text, 0, is all there is.
   [[nodiscard]] int Open(const char* path, unsigned flags = 0);
+  /// Closes the file, if one is open; so does the destructor.
   void Close();
 
   /// The next line; false at the end of the file. Raises CFileException on a read error.

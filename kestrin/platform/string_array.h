@@ -16,9 +16,12 @@ namespace kestrin {
 class CStringArray : public CArray<CString, const CString&> {
  public:
   using CArray::Add;
+  ///@{
+  /// Appends a copy of the text; returns its index.
   std::int64_t Add(std::string_view text) { return Emplace(text); }
   std::int64_t Add(const char* text) { return Emplace(text); }
   std::int64_t Add(const std::string& text) { return Emplace(text); }
+  ///@}
 };
 
 }  // namespace kestrin

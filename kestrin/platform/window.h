@@ -11,14 +11,16 @@
 namespace kestrin {
 
 /// A window. It belongs to the thread that made it, which alone uses it; any thread may post messages to it.
+/// Messages that still wait when it goes then go nowhere.
 class KESTRIN_EXPORT CWnd : public CObject {
  public:
+  /// A window of the calling thread; the parent is asked for its handle only.
   explicit CWnd(const CWnd* parent = nullptr);
-  /// Messages that still wait for the window then go nowhere.
   ~CWnd() override;
 
   /// The window object of a handle; null for a null handle and for a window that is gone.
   [[nodiscard]] static CWnd* FromHandle(HWND handle);
+  /// The handle, never null as long as the window lives.
   [[nodiscard]] HWND GetSafeHwnd() const { return m_hWnd; }
 
   /// Exchanges data between a dialog and its controls: FALSE refreshes the controls. The base does nothing.

@@ -7,14 +7,20 @@
 
 namespace kestrin {
 
+///@{
+/// A number of the windowing system.
 using BOOL = int;
 using UINT = unsigned;
 using WPARAM = std::uintptr_t;
 using LPARAM = std::intptr_t;
 using LRESULT = std::intptr_t;
+///@}
 
+///@{
+/// What a BOOL is: 0, or not 0.
 inline constexpr BOOL FALSE = 0;
 inline constexpr BOOL TRUE = 1;
+///@}
 
 class WindowHandle;
 /// Names a window. A handle is never used twice; one whose window is gone names nothing.
@@ -22,22 +28,33 @@ using HWND = WindowHandle*;
 
 /// A message that waits in, or was taken from, a thread's queue.
 struct MSG {
-  HWND hwnd;
-  UINT message;
+  HWND hwnd;     ///< the window that it is for
+  UINT message;  ///< its number
+  ///@{
+  /// What the number gives a meaning to.
   WPARAM wParam;
   LPARAM lParam;
+  ///@}
 };
 
+///@{
+/// Whether PeekMessageA leaves the message in the queue or takes it out.
 inline constexpr UINT PM_NOREMOVE = 0;
 inline constexpr UINT PM_REMOVE = 1;
+///@}
 
 /// The first message number that is free for applications.
 inline constexpr UINT WM_USER = 0x400;
 /// Moves a progress bar to the position in wParam.
 inline constexpr UINT PBM_SETPOS = WM_USER + 2;
 
+///@{
+/// The style of a message box: with one button, with the sign of a warning.
 inline constexpr UINT MB_OK = 0x00;
 inline constexpr UINT MB_ICONWARNING = 0x30;
+///@}
+
+/// The number of the button of a box that has but one.
 inline constexpr int IDOK = 1;
 
 }  // namespace kestrin

@@ -18,6 +18,7 @@ namespace kestrin {
 
 /// The files of an export set, in the order in which they are read.
 enum class ImportFile : std::uint8_t { kTech, kNeutral, kGeometry, kTraces };
+/// How many they are.
 inline constexpr std::size_t kImportFileCount = 4;
 
 /// How far the reading of a file came.
@@ -37,7 +38,7 @@ struct SkippedLine {
 
 /// The skipped lines of one code: all are counted, the first are kept.
 struct SkippedLines {
-  std::int64_t count = 0;
+  std::int64_t count = 0;          ///< of all of them
   std::vector<SkippedLine> first;  ///< up to FileReport::kKeptLines, in file order
 };
 
@@ -45,15 +46,21 @@ struct SkippedLines {
 /// which an exception stopped the reading is none of these.
 class FileReport {
  public:
-  static constexpr std::size_t kKeptLines = 100;
-  static constexpr std::size_t kKeptBytes = 200;
+  static constexpr std::size_t kKeptLines = 100;  ///< lines kept of each skip code
+  static constexpr std::size_t kKeptBytes = 200;  ///< bytes kept of a line
 
   FileReport() = default;
+  /// The report of a reading that begins.
   explicit FileReport(std::string_view filePath) : path(filePath) {}
 
+  ///@{
+  /// How many lines were imported, ignored, skipped.
   [[nodiscard]] std::int64_t Imported() const { return CountOf(LineOutcome::Kind::kImported); }
   [[nodiscard]] std::int64_t Ignored() const { return CountOf(LineOutcome::Kind::kIgnored); }
   [[nodiscard]] std::int64_t Skipped() const { return CountOf(LineOutcome::Kind::kSkipped); }
+  ///@}
+
+  /// The lines that were skipped with a code; valid until the file is read again.
   [[nodiscard]] const SkippedLines& Skipped(SkipCode code) const {
     return skipped_[static_cast<std::size_t>(code)];
   }
@@ -64,10 +71,10 @@ class FileReport {
     if (outcome.GetKind() == LineOutcome::Kind::kSkipped) KeepSkipped(outcome, line);
   }
 
-  std::string path;
-  ReadingEnd end = ReadingEnd::kNotRead;
-  std::int64_t linesRead = 0;
-  std::chrono::nanoseconds duration{};  ///< of the whole reading, progress and messages included
+  std::string path;                       ///< as it was given
+  ReadingEnd end = ReadingEnd::kNotRead;  ///< how far the reading came
+  std::int64_t linesRead = 0;             ///< the number of the last line read
+  std::chrono::nanoseconds duration{};    ///< of the whole reading, progress and messages included
 
  private:
   [[nodiscard]] std::int64_t CountOf(LineOutcome::Kind kind) const {
@@ -82,8 +89,11 @@ class FileReport {
 /// The reports of a session's files; each reading of a file replaces the report of the one before.
 class ImportReport {
  public:
+  ///@{
+  /// The report of a file; it lives as long as this report.
   [[nodiscard]] const FileReport& Of(ImportFile file) const { return files_[static_cast<std::size_t>(file)]; }
   [[nodiscard]] FileReport& Of(ImportFile file) { return files_[static_cast<std::size_t>(file)]; }
+  ///@}
 
   /// Which of the boards of the Neutral file was imported.
   BoardSelection boardSelection;

@@ -39,10 +39,13 @@ class KESTRIN_EXPORT CPC_KESTRIN_GET {
   CPC_KESTRIN_GET& operator=(const CPC_KESTRIN_GET&);
   virtual ~CPC_KESTRIN_GET();
 
+  ///@{
+  /// Set the path of a file for vParse.
   void vSetTechFilePath(CString path);
   void vSetNeutralFilePath(CString path);
   void vSetGeomFilePath(CString path);
   void vSetTraceFilePath(CString path);
+  ///@}
 
   /// The bars stay the host's and must outlive vParse, as the status window must; only the bar and the dialog
   /// of the file that is being read may go under way. Any may be null. The parent of a bar is what is
@@ -54,18 +57,22 @@ class KESTRIN_EXPORT CPC_KESTRIN_GET {
   /// it shows a warning box for the first that is missing and reads nothing; the Tech path is optional.
   void vParse();
 
+  ///@{
   /// Read one file each, replacing its roots; vParse calls them.
   void TechFileParse(CString path);
   void NeutralFileParse(CString path);
   void GeomFileParse(CString path);
   void TraceFileParse(CString path);
+  ///@}
 
+  ///@{
   /// The roots, null before their file was first read. They stay the session's.
   [[nodiscard]] CMTech* GetTech() const;
   [[nodiscard]] CMComps* GetComps() const;
   [[nodiscard]] CMNetList* GetNetList() const;
   [[nodiscard]] CMGeom* GetGeom() const;
   [[nodiscard]] CMTraces* GetTraces() const;
+  ///@}
 
   /// What became of the lines of the files that were read.
   [[nodiscard]] const ImportReport& GetReport() const { return report_; }
@@ -76,30 +83,45 @@ class KESTRIN_EXPORT CPC_KESTRIN_GET {
   /// One more than the line feeds in the file; 1 when it cannot be opened.
   [[nodiscard]] int nGetFileLineCount(CString path) const;
 
+  ///@{
   /// Cut a line into fields, which are appended to the array. Commas between double quotes do not separate,
   /// nor do spaces between apostrophes; quotes stay in the fields, and no field is empty. The scan begins
   /// behind the start index, -1 for the whole line; a start index below -1 raises CInvalidArgException.
   void SeparateLineBasedonComma(CString line, CStringArray& fields) const;
   void SeparateLineBasedonSpace(CString line, int start, CStringArray& fields) const;
+  ///@}
+
   /// Groups in parentheses, without the spaces outside double quotes. Text that a closing parenthesis ends is
   /// dropped unless it begins with an opening one; text behind the last group is a field.
   void SeparateLineForCompProperty(CString line, int start, CStringArray& fields) const;
 
   CWnd* m_pStatusWnd = nullptr;  ///< the host's; its text says which file is being read
+  ///@{
+  /// A root, null before its file was first read.
   Shared<CMGeom> m_pGeom;
   Shared<CMComps> m_pComps;
   Shared<CMNetList> m_pNetList;
   Shared<CMTraces> m_pTraces;
   Shared<CMTech> m_pTech;
+  ///@}
+
+  ///@{
+  /// A progress bar of the host, or null.
   CProgressCtrl* m_pGeomProgress = nullptr;
   CProgressCtrl* m_pNeutralProgress = nullptr;
   CProgressCtrl* m_pTraceProgress = nullptr;
   CProgressCtrl* m_pTechProgress = nullptr;
+  ///@}
+
+  ///@{
+  /// A path for vParse.
   CString m_sGeomFilePath;
   CString m_sNeutralFilePath;
   CString m_sTraceFilePath;
   CString m_sTechFilePath;
-  CString m_sErrorMsg;
+  ///@}
+
+  CString m_sErrorMsg;  ///< always empty
 
  private:
   [[nodiscard]] bool HasMandatoryPaths() const;

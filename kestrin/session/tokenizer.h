@@ -16,6 +16,7 @@ namespace kestrin {
 class KESTRIN_EXPORT CTokenizer {
  public:
   CTokenizer() = default;
+  /// Cuts copies of both, from the start of the string on.
   CTokenizer(const CString& string, const CString& delimiters);
   CTokenizer(const CTokenizer&) = default;  // to move a tokenizer is to copy it
   CTokenizer& operator=(const CTokenizer&) = default;
@@ -42,7 +43,7 @@ class KESTRIN_EXPORT CTokenizer {
   /// that is never closed is dropped. Uses nothing of the tokenizer.
   void GetStringArrayFromStringToken(CString& string, CStringArray& entries);
 
-  CString m_sString;
+  CString m_sString;              ///< what is cut
   std::bitset<256> m_Delimiters;  ///< by unsigned character code
   int m_nCurPos = 0;              ///< the next character to look at
 

@@ -29,8 +29,8 @@ class KESTRIN_EXPORT CMTechStackUpOrder {
   virtual ~CMTechStackUpOrder();
 
   CStringArray m_arrLogicalLayerNames;  ///< logical layers on this physical layer, in file order
-  CString m_sPhysicalLayerName;
-  int m_nPhysicalLayerNumber = 0;
+  CString m_sPhysicalLayerName;         ///< argument 2
+  int m_nPhysicalLayerNumber = 0;       ///< argument 1
 };
 
 /// One via rule: the first, second and last argument of its line in the file.
@@ -41,13 +41,16 @@ class KESTRIN_EXPORT CMTechVia {
   CMTechVia& operator=(const CMTechVia&) = default;
   virtual ~CMTechVia();
 
-  CString m_sArg2;
+  CString m_sArg2;     ///< argument 2
   CString m_sArgLast;  ///< empty when the rule has fewer than three arguments
-  CString m_sArg1;
+  CString m_sArg1;     ///< argument 1
 };
 
+/// Tech pins; a root's array deletes them with itself.
 class KESTRIN_EXPORT CMTechPinArray : public CExPtrArray<CMTechPin*> {};
+/// Physical layers; a root's array deletes them with itself.
 class KESTRIN_EXPORT CMTechStackupArray : public CExPtrArray<CMTechStackUpOrder*> {};
+/// Via rules; a root's array deletes them with itself.
 class KESTRIN_EXPORT CMTechViaArray : public CExPtrArray<CMTechVia*> {};
 
 /// The root of a Tech file. Copies share the arrays; arrays and records go with the last copy. The pointers

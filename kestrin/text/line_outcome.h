@@ -27,8 +27,8 @@ enum class SkipCode : std::uint8_t {
 
 /// A skip code as users see it.
 struct SkipCodeText {
-  std::string_view name;
-  std::string_view text;
+  std::string_view name;  ///< short and stable, for scripts: "unknown-record"
+  std::string_view text;  ///< the reason in a sentence
 };
 
 /// The catalogue of skip codes, a row each in the order of SkipCode.
@@ -45,6 +45,7 @@ inline constexpr std::array kSkipCodes{
 };
 static_assert(kSkipCodes.size() == static_cast<std::size_t>(SkipCode::kCount));
 
+/// The row of a code in the catalogue.
 [[nodiscard]] constexpr const SkipCodeText& TextOf(SkipCode code) {
   return kSkipCodes[static_cast<std::size_t>(code)];
 }
@@ -52,18 +53,24 @@ static_assert(kSkipCodes.size() == static_cast<std::size_t>(SkipCode::kCount));
 /// What a kind of record asks of its lines, as users read it: "N_PIN" takes "at least 5 values", or needs "a
 /// NET before it". Stands as a constant beside the reader's table.
 struct RecordRule {
-  std::string_view record;
-  std::string_view demand;
+  std::string_view record;  ///< the name of the record
+  std::string_view demand;  ///< what it takes or needs
 };
 
 /// The answer of a reader to one line: imported, ignored (it carries nothing: blank, a comment, outside what
 /// was asked for) or skipped for a reason. Small enough to be returned in registers.
 class LineOutcome {
  public:
+  /// What became of the line.
   enum class Kind : std::uint8_t { kImported, kIgnored, kSkipped };
 
+  ///@{
+  /// The outcome of a line that was not skipped.
   [[nodiscard]] static constexpr LineOutcome Imported() { return {Kind::kImported, SkipCode{}, -1, nullptr}; }
   [[nodiscard]] static constexpr LineOutcome Ignored() { return {Kind::kIgnored, SkipCode{}, -1, nullptr}; }
+  ///@}
+
+  /// The line is skipped for the reason that the code says.
   [[nodiscard]] static constexpr LineOutcome Skipped(SkipCode code) {
     return {Kind::kSkipped, code, -1, nullptr};
   }
@@ -77,6 +84,7 @@ class LineOutcome {
             static_cast<std::int32_t>(std::min<std::size_t>(valueCount, INT32_MAX)), &rule};
   }
 
+  /// Whether the line was imported, ignored or skipped.
   [[nodiscard]] constexpr Kind GetKind() const { return kind_; }
   /// Meaningful for a skipped line only.
   [[nodiscard]] constexpr SkipCode Code() const { return code_; }

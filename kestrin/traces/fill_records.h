@@ -14,8 +14,8 @@ namespace kestrin {
 /// A VER line: a vertex of the fill, area or island before it.
 class KESTRIN_EXPORT CMTracesVER {
  public:
-  double m_dX = 0.0;
-  double m_dY = 0.0;
+  double m_dX = 0.0;  ///< value 1
+  double m_dY = 0.0;  ///< value 2
 };
 
 /// A TTI line, in its short form (3 values) or its long form (7 values).
@@ -41,12 +41,12 @@ class KESTRIN_EXPORT CMTracesArea {
   int m_nValue4 = 0;
   double m_dValue5 = 0.0;
   int m_nValue6 = 0;
-  int m_nLastValue = 0;     ///< value 8 of 8, value 13 of 13
-  int m_nValue8 = 0;        ///< 13 values
-  int m_nValue9 = 0;        ///< 13 values
-  double m_dValue10 = 0.0;  ///< 13 values
-  double m_dValue11 = 0.0;  ///< 13 values
-  RecordList<CMTracesVER> m_pVerArray;
+  int m_nLastValue = 0;                 ///< value 8 of 8, value 13 of 13
+  int m_nValue8 = 0;                    ///< 13 values
+  int m_nValue9 = 0;                    ///< 13 values
+  double m_dValue10 = 0.0;              ///< 13 values
+  double m_dValue11 = 0.0;              ///< 13 values
+  RecordList<CMTracesVER> m_pVerArray;  ///< the vertices of the area
   RecordList<CMTracesTTI> m_pTtiArray;  ///< always empty: TTI lines belong to the fill
 };
 
@@ -60,7 +60,7 @@ class KESTRIN_EXPORT CMTracesARS : public CMTracesArea {};
 class KESTRIN_EXPORT CMTracesISL {
  public:
   int m_nValue1 = 0;
-  RecordList<CMTracesVER> m_pVerArray;
+  RecordList<CMTracesVER> m_pVerArray;  ///< the vertices of the island
 };
 
 /// An ISS line: an island of a fill, kept apart from its ISL lines.
@@ -72,7 +72,7 @@ class KESTRIN_EXPORT CMTracesISS {
   virtual ~CMTracesISS();
 
   int m_nValue1 = 0;
-  RecordList<CMTracesVER> m_pVerArray;
+  RecordList<CMTracesVER> m_pVerArray;  ///< the vertices of the island
 };
 
 /// A FIL line, in its short form (16 values) or its long form (21 values), or a fill that stands for areas
@@ -99,11 +99,11 @@ class KESTRIN_EXPORT CMTracesFIL {
   double m_dExt3 = 0.0;                 ///< long form: value 16
   double m_dExt4 = 0.0;                 ///< long form: value 17
   RecordList<CMTracesVER> m_pVerArray;  ///< the fill's own vertices
-  RecordList<CMTracesARE> m_pAreArray;
-  RecordList<CMTracesARS> m_pArsArray;
-  RecordList<CMTracesISL> m_pIslArray;
-  RecordList<CMTracesISS> m_pIssArray;
-  RecordList<CMTracesTTI> m_pTtiArray;
+  RecordList<CMTracesARE> m_pAreArray;  ///< its ARE lines
+  RecordList<CMTracesARS> m_pArsArray;  ///< its ARS lines
+  RecordList<CMTracesISL> m_pIslArray;  ///< its ISL lines
+  RecordList<CMTracesISS> m_pIssArray;  ///< its ISS lines
+  RecordList<CMTracesTTI> m_pTtiArray;  ///< its TTI lines
 };
 
 }  // namespace kestrin

@@ -29,7 +29,7 @@ class KESTRIN_EXPORT CMTracesWIRANT {
   double m_dValue3 = 0.0;
   double m_dValue4 = 0.0;
   double m_dValue5 = 0.0;
-  RecordList<CMTracesSEG> m_pSegArray;
+  RecordList<CMTracesSEG> m_pSegArray;  ///< its SEG lines
 };
 
 /// An INC line (an incomplete connection), or an ANT line with seven values.
@@ -41,8 +41,8 @@ class KESTRIN_EXPORT CMTracesINCANT {
   int m_nValue4 = 0;
   double m_dValue5 = 0.0;
   double m_dValue6 = 0.0;
-  int m_nValue7 = 0;  ///< truncated toward zero when it is written with a fraction
-  RecordList<CMTracesSEG> m_pSegArray;
+  int m_nValue7 = 0;                    ///< truncated toward zero when it is written with a fraction
+  RecordList<CMTracesSEG> m_pSegArray;  ///< its SEG lines
 };
 
 /// A GUI or a CHG line.
@@ -60,13 +60,13 @@ class KESTRIN_EXPORT CMTracesGUICHG {
 /// their own.
 class KESTRIN_EXPORT CMTracesNET {
  public:
-  CString m_sName;  ///< without its quotes
-  RecordList<CMTracesWIRANT> m_pWirArray;
-  RecordList<CMTracesINCANT> m_pIncArray;
+  CString m_sName;                            ///< without its quotes
+  RecordList<CMTracesWIRANT> m_pWirArray;     ///< WIR lines
+  RecordList<CMTracesINCANT> m_pIncArray;     ///< INC lines
   RecordList<CMTracesWIRANT> m_pAntWirArray;  ///< ANT lines with five values
   RecordList<CMTracesINCANT> m_pAntIncArray;  ///< ANT lines with seven values
-  RecordList<CMTracesGUICHG> m_pGuiArray;
-  RecordList<CMTracesGUICHG> m_pChgArray;
+  RecordList<CMTracesGUICHG> m_pGuiArray;     ///< GUI lines
+  RecordList<CMTracesGUICHG> m_pChgArray;     ///< CHG lines
 };
 
 }  // namespace kestrin

@@ -50,25 +50,32 @@ class KESTRIN_EXPORT CMTraces {
   std::int64_t m_nReserved = 0;  ///< means nothing
   CString m_sUnits;              ///< the unit that the file names last
 
-  double m_dStValue1 = 0.0;  ///< of the last ST line with four values
+  ///@{
+  /// A value of the last ST line with four values.
+  double m_dStValue1 = 0.0;
   double m_dStValue2 = 0.0;
   int m_nStValue3 = 0;
   int m_nStValue4 = 0;
+  ///@}
 
-  int m_nStLongValue1 = 0;  ///< of the last ST line with six or eight values
+  ///@{
+  /// A value of the last ST line with six or eight values.
+  int m_nStLongValue1 = 0;
   int m_nStLongValue2 = 0;
   int m_nStLongValue3 = 0;
   int m_nStLongValue4 = 0;
   int m_nStLongValue5 = 0;
   int m_nStLongValue6 = 0;
+  ///@}
+
   int m_nStLongValue7 = 0;  ///< -1 once such a line was read
   int m_nStLongValue8 = 0;  ///< -1 once such a line was read
 
-  RecordList<CMTracesXRF> m_pXrfArray;
-  RecordList<CMTracesTET> m_pTetArray;
-  RecordList<CMTracesTTT> m_pTttArray;
-  RecordList<CMTracesNET> m_pNetArray;
-  RecordList<CMTracesFIL> m_pFilArray;
+  RecordList<CMTracesXRF> m_pXrfArray;  ///< XRF lines
+  RecordList<CMTracesTET> m_pTetArray;  ///< TET lines
+  RecordList<CMTracesTTT> m_pTttArray;  ///< TTT lines
+  RecordList<CMTracesNET> m_pNetArray;  ///< net headers, with what belongs to them
+  RecordList<CMTracesFIL> m_pFilArray;  ///< fills, with what belongs to them
 };
 
 }  // namespace kestrin
