@@ -6,6 +6,8 @@ cd "$(dirname "$0")"
 
 scripts/install-packages.sh $(cat scripts/build-packages scripts/check-packages)
 clang-format-14 --dry-run --Werror $(find kestrin tool tests bench examples -name '*.h' -o -name '*.cpp')
+mkdir -p build
+doxygen
 for preset in release sanitize; do
   [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset"
   cmake --build --preset "$preset"

@@ -23,11 +23,13 @@ class KESTRIN_EXPORT MPTracesParser {
   MPTracesParser();
   /// As SetFile.
   MPTracesParser(char* file);
-  // There is nothing to copy.
+  ///@{
+  /// There is nothing to copy: all objects share one state.
   MPTracesParser(const MPTracesParser&);
   MPTracesParser(MPTracesParser&&) noexcept;
   MPTracesParser& operator=(const MPTracesParser&);
   MPTracesParser& operator=(MPTracesParser&&) noexcept;
+  ///@}
 
   /// Opens a file, closing the one that is open. Where none can be opened, Parse reads standard input.
   void SetFile(char* file);

@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "kestrin/platform/export.h"
+#include "kestrin/traces/strict/byte_source.h"
 #include "kestrin/traces/strict/syntax_error.h"
-#include "kestrin/traces/strict/text_input.h"
 #include "kestrin/traces/traces_model.h"
 
 namespace kestrin {
@@ -26,7 +26,7 @@ enum class ParseResult : std::uint8_t {
 /// What a parse leaves.
 struct StrictParse {
   std::unique_ptr<CMTraces> traces;  ///< as far as it was read; null when that is not behind the units line
-  ParseResult result = ParseResult::kAccepted;
+  ParseResult result = ParseResult::kAccepted;  ///< how the parse ended
   std::string error;                ///< the error reported last, as hosts show it; empty without one
   std::int64_t line = 0;            ///< the number of line ends read
   std::vector<SyntaxError> errors;  ///< all errors reported, in file order

@@ -4,13 +4,12 @@
 /// The characters of a text file as the scanner takes them.
 
 #include <cstddef>
-#include <functional>
+#include <utility>
 #include <vector>
 
-namespace kestrin {
+#include "kestrin/traces/strict/byte_source.h"
 
-/// Reads up to that many bytes of a file to a place and returns how many; 0 at the end of the file.
-using ByteSource = std::function<std::size_t(char* bytes, std::size_t size)>;
+namespace kestrin {
 
 /// Takes blocks from a source and removes every carriage return that stands directly before a line feed.
 class TextInput {
