@@ -81,7 +81,7 @@ std::string Import(Imported& imported, const ExportSet& files) {
   if (!files.IsStrict()) return ReadWithSession(imported.session, files);
   ExportSet others = files;
   others.PathOf(ImportFile::kTraces).clear();
-  const std::string stopped = ReadWithSession(imported.session, others);
+  std::string stopped = ReadWithSession(imported.session, others);
   if (!stopped.empty()) return stopped;
   imported.strictTraces = ReadStrictly(files.PathOf(ImportFile::kTraces));
   return imported.strictTraces->stopped;

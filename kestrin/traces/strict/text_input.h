@@ -5,6 +5,8 @@
 
 #include <cstddef>
 #include <functional>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace kestrin {
@@ -12,17 +14,27 @@ namespace kestrin {
 /// Reads up to that many bytes of a file to a place and returns how many; 0 at the end of the file.
 using ByteSource = std::function<std::size_t(char* bytes, std::size_t size)>;
 
-/// Takes blocks from a source and removes every carriage return that stands directly before a line feed.
+/// Takes blocks from a source, removes every carriage return that stands directly before a line feed, and
+/// puts a stand-in for every zero byte: with one in a long text, the scanner would look through the text from
+/// its start again.
 class TextInput {
  public:
+  static constexpr char kZeroStandIn = '\x01';
+
   explicit TextInput(ByteSource source) : source_(std::move(source)) {}
 
   /// As many characters as there is room for, fewer only at the end of the file.
   [[nodiscard]] std::size_t Read(char* text, std::size_t size);
 
+  /// A text up to the first zero byte.
+  [[nodiscard]] std::string_view UpToZero(std::string_view text) const {
+    return zeroSeen_ ? text.substr(0, text.find(kZeroStandIn)) : text;
+  }
+
  private:
   [[nodiscard]] bool HasBytes() { return position_ < filled_ || ReadBlock(); }
   bool ReadBlock();
+  void ReplaceZeros();
   std::size_t TakeUpToReturn(char* text, std::size_t size);
 
   ByteSource source_;
@@ -31,6 +43,7 @@ class TextInput {
   std::size_t filled_ = 0;
   bool returnWaits_ = false;  // a carriage return was taken, and what follows it is not known yet
   bool ended_ = false;
+  bool zeroSeen_ = false;
 };
 
 }  // namespace kestrin
