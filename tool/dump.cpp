@@ -8,13 +8,17 @@
 namespace kestrin::tool {
 namespace {
 
-void WriteDocument(JsonWriter& json, const Imported& imported) {
+void WriteDocument(JsonWriter& json, const Imported& imported, const ExportSet& files) {
   const CPC_KESTRIN_GET& session = imported.session;
   JsonObject document(json);
   document.Member("tech", session.m_pTech);
   document.Member("components", session.m_pComps).Member("nets", session.m_pNetList);
   document.Member("geometry", session.m_pGeom).Member("traces", imported.Traces());
-  if (imported.strictTraces) document.Member("strict", *imported.strictTraces);
+  if (imported.strictTraces) {
+    document.Member("strict", *imported.strictTraces);
+  } else if (files.IsStrict()) {
+    document.Member("strict", nullptr);
+  }
 }
 
 }  // namespace
@@ -24,7 +28,7 @@ int Dump(const ExportSet& files) {
   Imported imported;
   const std::string stopped = Import(imported, files);
   JsonWriter json;
-  WriteDocument(json, imported);
+  WriteDocument(json, imported, files);
   json.Finish();
   return FinishOutput(stopped.empty() ? kSuccess : ReportError(stopped, kIncomplete));
 }

@@ -81,7 +81,7 @@ std::string Import(Imported& imported, const ExportSet& files, StrictReading str
   if (!files.IsStrict()) return ReadWithSession(imported.session, files);
   ExportSet forSession = files;
   if (strict == StrictReading::kInstead) forSession.PathOf(ImportFile::kTraces).clear();
-  const std::string stopped = ReadWithSession(imported.session, forSession);
+  std::string stopped = ReadWithSession(imported.session, forSession);
   if (!stopped.empty() && strict == StrictReading::kInstead) return stopped;
   imported.strictTraces = ReadStrictly(files.PathOf(ImportFile::kTraces));
   return stopped.empty() ? imported.strictTraces->stopped : stopped;

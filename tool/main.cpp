@@ -21,8 +21,7 @@ struct Arguments {
 
 constexpr char kExitStatuses[] =
     "Exit status: 0 all is well; 1 a reader stopped early or the strict reading gave up, or check found "
-    "skipped "
-    "lines or syntax errors; 2 wrong usage or a file that cannot be read.";
+    "skipped lines or syntax errors; 2 wrong usage or a file that cannot be read.";
 
 void AddFileOptions(CLI::App& command, Arguments& arguments) {
   for (const FileKind& kind : kFileKinds) {

@@ -37,6 +37,10 @@ StrictTraces ReadStrictly(const std::string& path) {
     }
   };
   StrictTraces traces{.path = path, .parse = ParseStrictly(read), .stopped = {}};
+  if (!readError.empty()) {  // what follows is not the end of the file, whatever the parser made of it
+    traces.parse.result = ParseResult::kRejected;
+    if (!traces.parse.errors.empty() && traces.parse.errors.back().found == 0) traces.parse.errors.pop_back();
+  }
   traces.stopped = WhyStopped(path, traces.parse, readError);
   traces.duration = std::chrono::steady_clock::now() - start;
   return traces;

@@ -21,8 +21,8 @@ class KESTRIN_EXPORT CMTracesVER {
 /// A TTI line, in its short form (3 values) or its long form (7 values).
 class KESTRIN_EXPORT CMTracesTTI {
  public:
-  CString m_sName1;  ///< the first name of its fill
-  CString m_sName2;  ///< the second name of its fill
+  CString m_sName1;  ///< the first name of its fill; the strict reader: of the last area before it
+  CString m_sName2;  ///< the second name, likewise
   double m_dValue1 = 0.0;
   double m_dValue2 = 0.0;
   CString m_sValue3;
@@ -76,7 +76,8 @@ class KESTRIN_EXPORT CMTracesISS {
 };
 
 /// A FIL line, in its short form (16 values) or its long form (21 values), or a fill that stands for areas
-/// without one: that has the names of the first such area, its m_dValue5 as m_dValue9, and 1 as m_nValue7.
+/// without one: that has the names of the first such area and, from the session's reader, its m_dValue5 as
+/// m_dValue9 and 1 as m_nValue7.
 class KESTRIN_EXPORT CMTracesFIL {
  public:
   CString m_sName1;  ///< without its quotes

@@ -26,7 +26,14 @@ bool TextInput::ReadBlock() {
   position_ = 0;
   filled_ = source_(block_.data(), block_.size());
   ended_ = filled_ == 0;
+  ReplaceZeros();
   return !ended_;
+}
+
+void TextInput::ReplaceZeros() {
+  if (filled_ == 0 || std::memchr(block_.data(), '\0', filled_) == nullptr) return;
+  std::replace(block_.data(), block_.data() + filled_, '\0', kZeroStandIn);
+  zeroSeen_ = true;
 }
 
 std::size_t TextInput::TakeUpToReturn(char* text, std::size_t size) {
