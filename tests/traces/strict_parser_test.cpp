@@ -211,6 +211,14 @@ TEST(StrictParser, SurvivesDamagedFiles) {
     const std::string text = soup.Mutated(board, "\n\n '#(-.AB019_$\r", 5);
     const StrictParse parse = ParseStrictly(SourceOf(text));
     EXPECT_EQ(parse.error.empty(), parse.errors.empty());
+    EXPECT_NE(parse.result, ParseResult::kExhausted);
+    EXPECT_TRUE(parse.result == ParseResult::kAccepted || !parse.errors.empty()) << text;
+    std::int64_t line = 0;
+    for (const SyntaxError& error : parse.errors) {
+      EXPECT_LE(line, error.line);
+      line = error.line;
+    }
+    EXPECT_LE(line, parse.line);
     EXPECT_EQ(ParseStrictly(SourceOf(soup.Bytes(2000))).result, ParseResult::kRejected);
   }
 }
