@@ -35,6 +35,7 @@ if(KESTRIN_BUILD_TOOL)
 endif()
 
 set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/packages)
 set(CPACK_PACKAGE_CONTACT "kestrin maintainers <maintainers@example.org>")
 set(CPACK_PACKAGE_VENDOR kestrin)
 set(CPACK_COMPONENTS_ALL runtime development tool)
