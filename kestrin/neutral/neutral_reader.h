@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "kestrin/geometry/record_pool.h"
 #include "kestrin/neutral/board_chooser.h"
 #include "kestrin/neutral/board_selection.h"
 #include "kestrin/neutral/component_model.h"
@@ -59,6 +60,7 @@ class NeutralReader {
   CMComps& components_;
   CMNetList& nets_;
   BoardSelection& selection_;
+  RecordPool records_;
   BoardChooser chooser_;
   int boardSections_ = 0;
   std::string boardName_;

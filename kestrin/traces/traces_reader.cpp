@@ -130,7 +130,7 @@ bool TracesReader::SetSt() {
 }
 
 bool TracesReader::AddXrf() {
-  auto record = std::make_unique<CMTracesXRF>();
+  auto record = records_.Make<CMTracesXRF>();
   record->m_nValue1 = values_.Int(1);
   record->m_sValue2A = values_.Text(2);
   record->m_sValue2B = values_.Text(2);
@@ -139,7 +139,7 @@ bool TracesReader::AddXrf() {
 }
 
 bool TracesReader::AddTet() {
-  auto record = std::make_unique<CMTracesTET>();
+  auto record = records_.Make<CMTracesTET>();
   record->m_nValue1 = values_.Int(1);
   record->m_sValue2 = values_.Text(2);
   record->m_dValue3 = values_.Double(3);
@@ -150,7 +150,7 @@ bool TracesReader::AddTet() {
 }
 
 bool TracesReader::AddTtt() {
-  auto record = std::make_unique<CMTracesTTT>();
+  auto record = records_.Make<CMTracesTTT>();
   record->m_nValue1 = values_.Int(1);
   record->m_dValue2 = values_.Double(2);
   record->m_nValue3 = values_.Int(3);

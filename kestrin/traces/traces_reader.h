@@ -5,6 +5,7 @@
 
 #include <string_view>
 
+#include "kestrin/geometry/record_pool.h"
 #include "kestrin/text/line_outcome.h"
 #include "kestrin/traces/line_values.h"
 #include "kestrin/traces/traces_model.h"
@@ -59,6 +60,7 @@ class TracesReader {
 
   CMTraces& model_;
   LineValues values_;  // of the current line
+  RecordPool records_;
 
   // Where the next dependent record goes, null before there is a place. A net header closes the fill; nothing
   // else ever closes.
