@@ -2,7 +2,10 @@
 
 namespace kestrin {
 
-void FileReport::KeepSkipped(LineOutcome outcome, std::string_view line) {
+/// Counts the line that was read last.
+void FileReport::CountLine(LineOutcome outcome, std::string_view line) {
+  ++counts_[static_cast<std::size_t>(outcome.GetKind())];
+  if (outcome.GetKind() != LineOutcome::Kind::kSkipped) return;
   SkippedLines& skipped = skipped_[static_cast<std::size_t>(outcome.Code())];
   ++skipped.count;
   if (skipped.first.size() < kKeptLines) {

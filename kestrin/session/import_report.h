@@ -16,6 +16,8 @@
 
 namespace kestrin {
 
+struct Reading;
+
 /// The files of an export set, in the order in which they are read.
 enum class ImportFile : std::uint8_t { kTech, kNeutral, kGeometry, kTraces };
 /// How many they are.
@@ -65,22 +67,19 @@ class FileReport {
     return skipped_[static_cast<std::size_t>(code)];
   }
 
-  /// Counts the line that was read last.
-  void Count(LineOutcome outcome, std::string_view line) {
-    ++counts_[static_cast<std::size_t>(outcome.GetKind())];
-    if (outcome.GetKind() == LineOutcome::Kind::kSkipped) KeepSkipped(outcome, line);
-  }
-
   std::string path;                       ///< as it was given
   ReadingEnd end = ReadingEnd::kNotRead;  ///< how far the reading came
   std::int64_t linesRead = 0;             ///< the number of the last line read
   std::chrono::nanoseconds duration{};    ///< of the whole reading, progress and messages included
 
  private:
+  template <class READER>
+  friend void ReadLines(const Reading& reading, READER& reader, FileReport& report);
+
+  void CountLine(LineOutcome outcome, std::string_view line);
   [[nodiscard]] std::int64_t CountOf(LineOutcome::Kind kind) const {
     return counts_[static_cast<std::size_t>(kind)];
   }
-  void KeepSkipped(LineOutcome outcome, std::string_view line);
 
   std::array<std::int64_t, 3> counts_{};  // by LineOutcome::Kind
   std::array<SkippedLines, kSkipCodes.size()> skipped_;
@@ -89,16 +88,17 @@ class FileReport {
 /// The reports of a session's files; each reading of a file replaces the report of the one before.
 class ImportReport {
  public:
-  ///@{
   /// The report of a file; it lives as long as this report.
   [[nodiscard]] const FileReport& Of(ImportFile file) const { return files_[static_cast<std::size_t>(file)]; }
-  [[nodiscard]] FileReport& Of(ImportFile file) { return files_[static_cast<std::size_t>(file)]; }
-  ///@}
 
   /// Which of the boards of the Neutral file was imported.
   BoardSelection boardSelection;
 
  private:
+  friend class CPC_KESTRIN_GET;
+
+  [[nodiscard]] FileReport& Filled(ImportFile file) { return files_[static_cast<std::size_t>(file)]; }
+
   std::array<FileReport, kImportFileCount> files_;
 };
 

@@ -90,7 +90,7 @@ void CPC_KESTRIN_GET::TechFileParse(CString path) {
   m_pTech = tech;
   TechReader reader(*tech);
   ReadLines({.path = path, .bar = m_pTechProgress, .disablesBar = true}, reader,
-            report_.Of(ImportFile::kTech));
+            report_.Filled(ImportFile::kTech));
 }
 
 void CPC_KESTRIN_GET::NeutralFileParse(CString path) {
@@ -100,7 +100,7 @@ void CPC_KESTRIN_GET::NeutralFileParse(CString path) {
   m_pNetList = nets;
   report_.boardSelection = {};
   NeutralReader reader(*components, *nets, report_.boardSelection);
-  ReadLines({.path = path, .bar = m_pNeutralProgress}, reader, report_.Of(ImportFile::kNeutral));
+  ReadLines({.path = path, .bar = m_pNeutralProgress}, reader, report_.Filled(ImportFile::kNeutral));
 }
 
 void CPC_KESTRIN_GET::GeomFileParse(CString path) {
@@ -108,7 +108,7 @@ void CPC_KESTRIN_GET::GeomFileParse(CString path) {
   m_pGeom = geom;
   GeomReader reader(*geom);
   ReadLines({.path = path, .bar = m_pGeomProgress, .pumpsMessages = true}, reader,
-            report_.Of(ImportFile::kGeometry));
+            report_.Filled(ImportFile::kGeometry));
 }
 
 void CPC_KESTRIN_GET::TraceFileParse(CString path) {
@@ -116,7 +116,7 @@ void CPC_KESTRIN_GET::TraceFileParse(CString path) {
   m_pTraces = traces;
   TracesReader reader(*traces);
   ReadLines({.path = path, .bar = m_pTraceProgress, .pumpsMessages = true}, reader,
-            report_.Of(ImportFile::kTraces));
+            report_.Filled(ImportFile::kTraces));
 }
 
 CMTech* CPC_KESTRIN_GET::GetTech() const { return m_pTech; }

@@ -50,7 +50,7 @@ void ReadLines(const Reading& reading, READER& reader, FileReport& report) {
     ++report.linesRead;
     if (reading.pumpsMessages) PumpMessages();
     progress.LineRead(report.linesRead);
-    report.Count(reader.ReadLine(*line), *line);
+    report.CountLine(reader.ReadLine(*line), *line);
   }
   report.end = ReadingEnd::kComplete;
 }

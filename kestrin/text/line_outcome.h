@@ -84,6 +84,12 @@ class LineOutcome {
             static_cast<std::int32_t>(std::min<std::size_t>(valueCount, INT32_MAX)), &rule};
   }
 
+  /// The line begins inside an apostrophe that a line before it, counted from 1, left open.
+  [[nodiscard]] static constexpr LineOutcome OpenQuote(std::int64_t openingLine) {
+    return {Kind::kSkipped, SkipCode::kOpenQuote,
+            openingLine <= INT32_MAX ? static_cast<std::int32_t>(openingLine) : -1, nullptr};
+  }
+
   /// Whether the line was imported, ignored or skipped.
   [[nodiscard]] constexpr Kind GetKind() const { return kind_; }
   /// Meaningful for a skipped line only.
@@ -94,13 +100,13 @@ class LineOutcome {
   friend constexpr bool operator==(LineOutcome, LineOutcome) = default;
 
  private:
-  constexpr LineOutcome(Kind kind, SkipCode code, std::int32_t valueCount, const RecordRule* rule)
-      : kind_(kind), code_(code), valueCount_(valueCount), rule_(rule) {}
+  constexpr LineOutcome(Kind kind, SkipCode code, std::int32_t number, const RecordRule* rule)
+      : kind_(kind), code_(code), number_(number), rule_(rule) {}
 
   Kind kind_;
   SkipCode code_;
-  std::int32_t valueCount_;  // -1 when it is not the reason
-  const RecordRule* rule_;   // null when the code says it all
+  std::int32_t number_;     // how many values the line has, or which line opened the quote; -1 for neither
+  const RecordRule* rule_;  // null when the code says it all
 };
 
 }  // namespace kestrin

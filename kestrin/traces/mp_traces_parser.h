@@ -40,7 +40,9 @@ class KESTRIN_EXPORT MPTracesParser {
   int Parse();
 
   /// The model of the last parse that came as far as the units line, null when none did. It belongs to the
-  /// caller: nothing here deletes it, nor does a later parse that makes another.
+  /// caller: nothing here deletes it, nor does a later parse that makes another. After a parse that did not
+  /// come so far it is still an earlier one's, which its owner may have deleted; a parse that gave 0 has made
+  /// its own.
   CMTraces* GetTraces();
   /// The error that the last parse reported last, empty when it reported none.
   CString GetError();

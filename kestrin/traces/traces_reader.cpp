@@ -63,14 +63,14 @@ const TracesReader::RecordKind* TracesReader::FindKind(std::string_view code) {
   static constexpr RecordKind kKinds[] = {
       // the most frequent first
       {"VER", "at least 2 values", kAny, "a FIL, ARE, ARS, ISL or ISS before it", &TracesReader::AddVer},
-      {"SEG", "at least 1 value", kAny, "a WIR of 5 values, an INC or an ANT before it",
+      {"SEG", "at least 1 value", kAny, "a WIR of at least 5 values, an INC or an ANT before it",
        &TracesReader::AddSeg},
-      {"WIR", "at least 5 values", kAny, kNet, &TracesReader::AddWir},
+      {"WIR", "at least 1 value", kAny, kNet, &TracesReader::AddWir},
       {"ISL", "at least 1 value", kAny, kFill, &TracesReader::AddIsl},
       {"ISS", "at least 1 value", kAny, kFill, &TracesReader::AddIss},
-      {"ARE", "6, 8 or 13 values", kAny, "", &TracesReader::AddAre},
-      {"ARS", "6, 8 or 13 values", kAny, "", &TracesReader::AddArs},
-      {"FIL", "16 or 21 values", kAny, "", &TracesReader::AddFil},
+      {"ARE", "at least 1 value", kAny, "", &TracesReader::AddAre},
+      {"ARS", "at least 1 value", kAny, "", &TracesReader::AddArs},
+      {"FIL", "at least 1 value", kAny, "", &TracesReader::AddFil},
       {"TTI", "3 or 7 values", {3, 7}, kFill, &TracesReader::AddTti},
       {"INC", "7 values", {7}, kNet, &TracesReader::AddInc},
       {"ANT", "5 or 7 values", {5, 7}, kNet, &TracesReader::AddAnt},
@@ -88,11 +88,11 @@ const TracesReader::RecordKind* TracesReader::FindKind(std::string_view code) {
 }
 
 LineOutcome TracesReader::ReadLine(std::string_view line) {
+  ++lineNumber_;
   const bool beginsQuoted = values_.LeavesQuoteOpen();
   values_.Cut(line);
-  if (beginsQuoted) {  // and so has no code: what stands first reaches to the closing apostrophe
-    return Trimmed(line).empty() ? LineOutcome::Ignored() : LineOutcome::Skipped(SkipCode::kOpenQuote);
-  }
+  if (beginsQuoted) return SkipQuoted(line);
+  quotingLine_ = lineNumber_;
   if (values_.Code() == "#" && values_.Has(1) && values_.Text(1) == "NET") {
     AddNet();
     return LineOutcome::Imported();
@@ -103,6 +103,14 @@ LineOutcome TracesReader::ReadLine(std::string_view line) {
                                  : LineOutcome::Skipped(SkipCode::kNoOwner, kind->owner);
   }
   return CarriesNothing(line) ? LineOutcome::Ignored() : LineOutcome::Skipped(SkipCode::kUnknownRecord);
+}
+
+/// A line that begins inside an apostrophe has no code: what stands first reaches to the closing apostrophe.
+LineOutcome TracesReader::SkipQuoted(std::string_view line) {
+  if (Trimmed(line).empty()) return LineOutcome::Ignored();
+  const LineOutcome outcome = LineOutcome::OpenQuote(quotingLine_);
+  if (line.find('\'') != std::string_view::npos) quotingLine_ = lineNumber_;
+  return outcome;
 }
 
 bool TracesReader::SetUnits() {

@@ -3,6 +3,7 @@
 /// @file
 /// Reads the lines of a Traces file into its model.
 
+#include <cstdint>
 #include <string_view>
 
 #include "kestrin/geometry/record_pool.h"
@@ -26,6 +27,7 @@ class TracesReader {
  private:
   struct RecordKind;
   static const RecordKind* FindKind(std::string_view code);
+  LineOutcome SkipQuoted(std::string_view line);
 
   // A function for every record code. It reads the values first, so that a missing one raises whatever the
   // record belongs to, and gives false when there is no owner to add the record to.
@@ -61,6 +63,8 @@ class TracesReader {
   CMTraces& model_;
   LineValues values_;  // of the current line
   RecordPool records_;
+  std::int64_t lineNumber_ = 0;
+  std::int64_t quotingLine_ = 0;  // which left the apostrophe open, where one is open
 
   // Where the next dependent record goes, null before there is a place. A net header closes the fill; nothing
   // else ever closes.

@@ -1,10 +1,10 @@
 #!/bin/bash
 # Installs the library into a fresh prefix, moves it, and builds and runs the example host against it, with nothing of
-# the build tree on any path: through find_package, then through pkg-config.
+# the build tree on any path: through find_package, shared and static, then through pkg-config.
 # Arguments: the build tree, the C++ compiler.
 set -euo pipefail
 build=$1 compiler=$2
-source=$(cd "$(dirname "$0")/../.." && pwd)
+here=$(cd "$(dirname "$0")" && pwd)
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
@@ -12,25 +12,33 @@ cmake --install "$build" --prefix "$work/first" >/dev/null
 mv "$work/first" "$work/moved"
 prefix=$work/moved
 libdir=$(dirname "$(find "$prefix" -name libkestrin.so)")
-cp -r "$source/examples/host" "$work/host"
+cp -r "$here/../../examples/host" "$here/static_host" "$work"
 cd "$work"
 
-run() {
-  "$1" "$source"/examples/board/board.{tech,neutral,geometry,traces} >"$work/out" 2>"$work/err"
-  grep -qx 'XIN: 5 segments, pins U_1-6 Y_1-1 C_4-1' "$work/out" || { cat "$work/out"; exit 1; }
-  grep -q 'board.traces: 382 lines, 377 imported, 0 skipped' "$work/err" || { cat "$work/err"; exit 1; }
-}
+find_by_cmake() { cmake "$@" -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_CXX_COMPILER="$compiler"; }
 
-cmake -S host -B by-cmake -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_CXX_COMPILER="$compiler" >/dev/null
+find_by_cmake -S host -B by-cmake >/dev/null
 cmake --build by-cmake >/dev/null
-run by-cmake/host
+"$here/run_host.sh" by-cmake/host
+
+find_static() { find_by_cmake -S static_host -B "static-$1" -DREQUEST="$1" -DHOST_SOURCE=../host/host.cpp; }
+
+find_static 0.1 >/dev/null
+cmake --build static-0.1 >/dev/null
+"$here/run_host.sh" static-0.1/static_host
+for request in 0 0.2 1.0; do
+  if find_static "$request" >log 2>&1; then echo "find_package(kestrin $request) takes this version"; exit 1; fi
+  grep -q 'considered but not accepted' log || { cat log; exit 1; }
+done
 
 export PKG_CONFIG_PATH=$libdir/pkgconfig
 # shellcheck disable=SC2046  # a list of words
 "$compiler" -std=c++20 -Wall -Wextra -Wconversion -pedantic -Werror host/host.cpp \
   $(pkg-config --cflags --libs kestrin) -Wl,-rpath,"$libdir" -o by-pkg-config
-run ./by-pkg-config
+"$here/run_host.sh" ./by-pkg-config
 
-[ "$("$prefix/bin/kestrin" --version)" = "kestrin $(pkg-config --modversion kestrin)" ]
+version=$(pkg-config --modversion kestrin)
+[ "$("$prefix/bin/kestrin" --version)" = "kestrin $version" ]
+grep -qF "kVersion[] = \"$version\"" "$prefix/include/kestrin/version.h"
 bash -n "$prefix/share/bash-completion/completions/kestrin"
 test -s "$prefix/share/man/man1/kestrin.1"

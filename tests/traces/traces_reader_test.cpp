@@ -184,6 +184,11 @@ TEST(TracesReader, ALineTooShortForItsRecordRaisesAndChangesNothing) {
   }
 }
 
+std::string OpenedBy(int line) {
+  return "line " + std::to_string(line) +
+         " left an apostrophe open, so that the blanks of this line do not separate";
+}
+
 TEST(TracesReader, TellsWhatBecameOfALine) {
   const std::string unknown(TextOf(SkipCode::kUnknownRecord).text);
   const Case cases[] = {
@@ -203,22 +208,23 @@ TEST(TracesReader, TellsWhatBecameOfALine) {
       {"WIRE 1 2", unknown},
       {"ST 1 2 3 4 5", "ST takes 4, 6 or 8 values, this line has 5"},
       {"VER", "VER takes at least 2 values, this line has 0"},
-      {"FIL", "FIL takes 16 or 21 values, this line has 0"},
+      {"FIL", "FIL takes at least 1 value, this line has 0"},
       {"ST ", "ST takes 4, 6 or 8 values, this line has 0"},
       {"INC", "INC takes 7 values, this line has 0"},
       {"TTI", "TTI takes 3 or 7 values, this line has 0"},
       {"TTI 1 2", "TTI takes 3 or 7 values, this line has 2"},
       {"VER 1 2", "VER needs a FIL, ARE, ARS, ISL or ISS before it"},
-      {"SEG 1", "SEG needs a WIR of 5 values, an INC or an ANT before it"},
+      {"SEG 1", "SEG needs a WIR of at least 5 values, an INC or an ANT before it"},
       {"WIR 1", "WIR needs a net header before it"},
       {"WIR 1 2 3 4 5", "WIR needs a net header before it"},
       {"ANT 1 2 3 4 5", "ANT needs a net header before it"},
       {"INC 1 2 3 4 5 6 7", "INC needs a net header before it"},
       {"GUI 1 2 3 4 5 6", "GUI needs a net header before it"},
       {"ISS 1", "ISS needs a FIL, ARE or ARS before it, behind the last net header"},
-      {"#'\nUNITS MM", std::string(TextOf(SkipCode::kOpenQuote).text)},
-      {"#'\n# NET 'A'", std::string(TextOf(SkipCode::kOpenQuote).text)},
-      {"#'\nUNITS", std::string(TextOf(SkipCode::kOpenQuote).text)},
+      {"#'\nUNITS MM", OpenedBy(1)},
+      {"\n# don't\n''\n'\n'\n# NET 'A", OpenedBy(5)},
+      {"#'\n# NET 'A'", OpenedBy(1)},
+      {"#'\nUNITS", OpenedBy(1)},
       {"#'\n", "ignored"},
   };
   for (const Case& c : cases) {
