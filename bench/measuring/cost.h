@@ -1,0 +1,23 @@
+#pragma once
+
+/// @file
+/// What a work costs.
+
+#include <cstdint>
+
+#include "bench/measuring/work.h"
+
+namespace kestrin::bench {
+
+/// The costs of one run of a work.
+struct Cost {
+  double seconds = 0.0;  ///< of the processor, the system's share included, until the model is built
+  double destructionSeconds = 0.0;  ///< until it is destroyed
+  std::uint64_t allocations = 0;    ///< until it is built
+  std::uint64_t peakBytes = 0;      ///< of resident memory, above what was there before
+};
+
+/// Runs a work in a process of its own.
+[[nodiscard]] Cost Measure(Work work, const Input& input);
+
+}  // namespace kestrin::bench
