@@ -39,6 +39,26 @@ inline std::string Unquoted(const std::string& text, char quote) {
   return text.substr(first, text.find_last_not_of(quote) - first + 1);
 }
 
+/// The arguments of a command, without blanks and quotes at their ends; commas between quotes do not
+/// separate.
+inline std::vector<std::string> Arguments(const std::string& text) {
+  std::istringstream stream(text);
+  std::vector<std::string> arguments;
+  while (stream >> std::ws && !stream.eof()) {
+    std::string argument;
+    if (stream.peek() == '"') {
+      std::string rest;
+      stream.get();
+      std::getline(stream, argument, '"');
+      std::getline(stream, rest, ',');
+    } else {
+      std::getline(stream, argument, ',');
+    }
+    arguments.push_back(argument);
+  }
+  return arguments;
+}
+
 /// Feeds every line of a file to a function.
 template <class FUNCTION>
 void ForEachLine(const std::string& path, FUNCTION function) {
