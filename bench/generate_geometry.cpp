@@ -41,8 +41,10 @@ class GeometryWriter {
 
   std::int64_t Below(std::int64_t limit) { return static_cast<std::int64_t>(random_()) % limit; }
   std::string Number() {
-    const std::string digits = std::to_string(100'000 + Below(100'000));
-    return (Below(2) == 0 ? "-" : "") + digits.substr(1, 2) + "." + digits.substr(3);
+    const std::string thousandths = std::to_string(100'000 + Below(100'000));
+    const std::string sign = Below(2) == 0 ? "-" : "";
+    return sign + thousandths.substr(thousandths[1] == '0' ? 2 : 1, thousandths[1] == '0' ? 1 : 2) + "." +
+           thousandths.substr(3);
   }
   std::string Points(std::int64_t count) {
     std::string text;

@@ -3,6 +3,7 @@
 // too.
 //
 //   --size=BYTES   of every file and of the board; 25000000 unless it is said
+//   --growth       measures the readers over files of 10 MB, 100 MB and 1 GB instead
 //   --check        only looks whether the yardsticks build what the readers build
 
 #include <benchmark/benchmark.h>
@@ -10,118 +11,24 @@
 #include <charconv>
 #include <cstdio>
 #include <exception>
-#include <fstream>
 #include <iostream>
-#include <list>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "bench/generators.h"
+#include "bench/inputs.h"
 #include "bench/measuring/cost.h"
 #include "bench/report/results.h"
 #include "bench/report/tables.h"
 #include "bench/works.h"
-#include "bench/yardsticks/newlines.h"
-#include "tests/support/temporary_folder.h"
 
 namespace kestrin::bench {
 namespace {
 
-/// What the works of a kind read. The bytes are in memory of exactly their size, which is never let go, so
-/// that the heap is as a fresh program has it.
-struct Prepared {
-  std::string_view kind;
-  std::string bytes;
-  Input input;
-  InputSize size;
-};
-
-std::string ContentOf(const std::string& path) {
-  std::ifstream file(path, std::ios::binary | std::ios::ate);
-  std::string bytes(static_cast<std::size_t>(file.tellg()), '\0');
-  file.seekg(0).read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  return bytes;
-}
-
-Prepared PrepareFile(const GeneratedFile& file, const std::string& path, std::uint64_t size) {
-  if (!WriteGenerated(file, path, size)) throw std::runtime_error(path + ": cannot be written");
-  Prepared prepared{
-      .kind = file.kind, .bytes = ContentOf(path), .input = {.path = path, .bytes = {}}, .size = {}};
-  prepared.size = {prepared.bytes.size(), CountNewlines(prepared.bytes)};
-  return prepared;
-}
-
-Prepared PrepareBoard(const std::string& folder, std::uint64_t size) {
-  if (!GenerateBoard(folder, size)) throw std::runtime_error(folder + ": cannot be written");
-  Prepared prepared{.kind = kBoard, .bytes = {}, .input = {.path = folder, .bytes = {}}, .size = {}};
-  for (const GeneratedFile& file : kGeneratedFiles) {
-    const std::string bytes = ContentOf(folder + "/board." + std::string(file.kind));
-    prepared.size.bytes += bytes.size();
-    prepared.size.lines += CountNewlines(bytes);
-  }
-  return prepared;
-}
-
-class ReaderBench {
- public:
-  explicit ReaderBench(std::uint64_t size) {
-    for (const GeneratedFile& file : kGeneratedFiles) {
-      Add(PrepareFile(file, folder_.Path("single." + std::string(file.kind)), size));
-    }
-    Add(PrepareBoard(folder_.Path(), size));
-  }
-
-  [[nodiscard]] bool Check() const {
-    bool same = true;
-    for (const Prepared& prepared : inputs_) same = BuildTheSame(prepared.kind, prepared.input) && same;
-    return same;
-  }
-
-  void Register() {
-    for (const NamedWork& work : AllWorks()) {
-      for (const Prepared& prepared : inputs_) {
-        if (prepared.kind == work.kind) Register(work, prepared);
-      }
-    }
-  }
-
-  [[nodiscard]] const Results& Measured() const { return results_; }
-
- private:
-  void Add(Prepared prepared) {
-    Prepared& added = inputs_.emplace_back(std::move(prepared));
-    added.input.bytes = added.bytes;
-    results_.SetSize(added.kind, added.size);
-  }
-
-  void Register(const NamedWork& work, const Prepared& prepared) {
-    const std::string name = std::string(work.kind) + "/" + std::string(work.name);
-    benchmark::RegisterBenchmark(name.c_str(),
-                                 [this, &work, &prepared](benchmark::State& state) {
-                                   for (auto _ : state) {
-                                     const Cost cost = Measure(work.run, prepared.input);
-                                     state.SetIterationTime(cost.seconds);
-                                     results_.Add(work.kind, work.name, cost);
-                                     state.counters["destruction_s"] = cost.destructionSeconds;
-                                     state.counters["allocations"] = static_cast<double>(cost.allocations);
-                                     state.counters["peak_bytes"] = static_cast<double>(cost.peakBytes);
-                                   }
-                                   state.SetBytesProcessed(static_cast<std::int64_t>(prepared.size.bytes));
-                                   state.SetItemsProcessed(static_cast<std::int64_t>(prepared.size.lines));
-                                 })
-        ->UseManualTime()
-        ->Iterations(1)
-        ->Unit(benchmark::kMillisecond);
-  }
-
-  test::TemporaryFolder folder_;
-  std::list<Prepared> inputs_;  // whose bytes stay where they are
-  Results results_;
-};
-
 struct Options {
   std::uint64_t size = 25'000'000;
+  bool growth = false;
   bool checksOnly = false;
 };
 
@@ -131,6 +38,7 @@ Options TakeOptions(std::vector<char*>& words) {
   Options options;
   std::erase_if(words, [&](const char* text) {
     const std::string_view word = text;
+    if (word == "--growth") return options.growth = true;
     if (word == "--check") return options.checksOnly = true;
     if (!word.starts_with(kSize)) return false;
     std::from_chars(word.data() + kSize.size(), word.data() + word.size(), options.size);
@@ -139,29 +47,103 @@ Options TakeOptions(std::vector<char*>& words) {
   return options;
 }
 
-int Run(std::vector<char*> words) {
-  // What is given later counts, so that these can be changed. The works take turns, by lot, so that what the
-  // machine does meanwhile meets them all.
+/// False where Google Benchmark does not know an option.
+bool InitializeBenchmark(std::vector<char*> words, bool growth) {
+  // The works take turns, by lot, so that whatever the machine does meanwhile meets them all. What the user
+  // says stands later, and counts.
   std::string interleaved = "--benchmark_enable_random_interleaving=true";
-  std::string repeated = "--benchmark_repetitions=11";
+  std::string repeated = growth ? "--benchmark_repetitions=5" : "--benchmark_repetitions=11";
   words.insert(words.begin() + 1, {interleaved.data(), repeated.data()});
-  const Options options = TakeOptions(words);
   int count = static_cast<int>(words.size());
   benchmark::Initialize(&count, words.data());
-  if (benchmark::ReportUnrecognizedArguments(count, words.data())) return 2;
+  return !benchmark::ReportUnrecognizedArguments(count, words.data());
+}
 
-  ReaderBench bench(options.size);
-  if (!bench.Check()) return 1;
-  if (options.checksOnly) return 0;
-  bench.Register();
+void Register(const NamedWork& work, const Prepared& prepared, Results& results) {
+  const std::string name = prepared.kind + "/" + std::string(work.name);
+  auto* registered = benchmark::RegisterBenchmark(name.c_str(), [&, run = work.run](benchmark::State& state) {
+    for (auto _ : state) {
+      const Cost cost = Measure(run, prepared.input);
+      state.SetIterationTime(cost.seconds);
+      results.Add(prepared.kind, work.name, cost);
+      state.counters["destruction_s"] = cost.destructionSeconds;
+      state.counters["allocations"] = static_cast<double>(cost.allocations);
+      state.counters["peak_bytes"] = static_cast<double>(cost.peakBytes);
+    }
+    state.SetBytesProcessed(static_cast<std::int64_t>(prepared.size.bytes));
+    state.SetItemsProcessed(static_cast<std::int64_t>(prepared.size.lines));
+  });
+  registered->UseManualTime()->Iterations(1)->Unit(benchmark::kMillisecond);
+}
+
+void RunRegistered() {
   benchmark::ConsoleReporter console(benchmark::ConsoleReporter::OO_None);
   console.SetOutputStream(&std::cerr);
   console.SetErrorStream(&std::cerr);
   benchmark::RunSpecifiedBenchmarks(&console);
-  WriteCircumstances(std::cout, bench.Measured());
-  WriteGoals(std::cout, bench.Measured());
-  WriteRatios(std::cout, bench.Measured());
-  WriteCosts(std::cout, bench.Measured());
+}
+
+Results ResultsFor(const Inputs& inputs) {
+  Results results;
+  for (const Prepared& prepared : inputs.All()) results.AddInput(prepared.kind, prepared.size);
+  return results;
+}
+
+/// The reader of every kind at every size.
+void MeasureGrowth() {
+  Inputs inputs;
+  for (const std::string_view kind : {"traces", "geometry", "neutral"}) {
+    for (const GeneratedFile& file : kGeneratedFiles) {
+      if (file.kind != kind) continue;
+      for (const std::uint64_t megabytes : {10, 100, 1000}) inputs.AddLargeFile(file, megabytes);
+    }
+  }
+  Results results = ResultsFor(inputs);
+  for (const Prepared& prepared : inputs.All()) {
+    for (const NamedWork& work : AllWorks()) {
+      if (work.name == kReader && prepared.kind.starts_with(work.kind)) Register(work, prepared, results);
+    }
+  }
+  RunRegistered();
+  WriteCircumstances(std::cout, results);
+  WriteGrowth(std::cout, results);
+}
+
+/// Every work; false when the yardsticks do not build what the readers build.
+bool MeasureAll(const Options& options) {
+  Inputs inputs;
+  for (const std::string_view kind : {"traces", "geometry", "neutral", "tech"}) {
+    for (const GeneratedFile& file : kGeneratedFiles) {
+      if (file.kind == kind) inputs.AddFile(file, options.size);
+    }
+  }
+  inputs.AddBoard(options.size);
+  bool same = true;
+  for (const Prepared& prepared : inputs.All()) same = BuildTheSame(prepared.kind, prepared.input) && same;
+  if (!same || options.checksOnly) return same;
+
+  Results results = ResultsFor(inputs);
+  for (const NamedWork& work : AllWorks()) {
+    for (const Prepared& prepared : inputs.All()) {
+      if (prepared.kind == work.kind) Register(work, prepared, results);
+    }
+  }
+  RunRegistered();
+  WriteCircumstances(std::cout, results);
+  WriteGoals(std::cout, results);
+  WriteRatios(std::cout, results);
+  WriteCosts(std::cout, results);
+  return true;
+}
+
+int Run(std::vector<char*> words) {
+  const Options options = TakeOptions(words);
+  if (!InitializeBenchmark(words, options.growth)) return 2;
+  if (options.growth) {
+    MeasureGrowth();
+  } else if (!MeasureAll(options)) {
+    return 1;
+  }
   return std::cout.flush() ? 0 : 1;
 }
 

@@ -17,27 +17,37 @@ double ProcessorSeconds() {
   return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
 }
 
-std::uint64_t PeakBytes() {
+rusage Usage() {
   rusage usage{};
   getrusage(RUSAGE_SELF, &usage);
-  return static_cast<std::uint64_t>(usage.ru_maxrss) * 1024;
+  return usage;
 }
+
+double SystemSeconds(const rusage& usage) {
+  return static_cast<double>(usage.ru_stime.tv_sec) + static_cast<double>(usage.ru_stime.tv_usec) * 1e-6;
+}
+
+/// The greatest resident memory so far. A process begins with that of the one that it is a copy of.
+std::uint64_t PeakBytes(const rusage& usage) { return static_cast<std::uint64_t>(usage.ru_maxrss) * 1024; }
 
 }  // namespace
 
 Cost Measure(Work work, const Input& input) {
   return RunApart([&] {
     Cost cost;
-    const std::uint64_t peakBefore = PeakBytes();
+    const rusage before = Usage();
     const std::uint64_t allocationsBefore = AllocationCount();
     const double start = ProcessorSeconds();
     std::unique_ptr<Built> built = work(input);
     const double end = ProcessorSeconds();
+    const rusage after = Usage();
     cost.seconds = end - start;
+    cost.systemSeconds = SystemSeconds(after) - SystemSeconds(before);
     cost.allocations = AllocationCount() - allocationsBefore;
-    cost.peakBytes = PeakBytes() - peakBefore;
+    cost.peakBytes = PeakBytes(after) - PeakBytes(before);
+    const double destructionStart = ProcessorSeconds();
     built.reset();
-    cost.destructionSeconds = ProcessorSeconds() - end;
+    cost.destructionSeconds = ProcessorSeconds() - destructionStart;
     return cost;
   });
 }

@@ -11,7 +11,8 @@ namespace kestrin::bench {
 
 /// The costs of one run of a work.
 struct Cost {
-  double seconds = 0.0;  ///< of the processor, the system's share included, until the model is built
+  double seconds = 0.0;        ///< of the processor, the system's share included, until the model is built
+  double systemSeconds = 0.0;  ///< the system's share of that, most of it for memory taken the first time
   double destructionSeconds = 0.0;  ///< until it is destroyed
   std::uint64_t allocations = 0;    ///< until it is built
   std::uint64_t peakBytes = 0;      ///< of resident memory, above what was there before

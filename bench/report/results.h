@@ -24,19 +24,20 @@ struct InputSize {
 /// The costs of all runs, by kind of input and work.
 class Results {
  public:
-  void SetSize(std::string_view kind, InputSize size) { sizes_[std::string(kind)] = size; }
+  void AddInput(std::string_view kind, InputSize size) { sizes_.emplace_back(kind, size); }
   void Add(std::string_view kind, std::string_view work, const Cost& cost) {
     costs_[{std::string(kind), std::string(work)}].push_back(cost);
   }
 
-  [[nodiscard]] bool Has(std::string_view kind) const { return sizes_.contains(std::string(kind)); }
-  [[nodiscard]] InputSize SizeOf(std::string_view kind) const { return sizes_.at(std::string(kind)); }
+  /// Every kind of input, in the order in which they were added.
+  [[nodiscard]] const std::vector<std::pair<std::string, InputSize>>& Sizes() const { return sizes_; }
+  [[nodiscard]] InputSize SizeOf(std::string_view kind) const;
 
   /// The median of every cost over the runs of a work; nothing when it was not run.
   [[nodiscard]] std::optional<Cost> Medians(std::string_view kind, std::string_view work) const;
 
  private:
-  std::map<std::string, InputSize> sizes_;
+  std::vector<std::pair<std::string, InputSize>> sizes_;
   std::map<std::pair<std::string, std::string>, std::vector<Cost>> costs_;
 };
 

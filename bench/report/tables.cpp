@@ -6,6 +6,7 @@
 #include <fstream>
 #include <string>
 #include <thread>
+#include <utility>
 
 #include "bench/report/goals.h"
 #include "bench/works.h"
@@ -48,17 +49,13 @@ std::string Compiler() {
 #endif
 }
 
-constexpr std::string_view kKinds[] = {"traces", "geometry", "neutral", "tech", kBoard};
-
 }  // namespace
 
 void WriteCircumstances(std::ostream& out, const Results& results) {
   out << Today() << ", " << Processor() << ", " << std::thread::hardware_concurrency() << " processors, "
       << Compiler() << ". Inputs:";
   const char* separator = " ";
-  for (const std::string_view kind : kKinds) {
-    if (!results.Has(kind)) continue;
-    const InputSize size = results.SizeOf(kind);
+  for (const auto& [kind, size] : results.Sizes()) {
     out << separator << kind << " " << Fixed(static_cast<double>(size.bytes) / 1e6, 1) << " MB, "
         << size.lines << " lines";
     separator = "; ";
@@ -67,8 +64,9 @@ void WriteCircumstances(std::ostream& out, const Results& results) {
 }
 
 void WriteCosts(std::ostream& out, const Results& results) {
-  out << "| Input | Work | ns/line | MB/s | allocations per 1,000 lines | peak ÷ file | destroying, ns/line |"
-         " destroying ÷ building |\n|---|---|--:|--:|--:|--:|--:|--:|\n";
+  out << "| Input | Work | ns/line | of it system | MB/s | allocations per 1,000 lines | peak ÷ file | "
+         "destroying, ns/line |"
+         " destroying ÷ building |\n|---|---|--:|--:|--:|--:|--:|--:|--:|\n";
   for (const NamedWork& work : AllWorks()) {
     const std::optional<Cost> cost = results.Medians(work.kind, work.name);
     if (!cost) continue;
@@ -76,7 +74,8 @@ void WriteCosts(std::ostream& out, const Results& results) {
     const auto lines = static_cast<double>(size.lines);
     const auto bytes = static_cast<double>(size.bytes);
     out << "| " << work.kind << " | " << work.name << " | " << Fixed(cost->seconds * 1e9 / lines, 1) << " | "
-        << Fixed(bytes / cost->seconds / 1e6, 0) << " | ";
+        << Fixed(cost->systemSeconds * 1e9 / lines, 1) << " | " << Fixed(bytes / cost->seconds / 1e6, 0)
+        << " | ";
     if (BuildsNothing(work)) {
       out << "– | – | – | – |\n";
       continue;
@@ -109,7 +108,7 @@ void WriteRatios(std::ostream& out, const Results& results) {
   out << "\n|---|";
   for (std::size_t i = 0; i < std::size(kColumns); ++i) out << "--:|";
   out << "\n";
-  for (const std::string_view kind : kKinds) {
+  for (const auto& [kind, size] : results.Sizes()) {
     if (kind == kBoard) continue;
     out << "| " << kind << " |";
     for (const Column& column : kColumns) {
@@ -129,6 +128,30 @@ void WriteGoals(std::ostream& out, const Results& results) {
     out << "| " << goal.kind << " | " << goal.text << " | " << Fixed(*figure, digits) << " | "
         << (goal.bound == Bound::kAtMost ? "≤ " : "≥ ") << Fixed(goal.value, digits) << " | "
         << (IsReached(goal, *figure) ? "yes" : "no") << " |\n";
+  }
+  out << "\n";
+}
+
+void WriteGrowth(std::ostream& out, const Results& results) {
+  constexpr double kMostGrowth = 1.15;
+  out << "| File | Lines | MB | ns/line | of it system | peak ÷ file | times the smallest | goal | reached "
+         "|\n"
+         "|---|--:|--:|--:|--:|--:|--:|--:|---|\n";
+  std::string file;
+  double smallest = 0.0;
+  for (const auto& [kind, size] : results.Sizes()) {
+    const std::optional<Cost> cost = results.Medians(kind, kReader);
+    if (!cost) continue;
+    const auto lines = static_cast<double>(size.lines);
+    const auto bytes = static_cast<double>(size.bytes);
+    const double perLine = cost->seconds * 1e9 / lines;
+    const std::string thisFile = kind.substr(0, kind.find(' '));
+    if (std::exchange(file, thisFile) != thisFile) smallest = perLine;
+    const double growth = perLine / smallest;
+    out << "| " << file << " | " << size.lines << " | " << Fixed(bytes / 1e6, 0) << " | " << Fixed(perLine, 1)
+        << " | " << Fixed(cost->systemSeconds * 1e9 / lines, 1) << " | "
+        << Fixed(static_cast<double>(cost->peakBytes) / bytes, 2) << " | " << Fixed(growth, 2) << " | ≤ "
+        << Fixed(kMostGrowth, 2) << " | " << (growth <= kMostGrowth ? "yes" : "no") << " |\n";
   }
   out << "\n";
 }

@@ -21,4 +21,7 @@ void WriteRatios(std::ostream& out, const Results& results);
 /// Every goal with what was measured and whether it is reached.
 void WriteGoals(std::ostream& out, const Results& results);
 
+/// The reader at every size of a file, beside the smallest.
+void WriteGrowth(std::ostream& out, const Results& results);
+
 }  // namespace kestrin::bench

@@ -14,7 +14,6 @@
 
 #include "bench/measuring/work.h"
 
-// NOLINTBEGIN(cppcoreguidelines-owning-memory)
 namespace kestrin::bench::plain_c {
 
 constexpr std::size_t kTextSize = 32;
@@ -83,4 +82,3 @@ std::unique_ptr<Built> ReadNeutral(const Input& input);
 std::unique_ptr<Built> ReadTech(const Input& input);
 
 }  // namespace kestrin::bench::plain_c
-// NOLINTEND(cppcoreguidelines-owning-memory)

@@ -2,7 +2,6 @@
 
 #include "bench/yardsticks/plain_c.h"
 
-// NOLINTBEGIN(cppcoreguidelines-owning-memory)
 namespace kestrin::bench::plain_c {
 namespace {
 
@@ -300,4 +299,3 @@ std::unique_ptr<Built> ReadGeometry(const Input& input) {
 }
 
 }  // namespace kestrin::bench::plain_c
-// NOLINTEND(cppcoreguidelines-owning-memory)
