@@ -61,9 +61,9 @@ bool InitializeBenchmark(std::vector<char*> words, bool growth) {
 
 void Register(const NamedWork& work, const Prepared& prepared, Results& results) {
   const std::string name = prepared.kind + "/" + std::string(work.name);
-  auto* registered = benchmark::RegisterBenchmark(name.c_str(), [&, run = work.run](benchmark::State& state) {
+  auto* registered = benchmark::RegisterBenchmark(name.c_str(), [&](benchmark::State& state) {
     for (auto _ : state) {
-      const Cost cost = Measure(run, prepared.input);
+      const Cost cost = Measure(work.run, prepared.input, work.heap);
       state.SetIterationTime(cost.seconds);
       results.Add(prepared.kind, work.name, cost);
       state.counters["destruction_s"] = cost.destructionSeconds;

@@ -6,6 +6,7 @@
 #include <span>
 #include <string_view>
 
+#include "bench/measuring/cost.h"
 #include "bench/measuring/work.h"
 
 namespace kestrin::bench {
@@ -15,6 +16,7 @@ namespace kestrin::bench {
 inline constexpr std::string_view kNewlines = "newlines";
 inline constexpr std::string_view kFields = "fields";
 inline constexpr std::string_view kReaderFromMemory = "reader, from memory";
+inline constexpr std::string_view kReaderInUsedHeap = "reader, from memory, used heap";
 inline constexpr std::string_view kStrictReader = "strict reader, from memory";
 inline constexpr std::string_view kReader = "reader, from the file";
 inline constexpr std::string_view kPlainC = "plain C, from the file";
@@ -31,6 +33,7 @@ struct NamedWork {
   std::string_view kind;
   std::string_view name;
   Work run;
+  Heap heap = Heap::kFresh;
 };
 
 /// Newlines, fields and the reader from memory take the same bytes in memory; the reader from the file, plain

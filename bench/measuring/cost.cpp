@@ -1,8 +1,10 @@
 #include "bench/measuring/cost.h"
 
+#include <malloc.h>
 #include <sys/resource.h>
 
 #include <ctime>
+#include <limits>
 
 #include "bench/measuring/allocations.h"
 #include "bench/measuring/run_apart.h"
@@ -30,10 +32,18 @@ double SystemSeconds(const rusage& usage) {
 /// The greatest resident memory so far. A process begins with that of the one that it is a copy of.
 std::uint64_t PeakBytes(const rusage& usage) { return static_cast<std::uint64_t>(usage.ru_maxrss) * 1024; }
 
+void UseHeap(Work work, const Input& input) {
+  constexpr int kNever = std::numeric_limits<int>::max();
+  mallopt(M_TRIM_THRESHOLD, kNever);
+  mallopt(M_MMAP_MAX, 0);
+  (void)work(input);
+}
+
 }  // namespace
 
-Cost Measure(Work work, const Input& input) {
+Cost Measure(Work work, const Input& input, Heap heap) {
   return RunApart([&] {
+    if (heap == Heap::kUsed) UseHeap(work, input);
     Cost cost;
     const rusage before = Usage();
     const std::uint64_t allocationsBefore = AllocationCount();

@@ -18,7 +18,13 @@ struct Cost {
   std::uint64_t peakBytes = 0;      ///< of resident memory, above what was there before
 };
 
+/// Where a work takes its memory from.
+enum class Heap : std::uint8_t {
+  kFresh,  ///< from the system, as an import in a program that has just begun
+  kUsed,   ///< what the same work has used and given back before, so that the system has no part in it
+};
+
 /// Runs a work in a process of its own.
-[[nodiscard]] Cost Measure(Work work, const Input& input);
+[[nodiscard]] Cost Measure(Work work, const Input& input, Heap heap);
 
 }  // namespace kestrin::bench

@@ -70,6 +70,9 @@ std::optional<double> ReaderToNewlines(const Results& results, std::string_view 
 std::optional<double> ReaderToFields(const Results& results, std::string_view kind) {
   return TimeRatio(results, kind, kReaderFromMemory, kFields);
 }
+std::optional<double> ReaderInUsedHeapToFields(const Results& results, std::string_view kind) {
+  return TimeRatio(results, kind, kReaderInUsedHeap, kFields);
+}
 std::optional<double> PlainCToReader(const Results& results, std::string_view kind) {
   return TimeRatio(results, kind, kPlainC, kReader);
 }

@@ -17,6 +17,7 @@ using Figure = std::optional<double> (*)(const Results& results, std::string_vie
 // How many times a work takes the other's time.
 std::optional<double> ReaderToNewlines(const Results& results, std::string_view kind);
 std::optional<double> ReaderToFields(const Results& results, std::string_view kind);
+std::optional<double> ReaderInUsedHeapToFields(const Results& results, std::string_view kind);
 std::optional<double> PlainCToReader(const Results& results, std::string_view kind);
 std::optional<double> PlainCppToReader(const Results& results, std::string_view kind);
 std::optional<double> StrictReaderToReader(const Results& results, std::string_view kind);
