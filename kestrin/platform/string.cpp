@@ -74,7 +74,7 @@ int CString::Replace(const char* oldText, const char* newText) {
   if (from.empty()) return 0;
   const std::string_view source = text_;
   std::string result;
-  int replacements = 0;
+  std::size_t replacements = 0;
   std::size_t position = 0;
   for (std::size_t hit; (hit = source.find(from, position)) != std::string_view::npos; ++replacements) {
     result.append(source, position, hit - position).append(Text(newText));
@@ -82,10 +82,10 @@ int CString::Replace(const char* oldText, const char* newText) {
   }
   if (replacements == 0) return 0;
   text_ = std::move(result.append(source, position));
-  return replacements;
+  return Index(replacements);
 }
 
-int CString::Remove(char c) { return static_cast<int>(std::erase(text_, c)); }
+int CString::Remove(char c) { return Index(std::erase(text_, c)); }
 
 int CString::Delete(int index, int count) {
   const std::size_t first = AtLeastZero(index);
