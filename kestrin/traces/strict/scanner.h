@@ -51,6 +51,7 @@ class TracesScanner {
     std::array<Memory, 8> blocks{};  // what the automaton takes: itself, its buffer, and a little around it
     std::int64_t lineEnds = 0;
     bool fillSeen = false;  // an ARE behind the first FIL belongs to a fill
+    bool opened = false;    // an opening parenthesis was seen on this line
   };
 
  private:
