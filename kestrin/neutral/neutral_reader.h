@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -62,7 +63,7 @@ class NeutralReader {
   BoardSelection& selection_;
   RecordPool records_;
   BoardChooser chooser_;
-  int boardSections_ = 0;
+  std::int64_t boardSections_ = 0;
   std::string boardName_;
   CMNetInfo* net_ = nullptr;                // takes the pins that follow
   CMCompsInfo* component_ = nullptr;        // takes the properties that follow

@@ -74,14 +74,14 @@ int CString::Replace(const char* oldText, const char* newText) {
   if (from.empty()) return 0;
   const std::string_view source = View();
   std::string result;
-  int replacements = 0;
+  std::size_t replacements = 0;
   std::size_t position = 0;
   for (std::size_t hit; (hit = source.find(from, position)) != std::string_view::npos; ++replacements) {
     result.append(source, position, hit - position).append(Text(newText));
     position = hit + from.size();
   }
   if (replacements > 0) text_.Assign(result.append(source, position));
-  return replacements;
+  return Index(replacements);
 }
 
 int CString::Remove(char c) {
@@ -89,7 +89,7 @@ int CString::Remove(char c) {
   char* const first = text_.Data();
   const auto kept = static_cast<std::size_t>(std::remove(first, first + size, c) - first);
   text_.Resize(kept);
-  return static_cast<int>(size - kept);
+  return Index(size - kept);
 }
 
 int CString::Delete(int index, int count) {
