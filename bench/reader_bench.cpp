@@ -95,7 +95,7 @@ void MeasureGrowth() {
   for (const std::string_view kind : {"traces", "geometry", "neutral"}) {
     for (const GeneratedFile& file : kGeneratedFiles) {
       if (file.kind != kind) continue;
-      for (const std::uint64_t megabytes : {10, 100, 1000}) inputs.AddLargeFile(file, megabytes);
+      for (const unsigned megabytes : {10U, 100U, 1000U}) inputs.AddLargeFile(file, megabytes);
     }
   }
   Results results = ResultsFor(inputs);
