@@ -105,7 +105,7 @@ void MeasureGrowth() {
     }
   }
   RunRegistered();
-  WriteCircumstances(std::cout, results);
+  WriteCircumstances(std::cout);
   WriteGrowth(std::cout, results);
 }
 
@@ -129,7 +129,8 @@ bool MeasureAll(const Options& options) {
     }
   }
   RunRegistered();
-  WriteCircumstances(std::cout, results);
+  WriteCircumstances(std::cout);
+  WriteInputs(std::cout, results);
   WriteGoals(std::cout, results);
   WriteRatios(std::cout, results);
   WriteCosts(std::cout, results);

@@ -51,9 +51,13 @@ std::string Compiler() {
 
 }  // namespace
 
-void WriteCircumstances(std::ostream& out, const Results& results) {
+void WriteCircumstances(std::ostream& out) {
   out << Today() << ", " << Processor() << ", " << std::thread::hardware_concurrency() << " processors, "
-      << Compiler() << ". Inputs:";
+      << Compiler() << ".\n\n";
+}
+
+void WriteInputs(std::ostream& out, const Results& results) {
+  out << "Inputs:";
   const char* separator = " ";
   for (const auto& [kind, size] : results.Sizes()) {
     out << separator << kind << " " << Fixed(static_cast<double>(size.bytes) / 1e6, 1) << " MB, "
