@@ -18,11 +18,11 @@ class RecordPool {
   RecordPool() = default;
   RecordPool(const RecordPool&) = delete;
   RecordPool& operator=(const RecordPool&) = delete;
-  ~RecordPool() { CloseSlab(); }
+  ~RecordPool() { CloseBlock(); }
 
   template <class RECORD, class... Arguments>
   [[nodiscard]] std::unique_ptr<RECORD> Make(Arguments&&... arguments) {
-    static_assert(alignof(RECORD) <= kAlignment);
+    static_assert(alignof(RECORD) <= kAlignment && sizeof(RECORD) <= kLargestRecord);
     return std::unique_ptr<RECORD>(new (*this) RECORD(std::forward<Arguments>(arguments)...));
   }
 
@@ -32,19 +32,23 @@ class RecordPool {
 
   [[nodiscard]] void* Allocate(std::size_t size) {
     const std::size_t room = (size + kAlignment - 1) / kAlignment * kAlignment;
-    if (static_cast<std::size_t>(end_ - next_) < room) OpenSlab(room);
+    if (static_cast<std::size_t>(end_ - next_) < room) OpenSlab();
     ++made_;
     return std::exchange(next_, next_ + room);
   }
-  void OpenSlab(std::size_t room);
-  void CloseSlab() noexcept;
+  void OpenSlab();
+  void OpenBlock();
+  void CloseBlock() noexcept;
 
   static constexpr std::size_t kAlignment = alignof(double);
+  static constexpr std::size_t kLargestRecord = 4096;
 
-  Slab* slab_ = nullptr;  // the one that records are made in
-  std::size_t made_ = 0;  // records in it
-  std::byte* next_ = nullptr;
-  std::byte* end_ = nullptr;
+  Slab* block_ = nullptr;      // the first slab of the block that records are made in
+  std::size_t made_ = 0;       // records in the block
+  std::size_t blockSize_ = 0;  // with what it leaves to the heap
+  std::byte* blockEnd_ = nullptr;
+  std::byte* next_ = nullptr;  // in the slab
+  std::byte* end_ = nullptr;   // of the slab
 };
 
 }  // namespace kestrin

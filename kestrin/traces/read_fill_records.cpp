@@ -10,7 +10,7 @@ namespace kestrin {
 namespace {
 
 /// A line with another number of values than the two forms makes an empty fill.
-void Read(const LineValues& values, CMTracesFIL& fill) {
+void Read(LineValues& values, CMTracesFIL& fill) {
   const bool isLong = values.Count() == 21;
   if (!isLong && values.Count() != 16) return;
   fill.m_sName1 = values.Unquoted(1);
@@ -38,7 +38,7 @@ void Read(const LineValues& values, CMTracesFIL& fill) {
 }
 
 /// A line with another number of values than the three forms makes an empty area.
-void Read(const LineValues& values, CMTracesArea& area) {
+void Read(LineValues& values, CMTracesArea& area) {
   const std::size_t count = values.Count();
   if (count != 6 && count != 8 && count != 13) return;
   area.m_sName1 = values.Unquoted(1);
@@ -55,7 +55,7 @@ void Read(const LineValues& values, CMTracesArea& area) {
   area.m_dValue11 = values.Double(11);
 }
 
-void Read(const LineValues& values, CMTracesTTI& record) {
+void Read(LineValues& values, CMTracesTTI& record) {
   record.m_dValue1 = values.Double(1);
   record.m_dValue2 = values.Double(2);
   record.m_sValue3 = values.Text(3);

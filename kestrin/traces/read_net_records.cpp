@@ -14,7 +14,7 @@
 namespace kestrin {
 namespace {
 
-void Read(const LineValues& values, CMTracesWIRANT& record) {
+void Read(LineValues& values, CMTracesWIRANT& record) {
   record.m_nValue1 = values.Int(1);
   record.m_dValue2 = values.Double(2);
   record.m_dValue3 = values.Double(3);
@@ -22,7 +22,7 @@ void Read(const LineValues& values, CMTracesWIRANT& record) {
   record.m_dValue5 = values.Double(5);
 }
 
-void Read(const LineValues& values, CMTracesINCANT& record) {
+void Read(LineValues& values, CMTracesINCANT& record) {
   record.m_nValue1 = values.Int(1);
   record.m_dValue2 = values.Double(2);
   record.m_dValue3 = values.Double(3);
@@ -32,7 +32,7 @@ void Read(const LineValues& values, CMTracesINCANT& record) {
   record.m_nValue7 = ToInt(values.Double(7));
 }
 
-void Read(const LineValues& values, CMTracesGUICHG& record) {
+void Read(LineValues& values, CMTracesGUICHG& record) {
   record.m_dValue1 = values.Double(1);
   record.m_dValue2 = values.Double(2);
   record.m_nValue3 = values.Int(3);
@@ -42,14 +42,15 @@ void Read(const LineValues& values, CMTracesGUICHG& record) {
 }
 
 /// As far as the line goes.
-void Read(const LineValues& values, CMTracesSEG& record) {
+void Read(LineValues& values, CMTracesSEG& record) {
   if (values.Has(1)) record.m_dValue1 = values.Double(1);
   if (values.Has(2)) record.m_dValue2 = values.Double(2);
   if (values.Has(3)) record.m_nValue3 = values.Int(3);
   if (values.Has(4)) {
+    const double number = values.Double(4);
     const std::string_view text = values.Text(4);
     if (std::all_of(text.begin(), text.end(), IsDigit)) {
-      record.m_dValue4 = values.Double(4);
+      record.m_dValue4 = number;
     } else {
       record.m_sValue4 = text;
     }

@@ -39,16 +39,18 @@ struct TracesReader::RecordKind {
 
   constexpr RecordKind(std::string_view recordCode, std::string_view valueDemand, ValueCounts acceptedCounts,
                        std::string_view ownerDemand, bool (TracesReader::*function)())
-      : values{recordCode, valueDemand},
+      : code(recordCode),
+        values{recordCode, valueDemand},
         counts(acceptedCounts),
         owner{recordCode, ownerDemand},
         read(function) {}
 
-  [[nodiscard]] bool Accepts(std::size_t count) const {
-    if (count == 0) return false;  // a code that stands alone is never read
-    return counts == ValueCounts{} || std::find(counts.begin(), counts.end(), count) != counts.end();
+  [[nodiscard]] bool Accepts(LineValues& line) const {
+    if (line.IsCodeAlone()) return false;  // never read
+    return counts == ValueCounts{} || std::find(counts.begin(), counts.end(), line.Count()) != counts.end();
   }
 
+  Keyword code;
   RecordRule values;
   ValueCounts counts;  // none: any number
   RecordRule owner;
@@ -56,7 +58,7 @@ struct TracesReader::RecordKind {
 };
 
 /// The kind of a record code, null for a code that is none.
-const TracesReader::RecordKind* TracesReader::FindKind(std::string_view code) {
+const TracesReader::RecordKind* TracesReader::FindKind(Keyword code) {
   constexpr RecordKind::ValueCounts kAny{};
   constexpr std::string_view kNet = "a net header before it";
   constexpr std::string_view kFill = "a FIL, ARE or ARS before it, behind the last net header";
@@ -83,22 +85,23 @@ const TracesReader::RecordKind* TracesReader::FindKind(std::string_view code) {
       {"ST", "4, 6 or 8 values", {4, 6, 8}, "", &TracesReader::SetSt},
   };
   const auto* found = std::find_if(std::begin(kKinds), std::end(kKinds),
-                                   [code](const RecordKind& kind) { return kind.values.record == code; });
+                                   [code](const RecordKind& kind) { return kind.code == code; });
   return found == std::end(kKinds) ? nullptr : found;
 }
 
 LineOutcome TracesReader::ReadLine(std::string_view line) {
   ++lineNumber_;
   const bool beginsQuoted = values_.LeavesQuoteOpen();
-  values_.Cut(line);
+  values_.Begin(line);
   if (beginsQuoted) return SkipQuoted(line);
   quotingLine_ = lineNumber_;
-  if (values_.Code() == "#" && values_.Has(1) && values_.Text(1) == "NET") {
+  const Keyword code(values_.Code());
+  if (code == Keyword("#") && values_.Has(1) && values_.Text(1) == "NET") {
     AddNet();
     return LineOutcome::Imported();
   }
-  if (const RecordKind* kind = FindKind(values_.Code())) {
-    if (!kind->Accepts(values_.Count())) return LineOutcome::WrongValueCount(kind->values, values_.Count());
+  if (const RecordKind* kind = FindKind(code)) {
+    if (!kind->Accepts(values_)) return LineOutcome::WrongValueCount(kind->values, values_.Count());
     return (this->*kind->read)() ? LineOutcome::Imported()
                                  : LineOutcome::Skipped(SkipCode::kNoOwner, kind->owner);
   }

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "kestrin/geometry/record_pool.h"
+#include "kestrin/text/keyword.h"
 #include "kestrin/text/line_outcome.h"
 #include "kestrin/traces/line_values.h"
 #include "kestrin/traces/traces_model.h"
@@ -26,7 +27,7 @@ class TracesReader {
 
  private:
   struct RecordKind;
-  static const RecordKind* FindKind(std::string_view code);
+  static const RecordKind* FindKind(Keyword code);
   LineOutcome SkipQuoted(std::string_view line);
 
   // A function for every record code. It reads the values first, so that a missing one raises whatever the

@@ -16,9 +16,6 @@ struct Numbered : PooledRecord {
   int number;
   double room[3] = {};
 };
-struct Large : PooledRecord {
-  char room[100'000] = {};
-};
 
 using Records = std::vector<std::unique_ptr<Numbered>>;
 
@@ -32,12 +29,11 @@ Records MadeBy(RecordPool& pool, int count) {
 }
 
 TEST(RecordPool, RecordsOutliveItAndEndInAnyOrder) {
-  constexpr int kCount = 10'000;
+  constexpr int kCount = 50'000;
   Records records;
   {
     RecordPool pool;
     records = MadeBy(pool, kCount);
-    EXPECT_EQ(pool.Make<Large>()->room[99'999], '\0');
     EXPECT_EQ(pool.Make<Numbered>(7)->number, 7);  // ends while the pool still makes records beside it
   }
   for (int i = 0; i < kCount; ++i) EXPECT_EQ(records[static_cast<std::size_t>(i)]->number, i);
