@@ -1,4 +1,4 @@
-#include <algorithm>
+#include <initializer_list>
 #include <random>
 #include <string>
 
@@ -18,26 +18,37 @@ class GeometryWriter {
   }
 
  private:
-  void Line(const std::string& text) {
-    out_ << text << '\n';
-    left_ -= static_cast<std::int64_t>(text.size()) + 1;
+  /// The parts are drawn one after the other, as a list in braces has it, so that every compiler makes the
+  /// same bytes.
+  void Line(std::initializer_list<std::string> parts) {
+    for (const std::string& part : parts) {
+      out_ << part;
+      left_ -= static_cast<std::int64_t>(part.size());
+    }
+    out_ << '\n';
+    --left_;
   }
   void Create(const std::string& kind, const std::string& name) {
-    Line("$$create_" + kind + "(\"" + name + "\");");
-    Line("$$page(0.0, 0.0, @mm);");
+    Line({"$$create_", kind, "(\"", name, "\");"});
+    Line({"$$page(0.0, 0.0, @mm);"});
   }
-  void Attribute(const std::string& name, const std::string& values = "") {
-    Line("$$attribute(\"" + name + "\"" + (values.empty() ? "" : ", ") + values + ");");
+  /// Values have their comma before them.
+  void Attribute(const std::string& name, std::initializer_list<std::string> values) {
+    std::string joined;
+    for (const std::string& value : values) joined += value;
+    Line({"$$attribute(\"", name, "\"", joined, ");"});
   }
 
   std::int64_t Below(std::int64_t limit) { return static_cast<std::int64_t>(random_()) % limit; }
   std::string Number() {
-    const std::string digits = std::to_string(100'000 + Below(100'000));
-    return (Below(2) == 0 ? "-" : "") + digits.substr(1, 2) + "." + digits.substr(3);
+    const std::string thousandths = std::to_string(100'000 + Below(100'000));
+    const std::string sign = Below(2) == 0 ? "-" : "";
+    return sign + thousandths.substr(thousandths[1] == '0' ? 2 : 1, thousandths[1] == '0' ? 1 : 2) + "." +
+           thousandths.substr(3);
   }
   std::string Points(std::int64_t count) {
     std::string text;
-    for (std::int64_t i = 0; i < count; ++i) text += (i == 0 ? "[" : ", ") + Number() + ", " + Number();
+    for (std::int64_t i = 0; i < 2 * count; ++i) text.append(i == 0 ? "[" : ", ").append(Number());
     return text + "]";
   }
   /// Most lists are short, a few have hundreds of points.
@@ -48,48 +59,48 @@ class GeometryWriter {
   }
 
   void WriteBoard() {
-    Line("$$lock_windows(@all);");
+    Line({"$$lock_windows(@all);"});
     Create("board", "GENERATED");
-    Attribute("BOARD_ROUTING_LAYERS", "[4]");
-    Attribute("BOARD_PLACEMENT_OUTLINE", Points(100));
-    Attribute("BOARD_ROUTING_OUTLINE", Points(100));
-    for (int i = 0; i < 20; ++i) Attribute("ROUTING_KEEPOUT", Layer() + ", " + SomePoints());
+    Attribute("BOARD_ROUTING_LAYERS", {", [4]"});
+    Attribute("BOARD_PLACEMENT_OUTLINE", {", ", Points(100)});
+    Attribute("BOARD_ROUTING_OUTLINE", {", ", Points(100)});
+    for (int i = 0; i < 20; ++i) Attribute("ROUTING_KEEPOUT", {", ", Layer(), ", ", SomePoints()});
     Create("stackup", "STACK");
     for (int i = 1; i <= 4; ++i)
-      Attribute("SIGNAL_LAYER_DEFINITION", "\"" + std::to_string(i) + "\", \"SIGNAL\"");
+      Attribute("SIGNAL_LAYER_DEFINITION", {", \"", std::to_string(i), "\", \"SIGNAL\""});
   }
   void WritePadstacks() {
     for (int i = 0; i < 20; ++i) {
       Create("pin", "PIN_" + std::to_string(i));
-      Attribute("TERMINAL_DRILL_SIZE", "[" + Number() + "]");
-      Line("$$polygon(\"PAD_1\", " + Points(4) + ");");
+      Attribute("TERMINAL_DRILL_SIZE", {", [", Number(), "]"});
+      Line({"$$polygon(\"PAD_1\", ", Points(4), ");"});
     }
   }
   void WriteComponent() {
     Create("component", "PART_" + std::to_string(++components_));
-    Attribute("COMPONENT_HEIGHT", "[" + Number() + "]");
-    Attribute("COMPONENT_LAYOUT_TYPE", "\"surface\"");
-    Attribute("COMPONENT_PLACEMENT_OUTLINE", "\"PLACE_1\", " + Points(4));
+    Attribute("COMPONENT_HEIGHT", {", [", Number(), "]"});
+    Attribute("COMPONENT_LAYOUT_TYPE", {", \"surface\""});
+    Attribute("COMPONENT_PLACEMENT_OUTLINE", {", \"PLACE_1\", ", Points(4)});
     const std::int64_t pins = 2 + Below(30);
     for (std::int64_t i = 1; i <= pins; ++i) {
-      Attribute("COMPONENT_PIN_DEFINITION", "\"" + std::to_string(i) + "\", " + Points(1));
+      Attribute("COMPONENT_PIN_DEFINITION", {", \"", std::to_string(i), "\", ", Points(1)});
     }
     for (int i = 0; i < 6; ++i) WriteDrawing();
-    Line("$$text(" + Layer() + ", \"PART, GENERATED\", " + Number() + ", " + Number() +
-         ", 1.0, @CC, 90, 1.0, 0.1, \"std\");");
+    Line({"$$text(", Layer(), ", \"PART, GENERATED\", ", Number(), ", ", Number(),
+          ", 1.0, @CC, 90, 1.0, 0.1, \"std\");"});
   }
   void WriteDrawing() {
     switch (Below(5)) {
-      case 0: Line("$$path(" + Layer() + ", 0.15, " + SomePoints() + ");"); break;
-      case 1: Line("$$polygon(" + Layer() + ", " + SomePoints() + ");"); break;
-      case 2: Line("$$circle(" + Layer() + ", " + Number() + ", " + Number() + ", 0.5);"); break;
+      case 0: Line({"$$path(", Layer(), ", 0.15, ", SomePoints(), ");"}); break;
+      case 1: Line({"$$polygon(", Layer(), ", ", SomePoints(), ");"}); break;
+      case 2: Line({"$$circle(", Layer(), ", ", Number(), ", ", Number(), ", 0.5);"}); break;
       case 3:
-        Line("$$arc(" + Layer() + ", -3.25, 2.25, -5.5, 0.0, -3.25, " + Number() + ", 0.15, @center);");
+        Line({"$$arc(", Layer(), ", -3.25, 2.25, -5.5, 0.0, -3.25, ", Number(), ", 0.15, @center);"});
         break;
       default:
-        Line("$$initial(" + Points(1) + ");");
-        Line("$$terminal(" + SomePoints() + ");");
-        Line("$$path(" + Layer() + ", 0.2);");
+        Line({"$$initial(", Points(1), ");"});
+        Line({"$$terminal(", SomePoints(), ");"});
+        Line({"$$path(", Layer(), ", 0.2);"});
         break;
     }
   }

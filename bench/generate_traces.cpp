@@ -59,7 +59,7 @@ class TracesGenerator {
   }
 
   void WriteBoardRecords() {
-    Put("# Application board layout export, generated\nUNITS MM\nST 400.0 400.0 8 2\n");
+    Put("# Application board layout export, generated\nUNITS MM\nST 150.0 150.0 8 2\n");
     const int components = 1 + static_cast<int>(size_ / 25'000);
     for (int i = 1; i <= components; ++i) Put("XRF ").Put(i).Put(" U_").Put(i).EndLine();
     for (int i = 1; i <= 8; ++i) Put("TTT ").Put(i).Put(" ").PutLength(1'000 * i).Put(" 1 8 1").EndLine();
@@ -116,7 +116,7 @@ class TracesGenerator {
     }
   }
 
-  static constexpr int kBoardSize = 4'000'000;
+  static constexpr int kBoardSize = 1'500'000;
 
   std::ostream& out_;
   std::uint64_t size_;

@@ -6,17 +6,44 @@
 
 #include <cstdint>
 #include <ostream>
+#include <string>
+#include <string_view>
 
 namespace kestrin::bench {
 
 /// A Geometry file: a board, its stack-up, padstacks, and components with paths, polygons, arcs, circles,
-/// texts and attributes, with points in the line and pending ones.
+/// texts and attributes, with points in the line and pending ones. A list of points has up to 400 of them.
 void GenerateGeometry(std::ostream& out, std::uint64_t size);
 
 /// A Neutral file of one board: nets with pins, components with properties.
 void GenerateNeutral(std::ostream& out, std::uint64_t size);
 
+/// A Tech file: physical layers, then via rules. Those of real boards are a few lines long.
+void GenerateTech(std::ostream& out, std::uint64_t size);
+
 /// A Traces file: half of it VER lines, most of the rest SEG lines, about 24 bytes a line.
 void GenerateTraces(std::ostream& out, std::uint64_t size);
+
+/// What files can be generated, by the ending that export sets give them.
+struct GeneratedFile {
+  std::string_view kind;
+  void (*generate)(std::ostream& out, std::uint64_t size);
+};
+
+/// In the order in which an import reads them.
+inline constexpr GeneratedFile kGeneratedFiles[] = {
+    {"tech", &GenerateTech},
+    {"neutral", &GenerateNeutral},
+    {"geometry", &GenerateGeometry},
+    {"traces", &GenerateTraces},
+};
+
+/// Writes one file; false when it cannot be written.
+[[nodiscard]] bool WriteGenerated(const GeneratedFile& file, const std::string& path, std::uint64_t size);
+
+/// Writes the four files of a board into an existing folder, as board.tech and so on. Together they are about
+/// size bytes long: most of it traces, and a Tech file of a few lines, as real boards have it. False when
+/// they cannot be written.
+[[nodiscard]] bool GenerateBoard(const std::string& folder, std::uint64_t size);
 
 }  // namespace kestrin::bench

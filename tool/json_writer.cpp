@@ -2,14 +2,14 @@
 
 #include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <string>
 
 #include "tool/readable_text.h"
 
 namespace kestrin::tool {
 
-JsonWriter::JsonWriter() : buffer_(), stream_(stdout, buffer_.data(), buffer_.size()), writer_(stream_) {
+JsonWriter::JsonWriter(std::FILE* target)
+    : buffer_(), stream_(target, buffer_.data(), buffer_.size()), writer_(stream_) {
   writer_.SetIndent(' ', 2);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Writing JSON documents to standard output.
+/// Writing JSON documents.
 
 #include <rapidjson/filewritestream.h>
 #include <rapidjson/prettywriter.h>
@@ -9,6 +9,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstdio>
 #include <string_view>
 #include <type_traits>
 
@@ -21,7 +22,8 @@ namespace kestrin::tool {
 /// Writes one document, piece by piece, so that a large model needs no second copy in memory.
 class JsonWriter {
  public:
-  JsonWriter();
+  /// Writes to a stream of the caller's, standard output if not said.
+  explicit JsonWriter(std::FILE* target = stdout);
 
   void Key(const char* name) { writer_.Key(name); }
   void StartObject() { writer_.StartObject(); }

@@ -30,7 +30,7 @@ void PrintPanel(const CMComps& components) {
                    {"value 6", Align::kRight},
                    {"value 7", Align::kRight},
                    {"value 8", Align::kRight}});
-  int number = 0;
+  std::int64_t number = 0;
   for (const CMCompsPanel* panel : *components.m_pPanels) {
     table.AddRow({std::to_string(++number), ToTerminal(panel->m_sBoardName.View()), Number(panel->m_dValue4),
                   Number(panel->m_dValue5), std::to_string(panel->m_nValue6),
@@ -40,8 +40,9 @@ void PrintPanel(const CMComps& components) {
 }
 
 void PrintSelection(const CMComps& components, const BoardSelection& selection) {
-  std::printf("Selected: nets section %d of %d, component section %d of %d, ", selection.ordinal,
-              selection.netsSections, selection.ordinal, selection.componentSections);
+  std::printf("Selected: nets section %" PRId64 " of %" PRId64 ", component section %" PRId64 " of %" PRId64
+              ", ",
+              selection.ordinal, selection.netsSections, selection.ordinal, selection.componentSections);
   if (selection.placement < 0) {
     std::puts("as no placement chooses another");
     return;

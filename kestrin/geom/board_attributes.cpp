@@ -45,7 +45,7 @@ LineOutcome RoutingOutline(ReaderState& state) {
 LineOutcome PlacementKeepout(ReaderState& state) {
   const auto& points = state.TakePoints(3, kOutlineScan);
   if (!BoardIsOpen(state)) return LineOutcome::Imported();
-  auto keepout = std::make_unique<CMGeomKeepout>();
+  auto keepout = state.records.Make<CMGeomKeepout>();
   keepout->m_sName = state.values[2];
   Append(*keepout->m_pCoords, points);
   Board(state).m_pPlacementKeepouts->Append(std::move(keepout));
@@ -55,7 +55,7 @@ LineOutcome PlacementKeepout(ReaderState& state) {
 LineOutcome PlacementRegion(ReaderState& state) {
   const auto& points = state.TakePoints(2, kOutlineScan);
   if (!BoardIsOpen(state)) return LineOutcome::Imported();
-  auto region = std::make_unique<CMGeomPlacementRegion>();
+  auto region = state.records.Make<CMGeomPlacementRegion>();
   Append(*region->m_pCoords, points);
   Board(state).m_pPlacementRegions->Append(std::move(region));
   return LineOutcome::Imported();

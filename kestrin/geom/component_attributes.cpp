@@ -41,7 +41,7 @@ LineOutcome ComponentType(ReaderState& state) {
 }
 
 LineOutcome PadstackOverride(ReaderState& state) {
-  auto padstackOverride = std::make_unique<CMGeomOverride>();
+  auto padstackOverride = state.records.Make<CMGeomOverride>();
   padstackOverride->m_sArg1 = state.values[2];
   padstackOverride->m_sArg2 = state.values[3];
   Component(state).m_pPadstackOverrides->Append(std::move(padstackOverride));
@@ -49,7 +49,7 @@ LineOutcome PadstackOverride(ReaderState& state) {
 }
 
 LineOutcome PinDefinition(ReaderState& state) {
-  auto pin = std::make_unique<CMGeomPinDef>();
+  auto pin = state.records.Make<CMGeomPinDef>();
   pin->m_sName = state.values[2];
   const BracketedPoint point = state.TakePoint(3);
   pin->m_dX = point.x;

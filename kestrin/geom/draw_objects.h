@@ -6,13 +6,14 @@
 
 #include "kestrin/geom/number_list.h"
 #include "kestrin/geometry/ownership.h"
+#include "kestrin/geometry/pooled_record.h"
 #include "kestrin/platform/export.h"
 #include "kestrin/platform/string.h"
 
 namespace kestrin {
 
 /// What all drawing objects have in common. Hosts tell the kinds apart by m_sType.
-class KESTRIN_EXPORT CMGeomDrawObj {
+class KESTRIN_EXPORT CMGeomDrawObj : public PooledRecord {
  public:
   CMGeomDrawObj() = default;
   CMGeomDrawObj(const CMGeomDrawObj&) = delete;

@@ -21,7 +21,7 @@ LineOutcome AddDrawObj(ReaderState& state, std::string_view arguments,
   CMGeomDrawObjArray* target = state.geometry.DrawObjs();
   if (target != nullptr) {
     state.values.CutAtCommas(arguments);
-    auto object = std::make_unique<OBJECT>();
+    auto object = state.records.Make<OBJECT>();
     read(state, *object);
     target->Append(std::move(object));
   }
@@ -123,7 +123,7 @@ LineOutcome Text(ReaderState& state, std::string_view arguments) {
   auto* target = state.geometry.Texts();
   if (target == nullptr) return LineOutcome::Skipped(SkipCode::kNoOwner, kTextRule);
   state.values.CutAtUnquotedCommas(arguments);
-  auto text = std::make_unique<CMGeomText>();
+  auto text = state.records.Make<CMGeomText>();
   ForEachFilled(state.values, [&](std::size_t number, std::string_view value, std::string_view /*raw*/) {
     switch (number) {
       case 1: text->m_sLayer = value; break;
@@ -153,7 +153,7 @@ LineOutcome Add(ReaderState& state, std::string_view arguments) {
   if (target == nullptr) return LineOutcome::Skipped(SkipCode::kNoOwner, kAddRule);
   state.values.CutAtCommas(arguments);
   const Values& values = state.values;
-  auto add = std::make_unique<CMGeomAdd>();
+  auto add = state.records.Make<CMGeomAdd>();
   add->m_sArg0 = values[1];
   add->m_dArg1 = ToDouble(values[2]);
   add->m_dArg2 = ToDouble(values[3]);

@@ -7,12 +7,13 @@
 #include <cstdint>
 
 #include "kestrin/geom/number_list.h"
+#include "kestrin/geometry/pooled_record.h"
 #include "kestrin/platform/string.h"
 
 namespace kestrin {
 
 /// A geometry placed on another; the members are the arguments of its line.
-class CMGeomAdd {
+class CMGeomAdd : public PooledRecord {
  public:
   CString m_sArg0;       ///< value 1 of its line
   double m_dArg1 = 0.0;  ///< value 2
@@ -24,21 +25,21 @@ class CMGeomAdd {
 };
 
 /// An area that something has to keep out of.
-class CMGeomKeepout {
+class CMGeomKeepout : public PooledRecord {
  public:
   CString m_sName;       ///< value 2 of its line
   NumberList m_pCoords;  ///< flat
 };
 
 /// The room that a component or generic part takes.
-class CMGeomPlacementOutline {
+class CMGeomPlacementOutline : public PooledRecord {
  public:
   CString m_sName;       ///< value 2 of its line
   NumberList m_pCoords;  ///< flat
 };
 
 /// An area for placing components.
-class CMGeomPlacementRegion {
+class CMGeomPlacementRegion : public PooledRecord {
  public:
   CString m_sName;  ///< always empty: lines give no name
   std::int64_t m_nUnset1 = 0;
@@ -49,7 +50,7 @@ class CMGeomPlacementRegion {
 };
 
 /// A drilled hole.
-class CMGeomDrill {
+class CMGeomDrill : public PooledRecord {
  public:
   double m_dSize = 0.0;  ///< of the hole
   double m_dUnset = 0.0;
@@ -61,7 +62,7 @@ class CMGeomDrill {
 };
 
 /// An exception from a component's default padstack; the members are the arguments of its line.
-class CMGeomOverride {
+class CMGeomOverride : public PooledRecord {
  public:
   CString m_sArg1;  ///< value 2 of its line
   CString m_sArg2;  ///< value 3
@@ -69,7 +70,7 @@ class CMGeomOverride {
 };
 
 /// Where a pin of a component stands.
-class CMGeomPinDef {
+class CMGeomPinDef : public PooledRecord {
  public:
   CString m_sName;  ///< of the pin
   ///@{

@@ -3,6 +3,7 @@
 /// @file
 /// A text on a geometry, and its conversion to the text conventions of hosts.
 
+#include "kestrin/geometry/pooled_record.h"
 #include "kestrin/platform/export.h"
 #include "kestrin/platform/string.h"
 
@@ -10,7 +11,7 @@ namespace kestrin {
 
 /// A text as the file has it. Hosts read its members and ask for the three values that depend on each other:
 /// mirroring, angle and anchor.
-class KESTRIN_EXPORT CMGeomText {
+class KESTRIN_EXPORT CMGeomText : public PooledRecord {
  public:
   /// 1 for a layer of the board's bottom side, whatever the case of its name, else 0.
   [[nodiscard]] int IsBottomLayer(CString layerName) const;

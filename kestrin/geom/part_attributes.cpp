@@ -17,7 +17,7 @@ LineOutcome AddDrill(ReaderState& state, LISTOF listOf) {
   state.geometry.VisitOpen([&](auto& record) {
     OwningArray<CMGeomDrill>* list = listOf(record);
     if (list == nullptr) return;
-    auto drill = std::make_unique<CMGeomDrill>();
+    auto drill = state.records.Make<CMGeomDrill>();
     drill->m_dSize = ToDouble(state.values[2]);
     drill->m_dX = point.x;
     drill->m_dY = point.y;
@@ -33,7 +33,7 @@ LineOutcome AddKeepout(ReaderState& state, LISTOF listOf) {
   state.geometry.VisitOpen([&](auto& record) {
     OwningArray<CMGeomKeepout>* list = listOf(record);
     if (list == nullptr) return;
-    auto keepout = std::make_unique<CMGeomKeepout>();
+    auto keepout = state.records.Make<CMGeomKeepout>();
     keepout->m_sName = state.values[2];
     Append(*keepout->m_pCoords, points);
     list->Append(std::move(keepout));
@@ -55,7 +55,7 @@ LineOutcome PlacementOutline(ReaderState& state) {
   const auto& points = state.TakePoints(3, kPlacementOutlineScan);
   state.geometry.VisitOpen([&]<class RECORD>(RECORD& record) {
     if constexpr (std::is_same_v<RECORD, CMGeomComponent>) {
-      auto outline = std::make_unique<CMGeomPlacementOutline>();
+      auto outline = state.records.Make<CMGeomPlacementOutline>();
       outline->m_sName = state.values[2];
       Append(*outline->m_pCoords, points);
       record.m_pPlacementOutlines->Append(std::move(outline));

@@ -11,6 +11,7 @@
 #include "kestrin/geom/current_geometry.h"
 #include "kestrin/geom/pending_points.h"
 #include "kestrin/geom/values.h"
+#include "kestrin/geometry/record_pool.h"
 #include "kestrin/text/line_outcome.h"
 
 namespace kestrin {
@@ -34,6 +35,7 @@ struct ReaderState {
   }
 
   CurrentGeometry geometry;
+  RecordPool records;  ///< of the model
   PendingPoints pending;
   double pathWidth = 0.0;       ///< of the pen of arcs and circles that name none
   Values values;                ///< of the current line

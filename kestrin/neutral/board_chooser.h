@@ -24,8 +24,8 @@ class BoardChooser {
 
  private:
   struct Board {
-    int placements = 0;
-    int ordinal = 0;  // 0 while none qualifies
+    std::int64_t placements = 0;
+    std::int64_t ordinal = 0;  // 0 while none qualifies
     std::int64_t placement = -1;
   };
 

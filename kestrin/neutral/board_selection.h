@@ -9,10 +9,10 @@ namespace kestrin {
 
 /// A file may hold sections for several boards; of its nets and of its component sections one each is read.
 struct BoardSelection {
-  int ordinal = 1;              ///< of the sections that are read, from 1
+  std::int64_t ordinal = 1;     ///< of the sections that are read, from 1
   std::int64_t placement = -1;  ///< the index of the placement on the panel that chose them, -1 when none did
-  int netsSections = 0;         ///< how many there are in what was read of the file
-  int componentSections = 0;    ///< likewise
+  std::int64_t netsSections = 0;       ///< how many there are in what was read of the file
+  std::int64_t componentSections = 0;  ///< likewise
 };
 
 }  // namespace kestrin

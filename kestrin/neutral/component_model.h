@@ -7,6 +7,7 @@
 #include <cstdint>
 
 #include "kestrin/geometry/ownership.h"
+#include "kestrin/geometry/pooled_record.h"
 #include "kestrin/platform/export.h"
 #include "kestrin/platform/string.h"
 
@@ -25,13 +26,13 @@ struct KESTRIN_EXPORT tagMCOMPDATA {
 };
 
 /// A property of a component.
-struct KESTRIN_EXPORT tagMCOMPCOMMENT {
+struct KESTRIN_EXPORT tagMCOMPCOMMENT : public PooledRecord {
   CString m_sName;   ///< the text before its first comma
   CString m_sValue;  ///< without its enclosing double quotes
 };
 
 /// A group of values of a component's REFLOC property.
-class KESTRIN_EXPORT CMCompsRefLoc {
+class KESTRIN_EXPORT CMCompsRefLoc : public PooledRecord {
  public:
   double m_dValue1 = 0.0;
   double m_dValue2 = 0.0;
@@ -46,7 +47,7 @@ class KESTRIN_EXPORT CMCompsRefLoc {
 };
 
 /// A component.
-class KESTRIN_EXPORT CMCompsInfo {
+class KESTRIN_EXPORT CMCompsInfo : public PooledRecord {
  public:
   CString m_sExtra1;                        ///< not filled
   tagMCOMPDATA m_Data;                      ///< the values of its line
@@ -58,7 +59,7 @@ class KESTRIN_EXPORT CMCompsInfo {
 };
 
 /// A placement of a board on the panel: a P_ADDP record, by the places of its values.
-class KESTRIN_EXPORT CMCompsPanel {
+class KESTRIN_EXPORT CMCompsPanel : public PooledRecord {
  public:
   CMCompsPanel() = default;
   CMCompsPanel(const CMCompsPanel&) = default;

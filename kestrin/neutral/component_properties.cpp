@@ -39,8 +39,8 @@ void SetGroupValue(CMCompsRefLoc& group, int place, std::string_view value) {
 }
 
 /// A first value, then up to three groups of ten; there is a first group even for an empty text.
-void AddReferenceLocations(CMCompsInfo& component, std::string_view text) {
-  CMCompsRefLoc* group = component.m_pRefLocs->Append(std::make_unique<CMCompsRefLoc>());
+void AddReferenceLocations(CMCompsInfo& component, RecordPool& records, std::string_view text) {
+  CMCompsRefLoc* group = component.m_pRefLocs->Append(records.Make<CMCompsRefLoc>());
   std::size_t position = 0;
   const auto first = NextToken(text, kComma, position);
   if (!first) return;
@@ -48,19 +48,19 @@ void AddReferenceLocations(CMCompsInfo& component, std::string_view text) {
   for (int i = 0; i < kGroups * kGroupSize; ++i) {
     const auto value = NextToken(text, kComma, position);
     if (!value) return;
-    if (i > 0 && i % kGroupSize == 0) group = component.m_pRefLocs->Append(std::make_unique<CMCompsRefLoc>());
+    if (i > 0 && i % kGroupSize == 0) group = component.m_pRefLocs->Append(records.Make<CMCompsRefLoc>());
     SetGroupValue(*group, i % kGroupSize + 1, *value);
   }
 }
 
 }  // namespace
 
-void AddProperty(CMCompsInfo& component, std::string_view item) {
+void AddProperty(CMCompsInfo& component, RecordPool& records, std::string_view item) {
   item.remove_prefix(item.find('(') + 1);  // npos + 1 is 0
   const std::string_view name = BeforeFirstComma(item);
   const std::string_view value = BetweenFirstAndLastQuote(item);
-  if (name == "REFLOC") return AddReferenceLocations(component, value);
-  auto comment = std::make_unique<tagMCOMPCOMMENT>();
+  if (name == "REFLOC") return AddReferenceLocations(component, records, value);
+  auto comment = records.Make<tagMCOMPCOMMENT>();
   comment->m_sName = name;
   comment->m_sValue = value;
   component.m_pComments->Append(std::move(comment));

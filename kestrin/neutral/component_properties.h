@@ -5,12 +5,13 @@
 
 #include <string_view>
 
+#include "kestrin/geometry/record_pool.h"
 #include "kestrin/neutral/component_model.h"
 
 namespace kestrin {
 
 /// Adds a property, "(NAME,"value")", to the component: reference locations for the name REFLOC, else a
 /// comment.
-void AddProperty(CMCompsInfo& component, std::string_view item);
+void AddProperty(CMCompsInfo& component, RecordPool& records, std::string_view item);
 
 }  // namespace kestrin

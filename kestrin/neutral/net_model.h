@@ -4,13 +4,14 @@
 /// What a Neutral file says of the nets of the selected board.
 
 #include "kestrin/geometry/ownership.h"
+#include "kestrin/geometry/pooled_record.h"
 #include "kestrin/platform/export.h"
 #include "kestrin/platform/string.h"
 
 namespace kestrin {
 
 /// A pin of a net. The component is named, not pointed to.
-class KESTRIN_EXPORT CMRefPin {
+class KESTRIN_EXPORT CMRefPin : public PooledRecord {
  public:
   CString m_sRef;  ///< the component reference: the part of the pin name before its first "-"
   CString m_sPin;  ///< the part behind it; the whole name when there is no "-"
@@ -24,7 +25,7 @@ class KESTRIN_EXPORT CMNetProperty {
 };
 
 /// A net.
-class KESTRIN_EXPORT CMNetInfo {
+class KESTRIN_EXPORT CMNetInfo : public PooledRecord {
  public:
   CString m_sName;                          ///< without apostrophes and trailing white space
   RecordList<CMRefPin> m_pPins;             ///< in file order

@@ -105,7 +105,7 @@ void NeutralReader::CutValues() {
 }
 
 LineOutcome NeutralReader::AddPlacement() {
-  auto placement = std::make_unique<CMCompsPanel>();
+  auto placement = records_.Make<CMCompsPanel>();
   placement->m_sBoardName = Value(2);
   placement->m_dValue4 = ToDouble(Value(4));
   placement->m_dValue5 = ToDouble(Value(5));
@@ -135,7 +135,7 @@ LineOutcome NeutralReader::SetUnits() {
 LineOutcome NeutralReader::AddNet() {
   scratch_ = Value(1);
   std::erase(scratch_, '\'');
-  auto net = std::make_unique<CMNetInfo>();
+  auto net = records_.Make<CMNetInfo>();
   net->m_sName = TrimmedRight(scratch_);
   net_ = nets_.m_pNets->Append(std::move(net));
   return LineOutcome::Imported();
@@ -148,7 +148,7 @@ LineOutcome NeutralReader::AddPin() {
   std::erase(scratch_, '\'');
   const std::string_view name = scratch_;
   const std::size_t hyphen = name.find('-');
-  auto pin = std::make_unique<CMRefPin>();
+  auto pin = records_.Make<CMRefPin>();
   if (hyphen != std::string_view::npos) pin->m_sRef = name.substr(0, hyphen);
   pin->m_sPin = name.substr(hyphen + 1);  // npos + 1 is 0
   net_->m_pPins->Append(std::move(pin));
@@ -156,7 +156,7 @@ LineOutcome NeutralReader::AddPin() {
 }
 
 LineOutcome NeutralReader::AddComponent() {
-  auto component = std::make_unique<CMCompsInfo>();
+  auto component = records_.Make<CMCompsInfo>();
   tagMCOMPDATA& data = component->m_Data;
   data.m_sValue1 = Value(1);
   data.m_sValue2 = Value(2);
@@ -173,7 +173,8 @@ LineOutcome NeutralReader::AddComponent() {
 LineOutcome NeutralReader::AddProperties() {
   if (component_ == nullptr) return LineOutcome::Skipped(SkipCode::kNoOwner, kPropertyOwner);
   std::size_t position = 0;
-  while (const auto item = NextPropertyGroup(rest_, position, scratch_)) AddProperty(*component_, *item);
+  while (const auto item = NextPropertyGroup(rest_, position, scratch_))
+    AddProperty(*component_, records_, *item);
   return LineOutcome::Imported();
 }
 

@@ -5,9 +5,11 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
+#include "kestrin/geometry/record_pool.h"
 #include "kestrin/neutral/board_chooser.h"
 #include "kestrin/neutral/board_selection.h"
 #include "kestrin/neutral/component_model.h"
@@ -59,8 +61,9 @@ class NeutralReader {
   CMComps& components_;
   CMNetList& nets_;
   BoardSelection& selection_;
+  RecordPool records_;
   BoardChooser chooser_;
-  int boardSections_ = 0;
+  std::int64_t boardSections_ = 0;
   std::string boardName_;
   CMNetInfo* net_ = nullptr;                // takes the pins that follow
   CMCompsInfo* component_ = nullptr;        // takes the properties that follow

@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "kestrin/platform/export.h"
+#include "kestrin/platform/string_storage.h"
 
 namespace kestrin {
 
@@ -29,25 +30,25 @@ class KESTRIN_EXPORT CString {
   /// Takes over the bytes, as the constructors do.
   CString& operator=(const char* text) { return *this = CString(text); }
   CString& operator=(std::string_view text) {
-    text_.assign(text);
+    text_.Assign(text);
     return *this;
   }
   ///@}
 
   /// The bytes, valid until the string changes.
-  [[nodiscard]] std::string_view View() const noexcept { return text_; }
+  [[nodiscard]] std::string_view View() const noexcept { return text_.View(); }
   ///@{
   /// The bytes as a C string, valid until the string changes.
-  [[nodiscard]] const char* GetString() const noexcept { return text_.c_str(); }
-  operator const char*() const noexcept { return text_.c_str(); }
+  [[nodiscard]] const char* GetString() const noexcept { return text_.View().data(); }
+  operator const char*() const noexcept { return text_.View().data(); }
   ///@}
 
   /// The number of bytes.
   [[nodiscard]] int GetLength() const noexcept;
   /// Whether there are none.
-  [[nodiscard]] bool IsEmpty() const noexcept { return text_.empty(); }
+  [[nodiscard]] bool IsEmpty() const noexcept { return View().empty(); }
   /// Removes all bytes.
-  void Empty() noexcept { text_.clear(); }
+  void Empty() noexcept { text_ = StringStorage(); }
 
   ///@{
   /// The byte at an index; the index of the end gives a zero byte. Raises CInvalidArgException for an index
@@ -125,9 +126,9 @@ class KESTRIN_EXPORT CString {
 
   ///@{
   /// Compares in byte order.
-  friend bool operator==(const CString& a, const CString& b) noexcept { return a.text_ == b.text_; }
+  friend bool operator==(const CString& a, const CString& b) noexcept { return a.View() == b.View(); }
   friend bool operator==(const CString& a, const char* b) noexcept { return a.Compare(b) == 0; }
-  friend auto operator<=>(const CString& a, const CString& b) noexcept { return a.text_ <=> b.text_; }
+  friend auto operator<=>(const CString& a, const CString& b) noexcept { return a.View() <=> b.View(); }
   friend auto operator<=>(const CString& a, const char* b) noexcept { return a.Compare(b) <=> 0; }
   ///@}
 
@@ -139,10 +140,10 @@ class KESTRIN_EXPORT CString {
   ///@}
 
   /// Writes all bytes.
-  friend std::ostream& operator<<(std::ostream& out, const CString& text) { return out << text.text_; }
+  friend std::ostream& operator<<(std::ostream& out, const CString& text) { return out << text.View(); }
 
  private:
-  std::string text_;
+  StringStorage text_;
 };
 
 }  // namespace kestrin

@@ -6,20 +6,21 @@
 /// not have are 0 or empty.
 
 #include "kestrin/geometry/ownership.h"
+#include "kestrin/geometry/pooled_record.h"
 #include "kestrin/platform/export.h"
 #include "kestrin/platform/string.h"
 
 namespace kestrin {
 
 /// A VER line: a vertex of the fill, area or island before it.
-class KESTRIN_EXPORT CMTracesVER {
+class KESTRIN_EXPORT CMTracesVER : public PooledRecord {
  public:
   double m_dX = 0.0;  ///< value 1
   double m_dY = 0.0;  ///< value 2
 };
 
 /// A TTI line, in its short form (3 values) or its long form (7 values).
-class KESTRIN_EXPORT CMTracesTTI {
+class KESTRIN_EXPORT CMTracesTTI : public PooledRecord {
  public:
   CString m_sName1;  ///< the first name of its fill; the strict reader: of the last area before it
   CString m_sName2;  ///< the second name, likewise
@@ -33,7 +34,7 @@ class KESTRIN_EXPORT CMTracesTTI {
 };
 
 /// What an ARE and an ARS line have in common: all of it. A line has 6, 8 or 13 values.
-class KESTRIN_EXPORT CMTracesArea {
+class KESTRIN_EXPORT CMTracesArea : public PooledRecord {
  public:
   CString m_sName1;  ///< without its quotes
   CString m_sName2;  ///< without its quotes
@@ -57,14 +58,14 @@ class KESTRIN_EXPORT CMTracesARE : public CMTracesArea {};
 class KESTRIN_EXPORT CMTracesARS : public CMTracesArea {};
 
 /// An ISL line: an island of a fill.
-class KESTRIN_EXPORT CMTracesISL {
+class KESTRIN_EXPORT CMTracesISL : public PooledRecord {
  public:
   int m_nValue1 = 0;
   RecordList<CMTracesVER> m_pVerArray;  ///< the vertices of the island
 };
 
 /// An ISS line: an island of a fill, kept apart from its ISL lines.
-class KESTRIN_EXPORT CMTracesISS {
+class KESTRIN_EXPORT CMTracesISS : public PooledRecord {
  public:
   CMTracesISS() = default;
   CMTracesISS(const CMTracesISS&) = delete;
@@ -78,7 +79,7 @@ class KESTRIN_EXPORT CMTracesISS {
 /// A FIL line, in its short form (16 values) or its long form (21 values), or a fill that stands for areas
 /// without one: that has the names of the first such area and, from the session's reader, its m_dValue5 as
 /// m_dValue9 and 1 as m_nValue7.
-class KESTRIN_EXPORT CMTracesFIL {
+class KESTRIN_EXPORT CMTracesFIL : public PooledRecord {
  public:
   CString m_sName1;  ///< without its quotes
   CString m_sName2;  ///< without its quotes

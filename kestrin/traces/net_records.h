@@ -5,13 +5,14 @@
 /// it keeps: m_dValue5 is value 5, as a double, in the unit that the file names.
 
 #include "kestrin/geometry/ownership.h"
+#include "kestrin/geometry/pooled_record.h"
 #include "kestrin/platform/export.h"
 #include "kestrin/platform/string.h"
 
 namespace kestrin {
 
 /// A SEG line of the last complete WIR, INC or ANT before it.
-class KESTRIN_EXPORT CMTracesSEG {
+class KESTRIN_EXPORT CMTracesSEG : public PooledRecord {
  public:
   double m_dValue1 = 0.0;
   double m_dValue2 = 0.0;
@@ -22,7 +23,7 @@ class KESTRIN_EXPORT CMTracesSEG {
 };
 
 /// A WIR line, or an ANT line with five values.
-class KESTRIN_EXPORT CMTracesWIRANT {
+class KESTRIN_EXPORT CMTracesWIRANT : public PooledRecord {
  public:
   int m_nValue1 = 0;
   double m_dValue2 = 0.0;
@@ -33,7 +34,7 @@ class KESTRIN_EXPORT CMTracesWIRANT {
 };
 
 /// An INC line (an incomplete connection), or an ANT line with seven values.
-class KESTRIN_EXPORT CMTracesINCANT {
+class KESTRIN_EXPORT CMTracesINCANT : public PooledRecord {
  public:
   int m_nValue1 = 0;
   double m_dValue2 = 0.0;
@@ -46,7 +47,7 @@ class KESTRIN_EXPORT CMTracesINCANT {
 };
 
 /// A GUI or a CHG line.
-class KESTRIN_EXPORT CMTracesGUICHG {
+class KESTRIN_EXPORT CMTracesGUICHG : public PooledRecord {
  public:
   double m_dValue1 = 0.0;
   double m_dValue2 = 0.0;
@@ -58,7 +59,7 @@ class KESTRIN_EXPORT CMTracesGUICHG {
 
 /// A net header line and the records that follow it up to the next. Headers of the same name stay nets of
 /// their own.
-class KESTRIN_EXPORT CMTracesNET {
+class KESTRIN_EXPORT CMTracesNET : public PooledRecord {
  public:
   CString m_sName;                            ///< without its quotes
   RecordList<CMTracesWIRANT> m_pWirArray;     ///< WIR lines

@@ -69,7 +69,7 @@ void Read(const LineValues& values, CMTracesTTI& record) {
 }  // namespace
 
 bool TracesReader::AddFil() {
-  auto fill = std::make_unique<CMTracesFIL>();
+  auto fill = records_.Make<CMTracesFIL>();
   Read(values_, *fill);
   fill_ = model_.m_pFilArray->Append(std::move(fill));
   vertices_ = &fill_->m_pVerArray;
@@ -85,7 +85,7 @@ bool TracesReader::AddIsl() { return AddIsland(&CMTracesFIL::m_pIslArray); }
 bool TracesReader::AddIss() { return AddIsland(&CMTracesFIL::m_pIssArray); }
 
 bool TracesReader::AddTti() {
-  auto record = std::make_unique<CMTracesTTI>();
+  auto record = records_.Make<CMTracesTTI>();
   Read(values_, *record);
   if (fill_ == nullptr) return false;
   record->m_sName1 = fill_->m_sName1;
@@ -95,7 +95,7 @@ bool TracesReader::AddTti() {
 }
 
 bool TracesReader::AddVer() {
-  auto vertex = std::make_unique<CMTracesVER>();
+  auto vertex = records_.Make<CMTracesVER>();
   vertex->m_dX = values_.Double(1);
   vertex->m_dY = values_.Double(2);
   if (vertices_ == nullptr) return false;
@@ -106,7 +106,7 @@ bool TracesReader::AddVer() {
 /// An area goes to the current fill, whatever the names of both are.
 template <class AREA>
 bool TracesReader::AddArea(RecordList<AREA> CMTracesFIL::*list) {
-  auto area = std::make_unique<AREA>();
+  auto area = records_.Make<AREA>();
   Read(values_, *area);
   if (fill_ == nullptr) AddFillFor(*area);
   vertices_ = &(fill_->*list)->Append(std::move(area))->m_pVerArray;
@@ -115,7 +115,7 @@ bool TracesReader::AddArea(RecordList<AREA> CMTracesFIL::*list) {
 
 /// Areas may come without a FIL line; the fill that they then belong to takes after the first of them.
 void TracesReader::AddFillFor(const CMTracesArea& area) {
-  auto fill = std::make_unique<CMTracesFIL>();
+  auto fill = records_.Make<CMTracesFIL>();
   fill->m_sName1 = area.m_sName1;
   fill->m_sName2 = area.m_sName2;
   fill->m_nValue7 = 1;
@@ -125,7 +125,7 @@ void TracesReader::AddFillFor(const CMTracesArea& area) {
 
 template <class ISLAND>
 bool TracesReader::AddIsland(RecordList<ISLAND> CMTracesFIL::*list) {
-  auto island = std::make_unique<ISLAND>();
+  auto island = records_.Make<ISLAND>();
   island->m_nValue1 = values_.Int(1);
   if (fill_ == nullptr) return false;
   vertices_ = &(fill_->*list)->Append(std::move(island))->m_pVerArray;

@@ -60,7 +60,7 @@ void Read(const LineValues& values, CMTracesSEG& record) {
 }  // namespace
 
 void TracesReader::AddNet() {
-  auto net = std::make_unique<CMTracesNET>();
+  auto net = records_.Make<CMTracesNET>();
   net->m_sName = values_.Unquoted(2);
   net_ = model_.m_pNetArray->Append(std::move(net));
   fill_ = nullptr;
@@ -70,7 +70,7 @@ bool TracesReader::AddWir() {
   constexpr std::size_t kComplete = 5;
   if (values_.Count() >= kComplete) return AddWithSegments(&CMTracesNET::m_pWirArray);
   if (net_ == nullptr) return false;
-  net_->m_pWirArray->Append(std::make_unique<CMTracesWIRANT>());
+  net_->m_pWirArray->Append(records_.Make<CMTracesWIRANT>());
   return true;
 }
 
@@ -86,7 +86,7 @@ bool TracesReader::AddGui() { return AddGuiOrChg(&CMTracesNET::m_pGuiArray); }
 bool TracesReader::AddChg() { return AddGuiOrChg(&CMTracesNET::m_pChgArray); }
 
 bool TracesReader::AddSeg() {
-  auto segment = std::make_unique<CMTracesSEG>();
+  auto segment = records_.Make<CMTracesSEG>();
   Read(values_, *segment);
   if (segments_ == nullptr) return false;
   (*segments_)->Append(std::move(segment));
@@ -96,7 +96,7 @@ bool TracesReader::AddSeg() {
 /// The SEG lines that follow go to the record.
 template <class RECORD>
 bool TracesReader::AddWithSegments(RecordList<RECORD> CMTracesNET::*list) {
-  auto record = std::make_unique<RECORD>();
+  auto record = records_.Make<RECORD>();
   Read(values_, *record);
   if (net_ == nullptr) return false;
   segments_ = &(net_->*list)->Append(std::move(record))->m_pSegArray;
@@ -104,7 +104,7 @@ bool TracesReader::AddWithSegments(RecordList<RECORD> CMTracesNET::*list) {
 }
 
 bool TracesReader::AddGuiOrChg(RecordList<CMTracesGUICHG> CMTracesNET::*list) {
-  auto record = std::make_unique<CMTracesGUICHG>();
+  auto record = records_.Make<CMTracesGUICHG>();
   Read(values_, *record);
   if (net_ == nullptr) return false;
   (net_->*list)->Append(std::move(record));

@@ -8,6 +8,7 @@
 #include <cstdint>
 
 #include "kestrin/geometry/ownership.h"
+#include "kestrin/geometry/pooled_record.h"
 #include "kestrin/platform/export.h"
 #include "kestrin/platform/string.h"
 #include "kestrin/traces/fill_records.h"
@@ -16,7 +17,7 @@
 namespace kestrin {
 
 /// An XRF line.
-class KESTRIN_EXPORT CMTracesXRF {
+class KESTRIN_EXPORT CMTracesXRF : public PooledRecord {
  public:
   int m_nValue1 = 0;
   CString m_sValue2A;  ///< value 2
@@ -25,7 +26,7 @@ class KESTRIN_EXPORT CMTracesXRF {
 };
 
 /// A TET line.
-class KESTRIN_EXPORT CMTracesTET {
+class KESTRIN_EXPORT CMTracesTET : public PooledRecord {
  public:
   int m_nValue1 = 0;
   CString m_sValue2;
@@ -35,7 +36,7 @@ class KESTRIN_EXPORT CMTracesTET {
 };
 
 /// A TTT line.
-class KESTRIN_EXPORT CMTracesTTT {
+class KESTRIN_EXPORT CMTracesTTT : public PooledRecord {
  public:
   int m_nValue1 = 0;
   double m_dValue2 = 0.0;

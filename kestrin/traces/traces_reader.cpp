@@ -138,7 +138,7 @@ bool TracesReader::SetSt() {
 }
 
 bool TracesReader::AddXrf() {
-  auto record = std::make_unique<CMTracesXRF>();
+  auto record = records_.Make<CMTracesXRF>();
   record->m_nValue1 = values_.Int(1);
   record->m_sValue2A = values_.Text(2);
   record->m_sValue2B = values_.Text(2);
@@ -147,7 +147,7 @@ bool TracesReader::AddXrf() {
 }
 
 bool TracesReader::AddTet() {
-  auto record = std::make_unique<CMTracesTET>();
+  auto record = records_.Make<CMTracesTET>();
   record->m_nValue1 = values_.Int(1);
   record->m_sValue2 = values_.Text(2);
   record->m_dValue3 = values_.Double(3);
@@ -158,7 +158,7 @@ bool TracesReader::AddTet() {
 }
 
 bool TracesReader::AddTtt() {
-  auto record = std::make_unique<CMTracesTTT>();
+  auto record = records_.Make<CMTracesTTT>();
   record->m_nValue1 = values_.Int(1);
   record->m_dValue2 = values_.Double(2);
   record->m_nValue3 = values_.Int(3);

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "kestrin/geometry/record_pool.h"
 #include "kestrin/text/line_outcome.h"
 #include "kestrin/traces/line_values.h"
 #include "kestrin/traces/traces_model.h"
@@ -61,6 +62,7 @@ class TracesReader {
 
   CMTraces& model_;
   LineValues values_;  // of the current line
+  RecordPool records_;
   std::int64_t lineNumber_ = 0;
   std::int64_t quotingLine_ = 0;  // which left the apostrophe open, where one is open
 

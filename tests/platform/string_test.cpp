@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <string>
+#include <utility>
 
 #include "kestrin/platform/exceptions.h"
 
@@ -83,6 +85,30 @@ TEST(String, TokenizesUntilTheStartIsMinusOne) {
   EXPECT_EQ(text.Tokenize(" ", start), "");
   EXPECT_EQ(start, -1);
   EXPECT_THROW(static_cast<void>(text.Tokenize(" ", start)), CInvalidArgException);
+}
+
+TEST(String, KeepsShortAndLongTextsThroughCopiesAndGrowth) {
+  CString grown;
+  std::string expected;
+  for (const char c : {'a', 'b', '\0', 'c'}) {  // over the 15 bytes that stand in the object
+    for (int i = 0; i < 5; ++i) grown += c;
+    expected.append(5, c);
+    ASSERT_EQ(grown.View(), expected);
+    ASSERT_EQ(grown.GetString()[expected.size()], '\0');
+    const CString copy(grown);
+    grown += grown;
+    expected += expected;
+    ASSERT_EQ(grown.View(), expected);
+    CString moved(std::move(grown));
+    grown = copy;
+    ASSERT_EQ(grown.View(), expected.substr(0, expected.size() / 2));
+    grown = std::move(moved);
+  }
+  grown = grown.View().substr(3, 20);
+  EXPECT_EQ(grown.View(), expected.substr(3, 20));
+  grown = "x";
+  EXPECT_EQ(grown, "x");
+  static_assert(sizeof(CString) == 16);
 }
 
 TEST(String, FormatsAndLendsItsBuffer) {

@@ -113,6 +113,9 @@ TEST(TracesScanner, PassesOverCommentsPropertiesAndNotes) {
       {"1 (a (2) 3) 4 ) 5\n( 6", "INTEGER=1 INTEGER=5 / INTEGER=6"},
       {"() 1 ()) 2", "INTEGER=2"},
       {"SEG (a b) c\nSEG (d)e", "SEG SEGFIELD=c / SEG SEGFIELD=(d)e"},
+      {"(a) SEG (b c\nSEG (d e) UNITS (f\nUNITS (1) (2 MM (A\n(B) 3",
+       "SEG SEGFIELD=(b SEGFIELD=c / SEG SEGFIELD=UNITS SEGFIELD=(f / UNITS INTEGER=2 UNITNAME=MM WORD=A / "
+       "INTEGER=3"},
       {"SEG # BOARD x\n1", "SEG / INTEGER=1"},
       {"ANT#  ApplicationX", "ANT WORD=A WORD=X"},
   });
@@ -144,6 +147,9 @@ TEST(TracesScanner, ReadsTextWhateverItsSizeAndLineEnds) {
   EXPECT_EQ(Tokens(longText + " 1"), "WORD=" + longText.substr(0, 255) + " INTEGER=1");
   EXPECT_EQ(Tokens("(" + longText + ") 1"), "INTEGER=1");
   EXPECT_EQ(Tokens(std::string(300'000, '0') + "7"), "INTEGER=7");
+  std::string openNotes;  // each of which would be looked for up to the end of the line
+  for (int i = 0; i < 300'000; ++i) openNotes += "(a ";
+  EXPECT_EQ(Tokens(openNotes + "SEG " + openNotes + "\n1").substr(0, 18), "SEG SEGFIELD=(a SE");
 }
 
 }  // namespace

@@ -16,16 +16,17 @@ CString Unquoted(CString text) {
 
 }  // namespace
 
-Record<CMTracesXRF> MakeXrf(int value1, CString value2) {
-  auto record = std::make_unique<CMTracesXRF>();
+Record<CMTracesXRF> ModelBuilder::MakeXrf(int value1, CString value2) {
+  auto record = records_.Make<CMTracesXRF>();
   record->m_nValue1 = value1;
   record->m_sValue2A = value2;
   record->m_sValue2B = std::move(value2);
   return record;
 }
 
-Record<CMTracesTET> MakeTet(int value1, CString value2, double value3, double value4, double value5) {
-  auto record = std::make_unique<CMTracesTET>();
+Record<CMTracesTET> ModelBuilder::MakeTet(int value1, CString value2, double value3, double value4,
+                                          double value5) {
+  auto record = records_.Make<CMTracesTET>();
   record->m_nValue1 = value1;
   record->m_sValue2 = std::move(value2);
   record->m_dValue3 = value3;
@@ -34,8 +35,8 @@ Record<CMTracesTET> MakeTet(int value1, CString value2, double value3, double va
   return record;
 }
 
-Record<CMTracesTTT> MakeTtt(int value1, double value2, int value3, int value4, int value5) {
-  auto record = std::make_unique<CMTracesTTT>();
+Record<CMTracesTTT> ModelBuilder::MakeTtt(int value1, double value2, int value3, int value4, int value5) {
+  auto record = records_.Make<CMTracesTTT>();
   record->m_nValue1 = value1;
   record->m_dValue2 = value2;
   record->m_nValue3 = value3;
@@ -44,15 +45,15 @@ Record<CMTracesTTT> MakeTtt(int value1, double value2, int value3, int value4, i
   return record;
 }
 
-Record<CMTracesNET> MakeNet(CString name) {
-  auto net = std::make_unique<CMTracesNET>();
+Record<CMTracesNET> ModelBuilder::MakeNet(CString name) {
+  auto net = records_.Make<CMTracesNET>();
   net->m_sName = std::move(name);
   return net;
 }
 
-Record<CMTracesWIRANT> MakeWire(int value1, double value2, double value3, double value4, double value5,
-                                Records<CMTracesSEG> segments) {
-  auto record = std::make_unique<CMTracesWIRANT>();
+Record<CMTracesWIRANT> ModelBuilder::MakeWire(int value1, double value2, double value3, double value4,
+                                              double value5, Records<CMTracesSEG> segments) {
+  auto record = records_.Make<CMTracesWIRANT>();
   record->m_nValue1 = value1;
   record->m_dValue2 = value2;
   record->m_dValue3 = value3;
@@ -62,9 +63,10 @@ Record<CMTracesWIRANT> MakeWire(int value1, double value2, double value3, double
   return record;
 }
 
-Record<CMTracesINCANT> MakeIncomplete(int value1, double value2, double value3, int value4, double value5,
-                                      double value6, int value7, Records<CMTracesSEG> segments) {
-  auto record = std::make_unique<CMTracesINCANT>();
+Record<CMTracesINCANT> ModelBuilder::MakeIncomplete(int value1, double value2, double value3, int value4,
+                                                    double value5, double value6, int value7,
+                                                    Records<CMTracesSEG> segments) {
+  auto record = records_.Make<CMTracesINCANT>();
   record->m_nValue1 = value1;
   record->m_dValue2 = value2;
   record->m_dValue3 = value3;
@@ -76,9 +78,9 @@ Record<CMTracesINCANT> MakeIncomplete(int value1, double value2, double value3, 
   return record;
 }
 
-Record<CMTracesGUICHG> MakeGuiOrChg(double value1, double value2, int value3, double value4, double value5,
-                                    int value6) {
-  auto record = std::make_unique<CMTracesGUICHG>();
+Record<CMTracesGUICHG> ModelBuilder::MakeGuiOrChg(double value1, double value2, int value3, double value4,
+                                                  double value5, int value6) {
+  auto record = records_.Make<CMTracesGUICHG>();
   record->m_dValue1 = value1;
   record->m_dValue2 = value2;
   record->m_nValue3 = value3;
@@ -88,9 +90,9 @@ Record<CMTracesGUICHG> MakeGuiOrChg(double value1, double value2, int value3, do
   return record;
 }
 
-Record<CMTracesSEG> MakeSegment(const CString& value1, const CString& value2, const CString& value3,
-                                CString value4, CString value5) {
-  auto record = std::make_unique<CMTracesSEG>();
+Record<CMTracesSEG> ModelBuilder::MakeSegment(const CString& value1, const CString& value2,
+                                              const CString& value3, CString value4, CString value5) {
+  auto record = records_.Make<CMTracesSEG>();
   record->m_dValue1 = ToDouble(value1.View());
   record->m_dValue2 = ToDouble(value2.View());
   record->m_nValue3 = ToInt(ToDouble(value3.View()));
@@ -103,16 +105,16 @@ Record<CMTracesSEG> MakeSegment(const CString& value1, const CString& value2, co
   return record;
 }
 
-Record<CMTracesVER> MakeVertex(double x, double y) {
-  auto vertex = std::make_unique<CMTracesVER>();
+Record<CMTracesVER> ModelBuilder::MakeVertex(double x, double y) {
+  auto vertex = records_.Make<CMTracesVER>();
   vertex->m_dX = x;
   vertex->m_dY = y;
   return vertex;
 }
 
-Record<CMTracesFIL> MakeFill(CString name1, CString name2, CString value3, int value4, int value5, int value6,
-                             int value7, int value8) {
-  auto fill = std::make_unique<CMTracesFIL>();
+Record<CMTracesFIL> ModelBuilder::MakeFill(CString name1, CString name2, CString value3, int value4,
+                                           int value5, int value6, int value7, int value8) {
+  auto fill = records_.Make<CMTracesFIL>();
   fill->m_sName1 = Unquoted(std::move(name1));
   fill->m_sName2 = Unquoted(std::move(name2));
   fill->m_sValue3 = std::move(value3);
@@ -140,9 +142,9 @@ Record<CMTracesFIL> WithHeader(Record<CMTracesFIL> fill, double value9, int valu
   return fill;
 }
 
-Record<CMTracesTTI> MakeTti(double value1, double value2, CString value3, int value4, double value5,
-                            double value6, int value7) {
-  auto record = std::make_unique<CMTracesTTI>();
+Record<CMTracesTTI> ModelBuilder::MakeTti(double value1, double value2, CString value3, int value4,
+                                          double value5, double value6, int value7) {
+  auto record = records_.Make<CMTracesTTI>();
   record->m_dValue1 = value1;
   record->m_dValue2 = value2;
   record->m_sValue3 = std::move(value3);
@@ -199,7 +201,7 @@ bool ModelBuilder::HasNamesOf(const CMTracesFIL& fill, const CMTracesArea& area)
 }
 
 Record<CMTracesFIL> ModelBuilder::MakeFillFor(const CMTracesArea& area) {
-  auto fill = std::make_unique<CMTracesFIL>();
+  auto fill = records_.Make<CMTracesFIL>();
   fill->m_sName1 = area.m_sName1;
   fill->m_sName2 = area.m_sName2;
   return fill;

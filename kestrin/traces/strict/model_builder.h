@@ -6,6 +6,7 @@
 #include <memory>
 #include <utility>
 
+#include "kestrin/geometry/record_pool.h"
 #include "kestrin/traces/traces_model.h"
 
 namespace kestrin {
@@ -70,35 +71,9 @@ struct FillTail {
   CString item3;
 };
 
-[[nodiscard]] Record<CMTracesXRF> MakeXrf(int value1, CString value2);
-[[nodiscard]] Record<CMTracesTET> MakeTet(int value1, CString value2, double value3, double value4,
-                                          double value5);
-[[nodiscard]] Record<CMTracesTTT> MakeTtt(int value1, double value2, int value3, int value4, int value5);
-[[nodiscard]] Record<CMTracesNET> MakeNet(CString name);
-[[nodiscard]] Record<CMTracesWIRANT> MakeWire(int value1, double value2, double value3, double value4,
-                                              double value5, Records<CMTracesSEG> segments);
-[[nodiscard]] Record<CMTracesINCANT> MakeIncomplete(int value1, double value2, double value3, int value4,
-                                                    double value5, double value6, int value7,
-                                                    Records<CMTracesSEG> segments);
-[[nodiscard]] Record<CMTracesGUICHG> MakeGuiOrChg(double value1, double value2, int value3, double value4,
-                                                  double value5, int value6);
-[[nodiscard]] Record<CMTracesSEG> MakeSegment(const CString& value1, const CString& value2,
-                                              const CString& value3, CString value4, CString value5 = {});
-[[nodiscard]] Record<CMTracesVER> MakeVertex(double x, double y);
-[[nodiscard]] Record<CMTracesFIL> MakeFill(CString name1, CString name2, CString value3, int value4,
-                                           int value5, int value6, int value7, int value8);
 [[nodiscard]] Record<CMTracesFIL> WithHeader(Record<CMTracesFIL> fill, double value9, int value10,
                                              int value11, int value12, const FillExtension& extension,
                                              FillTail tail);
-[[nodiscard]] Record<CMTracesTTI> MakeTti(double value1, double value2, CString value3, int value4 = 0,
-                                          double value5 = 0.0, double value6 = 0.0, int value7 = 0);
-
-template <class ISLAND>
-[[nodiscard]] Record<ISLAND> MakeIsland(int value1, Records<CMTracesVER> vertices) {
-  auto island = std::make_unique<ISLAND>();
-  island->m_nValue1 = value1;
-  return With(std::move(island), std::move(vertices));
-}
 
 template <class AREA>
 [[nodiscard]] Record<AREA> WithTail(Record<AREA> area, const AreaTail& tail) {
@@ -127,10 +102,39 @@ class ModelBuilder {
     ((*root_).*list)->Append(std::move(record));
   }
 
+  ///@{
+  /// Records of their lines' values.
+  [[nodiscard]] Record<CMTracesXRF> MakeXrf(int value1, CString value2);
+  [[nodiscard]] Record<CMTracesTET> MakeTet(int value1, CString value2, double value3, double value4,
+                                            double value5);
+  [[nodiscard]] Record<CMTracesTTT> MakeTtt(int value1, double value2, int value3, int value4, int value5);
+  [[nodiscard]] Record<CMTracesNET> MakeNet(CString name);
+  [[nodiscard]] Record<CMTracesWIRANT> MakeWire(int value1, double value2, double value3, double value4,
+                                                double value5, Records<CMTracesSEG> segments);
+  [[nodiscard]] Record<CMTracesINCANT> MakeIncomplete(int value1, double value2, double value3, int value4,
+                                                      double value5, double value6, int value7,
+                                                      Records<CMTracesSEG> segments);
+  [[nodiscard]] Record<CMTracesGUICHG> MakeGuiOrChg(double value1, double value2, int value3, double value4,
+                                                    double value5, int value6);
+  [[nodiscard]] Record<CMTracesSEG> MakeSegment(const CString& value1, const CString& value2,
+                                                const CString& value3, CString value4, CString value5 = {});
+  [[nodiscard]] Record<CMTracesVER> MakeVertex(double x, double y);
+  [[nodiscard]] Record<CMTracesFIL> MakeFill(CString name1, CString name2, CString value3, int value4,
+                                             int value5, int value6, int value7, int value8);
+  [[nodiscard]] Record<CMTracesTTI> MakeTti(double value1, double value2, CString value3, int value4 = 0,
+                                            double value5 = 0.0, double value6 = 0.0, int value7 = 0);
+  template <class ISLAND>
+  [[nodiscard]] Record<ISLAND> MakeIsland(int value1, Records<CMTracesVER> vertices) {
+    auto island = records_.Make<ISLAND>();
+    island->m_nValue1 = value1;
+    return With(std::move(island), std::move(vertices));
+  }
+  ///@}
+
   /// Makes an area and notes its names for the TTI records that follow.
   template <class AREA>
   [[nodiscard]] Record<AREA> MakeArea(CString name1, CString name2, CString value3, int value4) {
-    auto area = std::make_unique<AREA>();
+    auto area = records_.Make<AREA>();
     SetNames(*area, std::move(name1), std::move(name2));
     area->m_sValue3 = std::move(value3);
     area->m_nValue4 = value4;
@@ -159,8 +163,9 @@ class ModelBuilder {
  private:
   void SetNames(CMTracesArea& area, CString name1, CString name2);
   [[nodiscard]] static bool HasNamesOf(const CMTracesFIL& fill, const CMTracesArea& area);
-  [[nodiscard]] static Record<CMTracesFIL> MakeFillFor(const CMTracesArea& area);
+  [[nodiscard]] Record<CMTracesFIL> MakeFillFor(const CMTracesArea& area);
 
+  RecordPool records_;
   Record<CMTraces> root_;
   CMTracesFIL* looseFill_ = nullptr;  // of the loose area read last
   CString lastAreaName1_;

@@ -3,7 +3,10 @@
 /// @file
 /// The scanner of the strict reader: turns the characters of a Traces file into the tokens of its grammar.
 
+#include <array>
 #include <cstdint>
+#include <cstdlib>
+#include <memory>
 #include <stdexcept>
 #include <string_view>
 
@@ -27,7 +30,6 @@ class TracesScanner {
   explicit TracesScanner(ByteSource source);
   TracesScanner(const TracesScanner&) = delete;
   TracesScanner& operator=(const TracesScanner&) = delete;
-  ~TracesScanner();
 
   /// The next token's number, 0 at the end of the file; its value is put into the place given.
   [[nodiscard]] int Next(TracesGrammar::value_type& value);
@@ -39,9 +41,17 @@ class TracesScanner {
 
   /// What the rules read and write.
   struct State {
+    struct Free {
+      // NOLINTNEXTLINE(cppcoreguidelines-owning-memory,cppcoreguidelines-no-malloc): the owner's own deleter
+      void operator()(void* bytes) const noexcept { std::free(bytes); }
+    };
+    using Memory = std::unique_ptr<void, Free>;
+
     TextInput input;
+    std::array<Memory, 8> blocks{};  // what the automaton takes: itself, its buffer, and a little around it
     std::int64_t lineEnds = 0;
     bool fillSeen = false;  // an ARE behind the first FIL belongs to a fill
+    bool opened = false;    // an opening parenthesis was seen on this line
   };
 
  private:

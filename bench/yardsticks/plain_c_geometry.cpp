@@ -1,0 +1,301 @@
+#include <cctype>
+
+#include "bench/yardsticks/plain_c.h"
+
+namespace kestrin::bench::plain_c {
+namespace {
+
+struct Numbers {
+  double* items;
+  std::size_t count;
+  std::size_t capacity;
+};
+
+void Append(Numbers* numbers, double number) {
+  if (numbers->count == numbers->capacity) {
+    numbers->capacity = numbers->capacity == 0 ? 8 : 2 * numbers->capacity;
+    numbers->items = static_cast<double*>(realloc(numbers->items, numbers->capacity * sizeof(double)));
+  }
+  numbers->items[numbers->count++] = number;
+}
+
+enum DrawObjectType { kPath, kPolygon, kArc, kCircle };
+
+struct DrawObject {
+  DrawObjectType type;
+  Text layer;
+  double width;
+  double points[6];  // of arcs; of circles x, y and the size
+  int mode;
+  Numbers coordinates;
+};
+struct GeometryText {
+  Text layer, text;
+  double x, y, size;
+  Text justification;
+  double angle, value8, value9;
+  Text value10;
+};
+struct Outline {
+  Text name;
+  Numbers coordinates;
+};
+struct PinDefinition {
+  Text name;
+  double x, y;
+};
+struct Layer {
+  Text definition;
+  Text values[8];
+  int valueCount;
+};
+/// A board, a component or a pin: each uses the members that it needs.
+struct Geometry {
+  Text name, units;
+  List<DrawObject> drawObjects;
+  List<GeometryText> texts;
+  int routingLayers;
+  Numbers placementOutline, routingOutline;
+  List<Outline> keepouts, placementOutlines;
+  double height, drillSize;
+  Text layoutType;
+  List<PinDefinition> pinDefinitions;
+};
+struct Stackup {
+  Text name, units;
+  List<Layer> layers;
+};
+struct Model {
+  Geometry board;
+  Stackup stackup;
+  List<Geometry> components, pins;
+};
+
+constexpr int kMostFields = 4096;
+
+struct Reader {
+  Model* model;
+  Geometry* geometry;  // null while the stack-up is open
+  Numbers pending;
+  char* fields[kMostFields];  // of the current line
+  int count;
+};
+
+/// Cuts arguments at commas, in place, without blanks and quotes; commas between quotes do not separate.
+void CutArguments(Reader* reader, char* text) {
+  reader->count = 0;
+  while (text != nullptr && *text != '\0' && reader->count < kMostFields) {
+    while (*text == ' ') ++text;
+    char* end = nullptr;
+    if (*text == '"') {
+      reader->fields[reader->count++] = ++text;
+      end = strchr(text, '"');
+      if (end == nullptr) return;
+      *end++ = '\0';
+      end = strchr(end, ',');
+    } else {
+      reader->fields[reader->count++] = text;
+      end = strchr(text, ',');
+      if (end != nullptr) *end = '\0';
+    }
+    text = end == nullptr ? nullptr : end + 1;
+  }
+}
+
+double Bracketed(const char* field) { return atof(*field == '[' ? field + 1 : field); }
+
+/// The numbers between brackets, or the pending ones where there are no brackets.
+void ReadPoints(Reader* reader, int first, Numbers* numbers) {
+  for (int i = first; i < reader->count; ++i) Append(numbers, Bracketed(reader->fields[i]));
+  if (first < reader->count) return;
+  for (std::size_t i = 0; i < reader->pending.count; ++i) Append(numbers, reader->pending.items[i]);
+  reader->pending.count = 0;
+}
+
+void ReadOutline(Reader* reader, List<Outline>* list) {
+  Outline* outline = Append(list);
+  Keep(outline->name, reader->fields[1]);
+  ReadPoints(reader, 2, &outline->coordinates);
+}
+
+void ReadPinDefinition(Reader* reader) {
+  PinDefinition* pin = Append(&reader->geometry->pinDefinitions);
+  Keep(pin->name, reader->fields[1]);
+  pin->x = Bracketed(reader->fields[2]);
+  pin->y = atof(reader->fields[3]);
+}
+
+void ReadLayer(Reader* reader) {
+  Layer* layer = Append(&reader->model->stackup.layers);
+  Keep(layer->definition, reader->fields[0]);
+  for (int i = 1; i < reader->count && i <= 8; ++i)
+    Keep(layer->values[layer->valueCount++], reader->fields[i]);
+}
+
+void ReadAttribute(Reader* reader) {
+  const char* name = reader->fields[0];
+  if (reader->geometry == nullptr) {
+    if (strstr(name, "LAYER_DEFINITION") != nullptr) ReadLayer(reader);
+    return;
+  }
+  if (strcmp(name, "COMPONENT_PIN_DEFINITION") == 0) {
+    if (reader->count >= 4) ReadPinDefinition(reader);
+  } else if (strcmp(name, "COMPONENT_HEIGHT") == 0) {
+    reader->geometry->height = Bracketed(reader->fields[1]);
+  } else if (strcmp(name, "COMPONENT_LAYOUT_TYPE") == 0) {
+    Keep(reader->geometry->layoutType, reader->fields[1]);
+  } else if (strcmp(name, "COMPONENT_PLACEMENT_OUTLINE") == 0) {
+    ReadOutline(reader, &reader->geometry->placementOutlines);
+  } else if (strcmp(name, "TERMINAL_DRILL_SIZE") == 0) {
+    reader->geometry->drillSize = Bracketed(reader->fields[1]);
+  } else if (strcmp(name, "ROUTING_KEEPOUT") == 0) {
+    ReadOutline(reader, &reader->geometry->keepouts);
+  } else if (strcmp(name, "BOARD_ROUTING_LAYERS") == 0) {
+    reader->geometry->routingLayers = atoi(reader->fields[1] + 1);
+  } else if (strcmp(name, "BOARD_PLACEMENT_OUTLINE") == 0) {
+    ReadPoints(reader, 1, &reader->geometry->placementOutline);
+  } else if (strcmp(name, "BOARD_ROUTING_OUTLINE") == 0) {
+    ReadPoints(reader, 1, &reader->geometry->routingOutline);
+  }
+}
+
+DrawObject* AddDrawObject(Reader* reader, DrawObjectType type) {
+  DrawObject* object = Append(&reader->geometry->drawObjects);
+  object->type = type;
+  Keep(object->layer, reader->fields[0]);
+  return object;
+}
+
+void ReadPath(Reader* reader) {
+  DrawObject* path = AddDrawObject(reader, kPath);
+  path->width = atof(reader->fields[1]);
+  ReadPoints(reader, 2, &path->coordinates);
+}
+
+void ReadPolygon(Reader* reader) {
+  DrawObject* polygon = AddDrawObject(reader, kPolygon);
+  ReadPoints(reader, 1, &polygon->coordinates);
+}
+
+void ReadCircle(Reader* reader) {
+  DrawObject* circle = AddDrawObject(reader, kCircle);
+  for (int i = 0; i < 3 && i + 1 < reader->count; ++i) circle->points[i] = atof(reader->fields[i + 1]);
+}
+
+void ReadArc(Reader* reader) {
+  if (reader->count < 9) return;
+  DrawObject* arc = AddDrawObject(reader, kArc);
+  for (int i = 0; i < 6; ++i) arc->points[i] = atof(reader->fields[i + 1]);
+  arc->width = atof(reader->fields[7]);
+  arc->mode = strcmp(reader->fields[8], "@center") == 0 ? 2 : 1;
+}
+
+void ReadText(Reader* reader) {
+  if (reader->count < 10) return;
+  GeometryText* text = Append(&reader->geometry->texts);
+  Keep(text->layer, reader->fields[0]);
+  Keep(text->text, reader->fields[1]);
+  text->x = atof(reader->fields[2]);
+  text->y = atof(reader->fields[3]);
+  text->size = atof(reader->fields[4]);
+  Keep(text->justification, reader->fields[5]);
+  text->angle = atoi(reader->fields[6]);
+  text->value8 = atof(reader->fields[7]);
+  text->value9 = atof(reader->fields[8]);
+  Keep(text->value10, reader->fields[9]);
+}
+
+void ReadPage(Reader* reader) {
+  char* units = reader->fields[reader->count - 1] + 1;
+  for (char* c = units; *c != '\0'; ++c) *c = static_cast<char>(toupper(static_cast<unsigned char>(*c)));
+  Keep(reader->geometry == nullptr ? reader->model->stackup.units : reader->geometry->units, units);
+}
+
+void Open(Reader* reader, Geometry* geometry) {
+  reader->geometry = geometry;
+  Keep(geometry->name, reader->fields[0]);
+}
+
+void OpenStackup(Reader* reader) {
+  reader->geometry = nullptr;
+  Keep(reader->model->stackup.name, reader->fields[0]);
+}
+
+bool Is(const char* word, const char* name) { return strcmp(word, name) == 0; }
+
+/// The chain begins with what is most frequent.
+void ReadLine(Reader* reader, char* line) {
+  char* arguments = strchr(line, '(');
+  char* end = strrchr(line, ')');
+  if (line[0] != '$' || arguments == nullptr || end == nullptr) return;
+  *arguments++ = '\0';
+  *end = '\0';
+  CutArguments(reader, arguments);
+  if (reader->count == 0) return;
+  if (Is(line, "$$attribute")) return ReadAttribute(reader);
+  if (Is(line, "$$create_component")) return Open(reader, Append(&reader->model->components));
+  if (Is(line, "$$create_pin")) return Open(reader, Append(&reader->model->pins));
+  if (Is(line, "$$create_board")) return Open(reader, &reader->model->board);
+  if (Is(line, "$$create_stackup")) return OpenStackup(reader);
+  if (Is(line, "$$page")) return ReadPage(reader);
+  if (Is(line, "$$initial")) reader->pending.count = 0;
+  if (Is(line, "$$initial") || Is(line, "$$terminal")) return ReadPoints(reader, 0, &reader->pending);
+  if (reader->geometry == nullptr) return;
+  if (Is(line, "$$path")) return ReadPath(reader);
+  if (Is(line, "$$polygon")) return ReadPolygon(reader);
+  if (Is(line, "$$circle")) return ReadCircle(reader);
+  if (Is(line, "$$arc")) return ReadArc(reader);
+  if (Is(line, "$$text")) return ReadText(reader);
+}
+
+void Add(Tally* tally, const Numbers& numbers) {
+  for (std::size_t i = 0; i < numbers.count; ++i) tally->coordinates += numbers.items[i];
+}
+
+void Add(Tally* tally, const Geometry& geometry) {
+  tally->records += 1 + geometry.drawObjects.count + geometry.texts.count + geometry.keepouts.count +
+                    geometry.placementOutlines.count + geometry.pinDefinitions.count;
+  tally->characters += strlen(geometry.name) + strlen(geometry.units);
+  for (std::size_t i = 0; i < geometry.drawObjects.count; ++i) {
+    const DrawObject* object = geometry.drawObjects.items[i];
+    tally->characters += strlen(object->layer);
+    tally->coordinates += object->width;
+    Add(tally, object->coordinates);
+    for (const double point : object->points) tally->coordinates += point;
+  }
+  for (std::size_t i = 0; i < geometry.pinDefinitions.count; ++i) {
+    tally->characters += strlen(geometry.pinDefinitions.items[i]->name);
+    tally->coordinates += geometry.pinDefinitions.items[i]->x;
+    tally->coordinates += geometry.pinDefinitions.items[i]->y;
+  }
+  for (std::size_t i = 0; i < geometry.placementOutlines.count; ++i) {
+    Add(tally, geometry.placementOutlines.items[i]->coordinates);
+  }
+}
+
+struct BuiltGeometry final : Built {
+  [[nodiscard]] Tally Count() const override {
+    Tally tally;
+    tally.records = model.stackup.layers.count;
+    Add(&tally, model.board);
+    Add(&tally, model.board.placementOutline);
+    for (std::size_t i = 0; i < model.pins.count; ++i) Add(&tally, *model.pins.items[i]);
+    for (std::size_t i = 0; i < model.components.count; ++i) Add(&tally, *model.components.items[i]);
+    return tally;
+  }
+
+  Model model{};
+};
+
+}  // namespace
+
+std::unique_ptr<Built> ReadGeometry(const Input& input) {
+  static Reader reader;
+  auto built = std::make_unique<BuiltGeometry>();
+  reader = {};
+  reader.model = &built->model;
+  ForEachLine(input.path.c_str(), [&](char* line) { ReadLine(&reader, line); });
+  return built;
+}
+
+}  // namespace kestrin::bench::plain_c

@@ -1,0 +1,106 @@
+#pragma once
+
+/// @file
+/// What the fuzz targets hold the readers to. A promise that is broken ends the process, and the fuzzer keeps
+/// the input.
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "kestrin/platform/exceptions.h"
+#include "kestrin/session/import_report.h"
+#include "tool/model_json.h"
+
+namespace kestrin::fuzz {
+
+/// Ends the process unless the promise is kept.
+void Require(bool isKept, const char* promise);
+
+[[nodiscard]] inline std::string_view TextOf(const std::uint8_t* bytes, std::size_t size) {
+  return {reinterpret_cast<const char*>(bytes), size};
+}
+
+/// The lines of a text as the session's readers get them.
+[[nodiscard]] std::vector<std::string_view> LinesOf(std::string_view text);
+
+/// What is written, which must be a valid JSON document.
+[[nodiscard]] std::string Document(const std::function<void(tool::JsonWriter& json)>& write);
+
+/// Models as JSON, whole.
+template <class... MODELS>
+[[nodiscard]] std::string Dump(const MODELS&... models) {
+  return Document([&](tool::JsonWriter& json) {
+    json.StartArray();
+    (tool::WriteJson(json, models), ...);
+    json.EndArray();
+  });
+}
+
+/// Requires that every line is counted once, and every skipped line under its code.
+void RequireCounts(const FileReport& report, std::int64_t linesRaised);
+
+/// How much memory was taken since this was made. Models, report and scratch may take so many bytes for every
+/// byte of the input: the largest record of a shortest line is what sets the number.
+class MemoryMeter {
+ public:
+  MemoryMeter();
+  void Look();
+  /// Requires that no look saw more than inputs of this size may take.
+  void RequireInProportion(std::size_t inputSize, std::size_t extra = 0) const;
+
+ private:
+  std::size_t before_;
+  std::size_t most_;
+};
+
+/// What a reader made of a text.
+struct Outcome {
+  std::string models;  ///< as JSON
+  FileReport report;
+  std::int64_t linesRaised = 0;
+};
+
+/// Feeds a text to a reader. Every line has memory of its own, which goes before the next: a reader that
+/// looks beyond a line's ends, or back at it, is caught. SUBJECT has the reader and its models: `reader`,
+/// `Dump()`, `RepeatedBytes()` (what its model holds more than once by design) and kRaises, whether a line
+/// may raise CInvalidArgException.
+template <class SUBJECT>
+[[nodiscard]] Outcome Read(std::string_view text) {
+  Outcome outcome;
+  SUBJECT subject;
+  MemoryMeter memory;
+  for (const std::string_view line : LinesOf(text)) {
+    const std::unique_ptr<char[]> copy(new char[line.size()]);
+    line.copy(copy.get(), line.size());
+    const std::string_view alone(copy.get(), line.size());
+    ++outcome.report.linesRead;
+    try {
+      outcome.report.Count(subject.reader.ReadLine(alone), alone);
+    } catch (const CInvalidArgException&) {
+      Require(SUBJECT::kRaises, "lines of this file raise nothing");
+      ++outcome.linesRaised;
+    }
+    memory.Look();
+  }
+  memory.RequireInProportion(text.size(), subject.RepeatedBytes());
+  outcome.models = subject.Dump();
+  return outcome;
+}
+
+/// The whole body of a line reader's target.
+template <class SUBJECT>
+int CheckReader(const std::uint8_t* bytes, std::size_t size) {
+  const std::string_view text = TextOf(bytes, size);
+  const Outcome first = Read<SUBJECT>(text);
+  RequireCounts(first.report, first.linesRaised);
+  const Outcome second = Read<SUBJECT>(text);
+  Require(first.models == second.models, "the same lines give the same models");
+  return 0;
+}
+
+}  // namespace kestrin::fuzz

@@ -1,0 +1,119 @@
+// All four files through one session, with a host that posts messages while it reads.
+
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <array>
+
+#include "fuzz/subjects.h"
+#include "kestrin/platform/messages.h"
+#include "kestrin/platform/window.h"
+#include "kestrin/session/import_session.h"
+
+namespace kestrin::fuzz {
+namespace {
+
+/// What stands between the files in an input.
+constexpr char kFileSeparator = '\x1c';
+
+/// A file without a disk.
+class MemoryFile {
+ public:
+  explicit MemoryFile(std::string_view content) : descriptor_(memfd_create("import", 0)) {
+    Require(write(descriptor_, content.data(), content.size()) == static_cast<ssize_t>(content.size()),
+            "there is memory for a file");
+  }
+  MemoryFile(const MemoryFile&) = delete;
+  MemoryFile& operator=(const MemoryFile&) = delete;
+  ~MemoryFile() { close(descriptor_); }
+
+  [[nodiscard]] CString Path() const { return "/proc/self/fd/" + std::to_string(descriptor_); }
+
+ private:
+  int descriptor_;
+};
+
+/// Posts messages to itself when it is refreshed and, as long as its budget lasts, two for each that arrives.
+class BusyDialog : public CWnd {
+ public:
+  BOOL UpdateData(BOOL /*saveAndValidate*/) override {
+    PostMessageA(GetSafeHwnd(), WM_USER + 1, 0, 0);
+    return TRUE;
+  }
+  LRESULT WindowProc(UINT message, WPARAM /*wParam*/, LPARAM /*lParam*/) override {
+    for (int i = 0; i < 2 && budget_ > 0; ++i, --budget_) PostMessageA(GetSafeHwnd(), message, 0, 0);
+    return 0;
+  }
+
+ private:
+  int budget_ = 200;
+};
+
+struct Files {
+  std::array<std::string_view, kImportFileCount> texts;
+
+  explicit Files(std::string_view input) {
+    for (std::string_view& text : texts) {
+      const std::size_t end = input.find(kFileSeparator);
+      text = input.substr(0, end);
+      input.remove_prefix(end == std::string_view::npos ? input.size() : end + 1);
+    }
+  }
+};
+
+struct Import {
+  std::array<std::string, kImportFileCount> models;
+  bool raised = false;
+};
+
+Import Run(const Files& files, bool withDialog) {
+  const std::array<MemoryFile, kImportFileCount> stored{
+      MemoryFile(files.texts[0]), MemoryFile(files.texts[1]), MemoryFile(files.texts[2]),
+      MemoryFile(files.texts[3])};
+  BusyDialog dialog;
+  CProgressCtrl bars[kImportFileCount] = {CProgressCtrl(&dialog), CProgressCtrl(&dialog),
+                                          CProgressCtrl(&dialog), CProgressCtrl(&dialog)};
+  MemoryMeter memory;
+  CPC_KESTRIN_GET session;
+  if (withDialog) session.SetProgressPtr(&bars[2], &bars[1], &bars[3], &bars[0]);
+  session.vSetTechFilePath(stored[0].Path());
+  session.vSetNeutralFilePath(stored[1].Path());
+  session.vSetGeomFilePath(stored[2].Path());
+  session.vSetTraceFilePath(stored[3].Path());
+  Import import;
+  try {
+    session.vParse();
+  } catch (const CInvalidArgException&) {
+    import.raised = true;
+  }
+  memory.Look();
+  std::size_t size = 0;
+  for (std::size_t i = 0; i < kImportFileCount; ++i) {
+    const FileReport& report = session.GetReport().Of(static_cast<ImportFile>(i));
+    const bool stopped = import.raised && i + 1 == kImportFileCount;
+    Require(report.end == (stopped ? ReadingEnd::kStopped : ReadingEnd::kComplete), "every file is read");
+    RequireCounts(report, stopped ? 1 : 0);
+    size += files.texts[i].size();
+  }
+  // Of a Traces file that repeats long names the target of that reader knows what it may take.
+  if (session.GetTraces()->m_pFilArray->IsEmpty()) memory.RequireInProportion(size);
+  import.models = {Dump(*session.GetTech()), Dump(*session.GetComps(), *session.GetNetList()),
+                   Dump(*session.GetGeom()), Dump(*session.GetTraces())};
+  return import;
+}
+
+}  // namespace
+}  // namespace kestrin::fuzz
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
+  using namespace kestrin::fuzz;
+  const Files files(TextOf(bytes, size));
+  const Import busy = Run(files, true);
+  const Import quiet = Run(files, false);
+  Require(busy.raised == quiet.raised && busy.models == quiet.models, "a dialog changes nothing");
+  Require(quiet.models[0] == Read<TechSubject>(files.texts[0]).models &&
+              quiet.models[1] == Read<NeutralSubject>(files.texts[1]).models &&
+              quiet.models[2] == Read<GeometrySubject>(files.texts[2]).models,
+          "the session gives what its readers give");
+  return 0;
+}

@@ -1,0 +1,89 @@
+#pragma once
+
+/// @file
+/// The bytes behind a framework string.
+
+#include <array>
+#include <cstddef>
+#include <cstring>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "kestrin/platform/export.h"
+
+namespace kestrin {
+
+/// Bytes with a zero byte behind them, in 16 bytes of memory: most texts of an export file are short, and a
+/// model keeps millions of them. Up to 15 bytes stand in the object itself, longer texts in a block on the
+/// heap that also knows its size.
+class KESTRIN_EXPORT StringStorage {
+ public:
+  StringStorage() noexcept = default;
+  explicit StringStorage(std::string_view text) { Assign(text); }
+  StringStorage(const StringStorage& other) : bytes_(other.IsInline() ? other.bytes_ : kEmpty) {
+    if (!other.IsInline()) AssignLong(other.View());
+  }
+  StringStorage(StringStorage&& other) noexcept : bytes_(other.bytes_) { other.bytes_ = kEmpty; }
+  StringStorage& operator=(const StringStorage& other) {
+    Assign(other.View());
+    return *this;
+  }
+  StringStorage& operator=(StringStorage&& other) noexcept {
+    std::swap(bytes_, other.bytes_);
+    return *this;
+  }
+  ~StringStorage() {
+    if (!IsInline()) FreeBlock();
+  }
+
+  /// The bytes, valid until they change. A zero byte follows them.
+  [[nodiscard]] std::string_view View() const noexcept {
+    return IsInline() ? std::string_view(bytes_.data(), kInlineSize - Tag()) : BlockView();
+  }
+  /// The bytes, to be changed in place.
+  [[nodiscard]] char* Data() noexcept { return IsInline() ? bytes_.data() : BlockData(); }
+
+  /// Replaces the bytes; the text may be a part of them.
+  void Assign(std::string_view text) {
+    if (text.size() > kInlineSize || !IsInline()) return AssignLong(text);
+    std::char_traits<char>::move(bytes_.data(), text.data(), text.size());
+    SetInlineSize(text.size());
+  }
+  /// Adds bytes at the end; the text may be a part of those that are there.
+  void Append(std::string_view text);
+  /// Drops bytes at the end, or adds zero bytes there.
+  void Resize(std::size_t size);
+
+ private:
+  struct Block;
+  static constexpr std::size_t kInlineSize = 15;
+  static constexpr unsigned char kBlockTag = 0xFF;
+  using Bytes = std::array<char, kInlineSize + 1>;
+  static constexpr Bytes kEmpty{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, kInlineSize};
+
+  /// How many inline bytes are free, so that it is the zero byte behind 15 of them; or that there is a block.
+  [[nodiscard]] unsigned char Tag() const noexcept { return static_cast<unsigned char>(bytes_[kInlineSize]); }
+  [[nodiscard]] bool IsInline() const noexcept { return Tag() != kBlockTag; }
+  void SetInlineSize(std::size_t size) noexcept {
+    bytes_[size] = '\0';
+    bytes_[kInlineSize] = static_cast<char>(kInlineSize - size);
+  }
+
+  [[nodiscard]] Block* GetBlock() const noexcept {
+    Block* block;
+    std::memcpy(&block, bytes_.data(), sizeof(void*));
+    return block;
+  }
+  [[nodiscard]] std::string_view BlockView() const noexcept;
+  [[nodiscard]] char* BlockData() const noexcept;
+  void FreeBlock() const noexcept;
+  void TakeBlock(Block* block) noexcept;
+  [[nodiscard]] std::size_t Capacity() const noexcept;
+  void SetSize(std::size_t size) noexcept;
+  void AssignLong(std::string_view text);
+
+  alignas(8) Bytes bytes_ = kEmpty;
+};
+
+}  // namespace kestrin

@@ -1,0 +1,66 @@
+#include "kestrin/geometry/record_pool.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <random>
+#include <thread>
+#include <vector>
+
+namespace kestrin {
+namespace {
+
+struct Numbered : PooledRecord {
+  explicit Numbered(int value) : number(value) {}
+  int number;
+  double room[3] = {};
+};
+struct Large : PooledRecord {
+  char room[100'000] = {};
+};
+
+using Records = std::vector<std::unique_ptr<Numbered>>;
+
+/// Mostly by the pool, some as hosts make them.
+Records MadeBy(RecordPool& pool, int count) {
+  Records records;
+  for (int i = 0; i < count; ++i) {
+    records.push_back(i % 100 == 99 ? std::make_unique<Numbered>(i) : pool.Make<Numbered>(i));
+  }
+  return records;
+}
+
+TEST(RecordPool, RecordsOutliveItAndEndInAnyOrder) {
+  constexpr int kCount = 10'000;
+  Records records;
+  {
+    RecordPool pool;
+    records = MadeBy(pool, kCount);
+    EXPECT_EQ(pool.Make<Large>()->room[99'999], '\0');
+    EXPECT_EQ(pool.Make<Numbered>(7)->number, 7);  // ends while the pool still makes records beside it
+  }
+  for (int i = 0; i < kCount; ++i) EXPECT_EQ(records[static_cast<std::size_t>(i)]->number, i);
+  std::shuffle(records.begin(), records.end(), std::mt19937(1));
+  records.resize(kCount / 2);
+}
+
+TEST(RecordPool, RecordsEndOnOtherThreadsWhileMoreAreMade) {
+  RecordPool pool;
+  std::vector<std::thread> threads;
+  for (int i = 0; i < 4; ++i) {
+    threads.emplace_back([records = MadeBy(pool, 20'000)]() mutable { records.clear(); });
+  }
+  for (std::thread& thread : threads) thread.join();
+}
+
+TEST(RecordPool, MakesRecordsSideBySide) {
+  RecordPool pool;
+  const auto first = pool.Make<Numbered>(1);
+  const auto second = pool.Make<Numbered>(2);
+  EXPECT_EQ(reinterpret_cast<std::uintptr_t>(second.get()) - reinterpret_cast<std::uintptr_t>(first.get()),
+            sizeof(Numbered));
+}
+
+}  // namespace
+}  // namespace kestrin
