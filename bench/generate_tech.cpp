@@ -36,7 +36,9 @@ void GenerateTech(std::ostream& out, std::uint64_t size) {
   std::uint64_t layers = 0;
   while (written < size / 2) write(Layer(++layers));
   write("# via rules: via, first layer, last layer\n");
-  for (std::uint64_t via = 1; written < size; ++via) write(ViaRule(via, std::max<std::uint64_t>(layers, 1)));
+  layers = std::max<std::uint64_t>(layers, 1);
+  std::uint64_t vias = 0;
+  while (written < size) write(ViaRule(++vias, layers));
 }
 
 }  // namespace kestrin::bench

@@ -95,7 +95,7 @@ void MeasureGrowth() {
   for (const std::string_view kind : {"traces", "geometry", "neutral"}) {
     for (const GeneratedFile& file : kGeneratedFiles) {
       if (file.kind != kind) continue;
-      for (const std::uint64_t megabytes : {10, 100, 1000}) inputs.AddLargeFile(file, megabytes);
+      for (const unsigned megabytes : {10U, 100U, 1000U}) inputs.AddLargeFile(file, megabytes);
     }
   }
   Results results = ResultsFor(inputs);
@@ -105,7 +105,7 @@ void MeasureGrowth() {
     }
   }
   RunRegistered();
-  WriteCircumstances(std::cout, results);
+  WriteCircumstances(std::cout);
   WriteGrowth(std::cout, results);
 }
 
@@ -129,7 +129,8 @@ bool MeasureAll(const Options& options) {
     }
   }
   RunRegistered();
-  WriteCircumstances(std::cout, results);
+  WriteCircumstances(std::cout);
+  WriteInputs(std::cout, results);
   WriteGoals(std::cout, results);
   WriteRatios(std::cout, results);
   WriteCosts(std::cout, results);

@@ -14,6 +14,7 @@ struct Cost {
   double seconds = 0.0;        ///< of the processor, the system's share included, until the model is built
   double systemSeconds = 0.0;  ///< the system's share of that, most of it for memory taken the first time
   double destructionSeconds = 0.0;  ///< until it is destroyed
+  double leftSeconds = 0.0;         ///< of what the heap then has to do until its free memory is in order
   std::uint64_t allocations = 0;    ///< until it is built
   std::uint64_t peakBytes = 0;      ///< of resident memory, above what was there before
 };

@@ -30,6 +30,7 @@ std::optional<Cost> Results::Medians(std::string_view kind, std::string_view wor
   return Cost{.seconds = Median(found->second, &Cost::seconds),
               .systemSeconds = Median(found->second, &Cost::systemSeconds),
               .destructionSeconds = Median(found->second, &Cost::destructionSeconds),
+              .leftSeconds = Median(found->second, &Cost::leftSeconds),
               .allocations = Median(found->second, &Cost::allocations),
               .peakBytes = Median(found->second, &Cost::peakBytes)};
 }

@@ -51,9 +51,13 @@ std::string Compiler() {
 
 }  // namespace
 
-void WriteCircumstances(std::ostream& out, const Results& results) {
+void WriteCircumstances(std::ostream& out) {
   out << Today() << ", " << Processor() << ", " << std::thread::hardware_concurrency() << " processors, "
-      << Compiler() << ". Inputs:";
+      << Compiler() << ".\n\n";
+}
+
+void WriteInputs(std::ostream& out, const Results& results) {
+  out << "Inputs:";
   const char* separator = " ";
   for (const auto& [kind, size] : results.Sizes()) {
     out << separator << kind << " " << Fixed(static_cast<double>(size.bytes) / 1e6, 1) << " MB, "
@@ -65,30 +69,32 @@ void WriteCircumstances(std::ostream& out, const Results& results) {
 
 void WriteCosts(std::ostream& out, const Results& results) {
   out << "| Input | Work | ns/line | of it system | MB/s | allocations per 1,000 lines | peak ÷ file | "
-         "destroying, ns/line |"
-         " destroying ÷ building |\n|---|---|--:|--:|--:|--:|--:|--:|--:|\n";
+         "destroying, ns/line | left to the heap, ns/line | destroying ÷ building |\n"
+         "|---|---|--:|--:|--:|--:|--:|--:|--:|--:|\n";
   for (const NamedWork& work : AllWorks()) {
     const std::optional<Cost> cost = results.Medians(work.kind, work.name);
     if (!cost) continue;
     const InputSize size = results.SizeOf(work.kind);
-    const auto lines = static_cast<double>(size.lines);
     const auto bytes = static_cast<double>(size.bytes);
-    out << "| " << work.kind << " | " << work.name << " | " << Fixed(cost->seconds * 1e9 / lines, 1) << " | "
-        << Fixed(cost->systemSeconds * 1e9 / lines, 1) << " | " << Fixed(bytes / cost->seconds / 1e6, 0)
-        << " | ";
-    if (BuildsNothing(work)) {
-      out << "– | – | – | – |\n";
-      continue;
-    }
-    out << Fixed(static_cast<double>(cost->allocations) * 1000 / lines, 0) << " | "
-        << (work.heap == Heap::kUsed ? kNothing : Fixed(static_cast<double>(cost->peakBytes) / bytes, 2))
-        << " | ";
-    if (work.name == kPlainC) {  // which frees nothing
-      out << "– | – |\n";
-      continue;
-    }
-    out << Fixed(cost->destructionSeconds * 1e9 / lines, 1) << " | "
-        << Fixed(cost->destructionSeconds / cost->seconds, 2) << " |\n";
+    const double thousandLines = static_cast<double>(size.lines) / 1000.0;
+    const auto perLine = [&](double seconds) { return Fixed(seconds * 1e6 / thousandLines, 1); };
+    const bool builds = !BuildsNothing(work);
+    const bool frees = builds && work.name != kPlainC;
+    const bool hasPeak = builds && work.heap == Heap::kFresh;
+    const std::string cells[] = {
+        std::string(work.kind),
+        std::string(work.name),
+        perLine(cost->seconds),
+        perLine(cost->systemSeconds),
+        Fixed(bytes / cost->seconds / 1e6, 0),
+        builds ? Fixed(static_cast<double>(cost->allocations) / thousandLines, 0) : kNothing,
+        hasPeak ? Fixed(static_cast<double>(cost->peakBytes) / bytes, 2) : kNothing,
+        frees ? perLine(cost->destructionSeconds) : kNothing,
+        frees ? perLine(cost->leftSeconds) : kNothing,
+        frees ? Fixed(cost->destructionSeconds / cost->seconds, 2) : kNothing,
+    };
+    for (const std::string& cell : cells) out << "| " << cell << " ";
+    out << "|\n";
   }
   out << "\n";
 }

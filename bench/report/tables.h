@@ -9,8 +9,11 @@
 
 namespace kestrin::bench {
 
-/// The day, the processor, the compiler and the sizes of the inputs.
-void WriteCircumstances(std::ostream& out, const Results& results);
+/// The day, the processor and the compiler.
+void WriteCircumstances(std::ostream& out);
+
+/// The sizes of what was read.
+void WriteInputs(std::ostream& out, const Results& results);
 
 /// Every work with its costs.
 void WriteCosts(std::ostream& out, const Results& results);

@@ -72,9 +72,10 @@ int ToInt(std::string_view text) {
 }
 
 double ToDouble(std::string_view text) {
+  double value = 0.0;
+  if (ReadPlainNumber(text, value) > 0) return value;
   const auto [digits, negative] = SkipSpaceAndSign(text);
   if (!StartsDecimal(digits)) return 0.0;
-  double value = 0.0;
   const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value);
   if (result.ec == std::errc::result_out_of_range) {
     value = IsHuge(digits) ? std::numeric_limits<double>::infinity() : 0.0;
