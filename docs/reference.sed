@@ -3,8 +3,8 @@
 # Constructors, copies and destructors that do what is usual are left out; where copying means something of its own,
 # the comment of the class says so.
 s/^ .*= (default|delete);.*//
-s/^ +(virtual )?~.*//
-s/^ +(\w+)\((const \1&( \w+)?)?\)( :.*|;)$//
+s/^ +(virtual )?~.*[;}]$//
+s/^ +(\w+)\((const \1&( \w+)?)?\)( :.*\}|;)$//
 s/^ +(\w+)& operator=\(const \1&( \w+)?\);$//
 
 # Members whose names say it all, as the comments of their files tell.

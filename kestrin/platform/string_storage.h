@@ -20,6 +20,8 @@ namespace kestrin {
 class KESTRIN_EXPORT StringStorage {
  public:
   StringStorage() noexcept = default;
+  ///@{
+  /// A storage owns its bytes alone: a copy has its own, and what is moved from keeps bytes to be replaced.
   explicit StringStorage(std::string_view text) { Assign(text); }
   StringStorage(const StringStorage& other) : bytes_(other.IsInline() ? other.bytes_ : kEmpty) {
     if (!other.IsInline()) AssignLong(other.View());
@@ -36,6 +38,7 @@ class KESTRIN_EXPORT StringStorage {
   ~StringStorage() {
     if (!IsInline()) FreeBlock();
   }
+  ///@}
 
   /// The bytes, valid until they change. A zero byte follows them.
   [[nodiscard]] std::string_view View() const noexcept {
