@@ -29,20 +29,7 @@ std::vector<std::string_view> LinesOf(std::string_view text) {
   return lines;
 }
 
-std::string Document(const std::function<void(tool::JsonWriter& json)>& write) {
-  char* bytes = nullptr;
-  std::size_t size = 0;
-  std::FILE* stream = open_memstream(&bytes, &size);
-  Require(stream != nullptr, "there is memory for a document");
-  {
-    const auto json = std::make_unique<tool::JsonWriter>(stream);
-    write(*json);
-    json->Finish();
-  }
-  std::fclose(stream);
-  std::string document(bytes, size);
-  std::free(bytes);
-
+std::string RequireJson(std::string document) {
   rapidjson::MemoryStream text(document.data(), document.size());
   rapidjson::Reader reader;
   rapidjson::BaseReaderHandler<> anything;

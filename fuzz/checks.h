@@ -6,7 +6,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -14,7 +13,7 @@
 
 #include "kestrin/platform/exceptions.h"
 #include "kestrin/session/import_report.h"
-#include "tool/model_json.h"
+#include "tests/support/model_dump.h"
 
 namespace kestrin::fuzz {
 
@@ -28,17 +27,13 @@ void Require(bool isKept, const char* promise);
 /// The lines of a text as the session's readers get them.
 [[nodiscard]] std::vector<std::string_view> LinesOf(std::string_view text);
 
-/// What is written, which must be a valid JSON document.
-[[nodiscard]] std::string Document(const std::function<void(tool::JsonWriter& json)>& write);
+/// Requires a valid JSON document, and returns it.
+[[nodiscard]] std::string RequireJson(std::string document);
 
 /// Models as JSON, whole.
 template <class... MODELS>
 [[nodiscard]] std::string Dump(const MODELS&... models) {
-  return Document([&](tool::JsonWriter& json) {
-    json.StartArray();
-    (tool::WriteJson(json, models), ...);
-    json.EndArray();
-  });
+  return RequireJson(test::Dump(models...));
 }
 
 /// Requires that every line is counted once, and every skipped line under its code.

@@ -97,8 +97,8 @@ Import Run(const Files& files, bool withDialog) {
   }
   // Of a Traces file that repeats long names the target of that reader knows what it may take.
   if (session.GetTraces()->m_pFilArray->IsEmpty()) memory.RequireInProportion(size);
-  import.models = {Dump(*session.GetTech()), Dump(*session.GetComps(), *session.GetNetList()),
-                   Dump(*session.GetGeom()), Dump(*session.GetTraces())};
+  import.models = {test::Dump(*session.GetTech()), test::Dump(*session.GetComps(), *session.GetNetList()),
+                   test::Dump(*session.GetGeom()), test::Dump(*session.GetTraces())};
   return import;
 }
 

@@ -42,7 +42,7 @@ class TracesScanner {
   /// What the rules read and write.
   struct State {
     struct Free {
-      // NOLINTNEXTLINE(cppcoreguidelines-owning-memory,cppcoreguidelines-no-malloc): the owner's own deleter
+      // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the owner's own deleter
       void operator()(void* bytes) const noexcept { std::free(bytes); }
     };
     using Memory = std::unique_ptr<void, Free>;

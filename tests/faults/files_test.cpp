@@ -1,0 +1,98 @@
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "kestrin/platform/exceptions.h"
+#include "tests/faults/faults.h"
+#include "tests/support/byte_soup.h"
+#include "tests/support/model_dump.h"
+#include "tests/support/sample_board.h"
+#include "tests/support/temporary_folder.h"
+
+namespace kestrin {
+namespace {
+
+using ReadFile = void (CPC_KESTRIN_GET::*)(CString);
+
+TEST(FaultyFile, AReadErrorEndsTheImportBehindTheLastWholeLine) {
+  struct Case {
+    ImportFile file;
+    const char* kind;
+    ReadFile read;
+  };
+  for (const Case& c : {Case{ImportFile::kTech, "tech", &CPC_KESTRIN_GET::TechFileParse},
+                        Case{ImportFile::kNeutral, "neutral", &CPC_KESTRIN_GET::NeutralFileParse},
+                        Case{ImportFile::kGeometry, "geometry", &CPC_KESTRIN_GET::GeomFileParse},
+                        Case{ImportFile::kTraces, "traces", &CPC_KESTRIN_GET::TraceFileParse}}) {
+    const std::string path = test::BoardFile(c.kind);
+    const std::string text = test::ContentOf(path);
+    CPC_KESTRIN_GET whole;
+    (whole.*c.read)(path);
+    for (std::size_t readable = 0; readable < text.size(); readable += 37) {
+      CPC_KESTRIN_GET session;
+      CWnd dialog;
+      CProgressCtrl bar(&dialog);
+      if (readable % 2 == 0) session.SetProgressPtr(&bar, &bar, &bar, &bar);
+      {
+        const test::FailingReads failing(static_cast<long>(readable));
+        EXPECT_THROW((session.*c.read)(path), CFileException);
+      }
+      const FileReport& report = session.GetReport().Of(c.file);
+      EXPECT_EQ(report.end, ReadingEnd::kStopped);
+      EXPECT_EQ(report.linesRead, std::count(text.begin(), text.begin() + static_cast<long>(readable), '\n'));
+      (session.*c.read)(path);
+      EXPECT_EQ(test::DumpOf(session), test::DumpOf(whole));
+    }
+  }
+}
+
+TEST(FaultyFile, WhatOpensButCannotBeReadRaisesAndWhatDoesNotOpenDoesNot) {
+  CPC_KESTRIN_GET session;
+  EXPECT_THROW(session.TraceFileParse("/proc/self/mem"), CFileException);
+  EXPECT_EQ(session.GetReport().Of(ImportFile::kTraces).end, ReadingEnd::kStopped);
+  const test::TemporaryFolder folder;
+  for (const std::string& path : {folder.Path(), folder.Path("missing"), folder.File("f", "x") + "/y",
+                                  std::string(5000, 'x'), std::string("/proc/self/fd/1000000")}) {
+    session.TraceFileParse(path);
+    EXPECT_EQ(session.GetReport().Of(ImportFile::kTraces).end, ReadingEnd::kNotOpened) << path;
+    EXPECT_TRUE(session.GetTraces()->m_pNetArray->IsEmpty());
+  }
+}
+
+/// Cuts a file short when it is refreshed.
+class ShrinkingDialog : public CWnd {
+ public:
+  ShrinkingDialog(std::string path, long size) : path_(std::move(path)), size_(size) {}
+  BOOL UpdateData(BOOL /*saveAndValidate*/) override {
+    return truncate(path_.c_str(), size_) == 0 ? TRUE : FALSE;
+  }
+
+ private:
+  std::string path_;
+  long size_;
+};
+
+TEST(FaultyFile, AFileThatShrinksWhileItIsReadEndsWhereItEnds) {
+  std::string text;
+  while (text.size() < 3'000'000) text += "$$create_via(V)\n";
+  const test::TemporaryFolder folder;
+  for (const long size : {0L, 1'000'003L}) {
+    const std::string path = folder.File("geometry", text);
+    CPC_KESTRIN_GET session;
+    ShrinkingDialog dialog(path, size);
+    CProgressCtrl bar(&dialog);
+    session.SetProgressPtr(&bar, nullptr, nullptr, nullptr);
+    session.GeomFileParse(path);
+    const FileReport& report = session.GetReport().Of(ImportFile::kGeometry);
+    EXPECT_EQ(report.end, ReadingEnd::kComplete);
+    EXPECT_LT(report.linesRead, 100'000);
+    EXPECT_GE(report.linesRead, size / 16);
+    EXPECT_EQ(session.GetGeom()->m_pVias->GetSize(), report.Imported());
+  }
+}
+
+}  // namespace
+}  // namespace kestrin

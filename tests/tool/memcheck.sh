@@ -1,0 +1,17 @@
+#!/bin/sh
+# Runs the tool on the sample board under memcheck: no wrong access, no use of what was never set, nothing lost.
+# Arguments: the tool, the folder of the sample board.
+set -eu
+tool=$1 board=$2
+
+memcheck() {
+  valgrind --quiet --error-exitcode=99 --leak-check=full --errors-for-leak-kinds=all "$tool" "$@" >/dev/null
+}
+files="--tech $board/board.tech --neutral $board/board.neutral --geometry $board/board.geometry
+       --traces $board/board.traces"
+memcheck summary "$board"
+memcheck check "$board" --strict --format json
+# shellcheck disable=SC2086  # a list of words
+memcheck dump $files
+# shellcheck disable=SC2086
+memcheck dump $files --strict
