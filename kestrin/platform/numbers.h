@@ -32,8 +32,8 @@ namespace kestrin {
 std::size_t ReadPlainNumber(std::string_view text, double& number) {
   constexpr std::uint64_t kExact = std::uint64_t{1} << 53;
   constexpr std::size_t kMostDigits = 19;  // of which no number overflows 64 bits
-  constexpr std::array kPowersOfTen{1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,
-                                    1e10, 1e11, 1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19};
+  static constexpr std::array kPowersOfTen{1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,
+                                           1e10, 1e11, 1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19};
   const char* const end = text.data() + text.size();
   const char* place = text.data();
   const bool negative = place != end && *place == '-';

@@ -5,18 +5,16 @@ namespace {
 
 bool Contains(const CharacterSet& set, char c) { return set[static_cast<unsigned char>(c)]; }
 
-/// The next field between separators, which do not separate between quotes. Only the first field of a line
-/// may begin between quotes, since what separates stands outside them.
+/// The next field between separators, which do not separate between quotes.
 template <class IsQuote>
 std::optional<std::string_view> NextQuotedField(std::string_view line, std::size_t& position, char separator,
-                                                IsQuote isQuote, bool& quoted) {
+                                                IsQuote isQuote) {
   std::size_t start = position;
-  while (start < line.size() && line[start] == separator && !quoted) ++start;
+  while (start < line.size() && line[start] == separator) ++start;
   std::size_t end = start;
-  bool inQuotes = quoted;
-  for (; end < line.size() && (line[end] != separator || inQuotes); ++end) inQuotes ^= isQuote(end);
+  bool quoted = false;
+  for (; end < line.size() && (line[end] != separator || quoted); ++end) quoted ^= isQuote(end);
   position = end;
-  quoted = inQuotes;
   if (start == end) return std::nullopt;
   return line.substr(start, end - start);
 }
@@ -38,18 +36,11 @@ std::optional<std::string_view> NextToken(std::string_view text, const Character
 
 std::optional<std::string_view> NextCommaField(std::string_view line, std::size_t& position) {
   const auto isQuote = [line](std::size_t i) { return line[i] == '"' && (i == 0 || line[i - 1] != '\\'); };
-  bool quoted = false;
-  return NextQuotedField(line, position, ',', isQuote, quoted);
+  return NextQuotedField(line, position, ',', isQuote);
 }
 
 std::optional<std::string_view> NextSpaceField(std::string_view line, std::size_t& position) {
-  bool quoted = false;
-  return NextSpaceField(line, position, quoted);
-}
-
-std::optional<std::string_view> NextSpaceField(std::string_view line, std::size_t& position, bool& quoted) {
-  return NextQuotedField(
-      line, position, ' ', [line](std::size_t i) { return line[i] == '\''; }, quoted);
+  return NextQuotedField(line, position, ' ', [line](std::size_t i) { return line[i] == '\''; });
 }
 
 std::optional<std::string_view> NextPropertyGroup(std::string_view line, std::size_t& position,

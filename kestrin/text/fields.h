@@ -34,11 +34,6 @@ void AddCharacters(CharacterSet& set, std::string_view characters);
 /// apostrophes stay in the field.
 [[nodiscard]] std::optional<std::string_view> NextSpaceField(std::string_view line, std::size_t& position);
 
-/// The same where apostrophes may stay open from line to line: quoted says whether one is open where the line
-/// begins, and at its end whether one is open there.
-[[nodiscard]] std::optional<std::string_view> NextSpaceField(std::string_view line, std::size_t& position,
-                                                             bool& quoted);
-
 /// The next group in parentheses, without the spaces that stand outside double quotes. Text that a closing
 /// parenthesis ends and that does not begin with an opening one is passed over; text behind the last closing
 /// parenthesis is a field whatever it begins with. The field stands in the scratch string.

@@ -4,17 +4,18 @@
 #include <memory>
 #include <utility>
 
+#include "kestrin/traces/record_values.h"
 #include "kestrin/traces/traces_reader.h"
 
 namespace kestrin {
 namespace {
 
 /// A line with another number of values than the two forms makes an empty fill.
-void Read(LineValues& values, CMTracesFIL& fill) {
-  const bool isLong = values.Count() == 21;
-  if (!isLong && values.Count() != 16) return;
-  fill.m_sName1 = values.Unquoted(1);
-  fill.m_sName2 = values.Unquoted(2);
+void Read(LineFields& values, CMTracesFIL& fill) {
+  const bool isLong = CountValues(values) == 21;
+  if (!isLong && CountValues(values) != 16) return;
+  fill.m_sName1 = WithoutApostrophes(values.Text(1));
+  fill.m_sName2 = WithoutApostrophes(values.Text(2));
   fill.m_sValue3 = values.Text(3);
   fill.m_nValue4 = values.Int(4);
   fill.m_nValue5 = values.Int(5);
@@ -38,11 +39,11 @@ void Read(LineValues& values, CMTracesFIL& fill) {
 }
 
 /// A line with another number of values than the three forms makes an empty area.
-void Read(LineValues& values, CMTracesArea& area) {
-  const std::size_t count = values.Count();
+void Read(LineFields& values, CMTracesArea& area) {
+  const std::size_t count = CountValues(values);
   if (count != 6 && count != 8 && count != 13) return;
-  area.m_sName1 = values.Unquoted(1);
-  area.m_sName2 = values.Unquoted(2);
+  area.m_sName1 = WithoutApostrophes(values.Text(1));
+  area.m_sName2 = WithoutApostrophes(values.Text(2));
   area.m_sValue3 = values.Text(3);
   area.m_nValue4 = values.Int(4);
   area.m_dValue5 = values.Double(5);
@@ -55,11 +56,11 @@ void Read(LineValues& values, CMTracesArea& area) {
   area.m_dValue11 = values.Double(11);
 }
 
-void Read(LineValues& values, CMTracesTTI& record) {
+void Read(LineFields& values, CMTracesTTI& record) {
   record.m_dValue1 = values.Double(1);
   record.m_dValue2 = values.Double(2);
   record.m_sValue3 = values.Text(3);
-  if (values.Count() == 3) return;
+  if (CountValues(values) == 3) return;
   record.m_nValue4 = values.Int(4);
   record.m_dValue5 = values.Double(5);
   record.m_dValue6 = values.Double(6);

@@ -9,12 +9,13 @@
 
 #include "kestrin/platform/characters.h"
 #include "kestrin/platform/numbers.h"
+#include "kestrin/traces/record_values.h"
 #include "kestrin/traces/traces_reader.h"
 
 namespace kestrin {
 namespace {
 
-void Read(LineValues& values, CMTracesWIRANT& record) {
+void Read(LineFields& values, CMTracesWIRANT& record) {
   record.m_nValue1 = values.Int(1);
   record.m_dValue2 = values.Double(2);
   record.m_dValue3 = values.Double(3);
@@ -22,7 +23,7 @@ void Read(LineValues& values, CMTracesWIRANT& record) {
   record.m_dValue5 = values.Double(5);
 }
 
-void Read(LineValues& values, CMTracesINCANT& record) {
+void Read(LineFields& values, CMTracesINCANT& record) {
   record.m_nValue1 = values.Int(1);
   record.m_dValue2 = values.Double(2);
   record.m_dValue3 = values.Double(3);
@@ -32,7 +33,7 @@ void Read(LineValues& values, CMTracesINCANT& record) {
   record.m_nValue7 = ToInt(values.Double(7));
 }
 
-void Read(LineValues& values, CMTracesGUICHG& record) {
+void Read(LineFields& values, CMTracesGUICHG& record) {
   record.m_dValue1 = values.Double(1);
   record.m_dValue2 = values.Double(2);
   record.m_nValue3 = values.Int(3);
@@ -42,12 +43,11 @@ void Read(LineValues& values, CMTracesGUICHG& record) {
 }
 
 /// As far as the line goes.
-void Read(LineValues& values, CMTracesSEG& record) {
-  if (values.Has(1)) record.m_dValue1 = values.Double(1);
-  if (values.Has(2)) record.m_dValue2 = values.Double(2);
+void Read(LineFields& values, CMTracesSEG& record) {
+  values.Read(1, record.m_dValue1);
+  values.Read(2, record.m_dValue2);
   if (values.Has(3)) record.m_nValue3 = values.Int(3);
-  if (values.Has(4)) {
-    const double number = values.Double(4);
+  if (double number = 0.0; values.Read(4, number)) {
     const std::string_view text = values.Text(4);
     if (std::all_of(text.begin(), text.end(), IsDigit)) {
       record.m_dValue4 = number;
@@ -62,14 +62,14 @@ void Read(LineValues& values, CMTracesSEG& record) {
 
 void TracesReader::AddNet() {
   auto net = records_.Make<CMTracesNET>();
-  net->m_sName = values_.Unquoted(2);
+  net->m_sName = WithoutApostrophes(values_.Text(2));
   net_ = model_.m_pNetArray->Append(std::move(net));
   fill_ = nullptr;
 }
 
 bool TracesReader::AddWir() {
   constexpr std::size_t kComplete = 5;
-  if (values_.Count() >= kComplete) return AddWithSegments(&CMTracesNET::m_pWirArray);
+  if (CountValues(values_) >= kComplete) return AddWithSegments(&CMTracesNET::m_pWirArray);
   if (net_ == nullptr) return false;
   net_->m_pWirArray->Append(records_.Make<CMTracesWIRANT>());
   return true;
@@ -78,8 +78,8 @@ bool TracesReader::AddWir() {
 bool TracesReader::AddInc() { return AddWithSegments(&CMTracesNET::m_pIncArray); }
 
 bool TracesReader::AddAnt() {
-  return values_.Count() == 5 ? AddWithSegments(&CMTracesNET::m_pAntWirArray)
-                              : AddWithSegments(&CMTracesNET::m_pAntIncArray);
+  return CountValues(values_) == 5 ? AddWithSegments(&CMTracesNET::m_pAntWirArray)
+                                   : AddWithSegments(&CMTracesNET::m_pAntIncArray);
 }
 
 bool TracesReader::AddGui() { return AddGuiOrChg(&CMTracesNET::m_pGuiArray); }

@@ -9,6 +9,7 @@
 
 #include "kestrin/platform/characters.h"
 #include "kestrin/text/trim.h"
+#include "kestrin/traces/record_values.h"
 
 namespace kestrin {
 namespace {
@@ -45,9 +46,9 @@ struct TracesReader::RecordKind {
         owner{recordCode, ownerDemand},
         read(function) {}
 
-  [[nodiscard]] bool Accepts(LineValues& line) const {
-    if (line.IsCodeAlone()) return false;  // never read
-    return counts == ValueCounts{} || std::find(counts.begin(), counts.end(), line.Count()) != counts.end();
+  [[nodiscard]] bool Accepts(LineFields& line) const {
+    if (line.AtEnd()) return false;  // a code that stands alone is never read
+    return counts.front() == 0 || std::find(counts.begin(), counts.end(), CountValues(line)) != counts.end();
   }
 
   Keyword code;
@@ -91,17 +92,22 @@ const TracesReader::RecordKind* TracesReader::FindKind(Keyword code) {
 
 LineOutcome TracesReader::ReadLine(std::string_view line) {
   ++lineNumber_;
-  const bool beginsQuoted = values_.LeavesQuoteOpen();
-  values_.Begin(line);
-  if (beginsQuoted) return SkipQuoted(line);
+  const bool beginsQuoted = values_.IsQuoted();
+  values_.Begin(line, beginsQuoted);
+  const LineOutcome outcome = beginsQuoted ? SkipQuoted(line) : ReadRecord(line);
+  values_.Finish();
+  return outcome;
+}
+
+LineOutcome TracesReader::ReadRecord(std::string_view line) {
   quotingLine_ = lineNumber_;
-  const Keyword code(values_.Code());
+  const Keyword code(values_.Has(0) ? values_.Text(0) : std::string_view());
   if (code == Keyword("#") && values_.Has(1) && values_.Text(1) == "NET") {
     AddNet();
     return LineOutcome::Imported();
   }
   if (const RecordKind* kind = FindKind(code)) {
-    if (!kind->Accepts(values_)) return LineOutcome::WrongValueCount(kind->values, values_.Count());
+    if (!kind->Accepts(values_)) return LineOutcome::WrongValueCount(kind->values, CountValues(values_));
     return (this->*kind->read)() ? LineOutcome::Imported()
                                  : LineOutcome::Skipped(SkipCode::kNoOwner, kind->owner);
   }
@@ -122,7 +128,7 @@ bool TracesReader::SetUnits() {
 }
 
 bool TracesReader::SetSt() {
-  if (values_.Count() == 4) {
+  if (CountValues(values_) == 4) {
     model_.m_dStValue1 = values_.Double(1);
     model_.m_dStValue2 = values_.Double(2);
     model_.m_nStValue3 = values_.Int(3);

@@ -8,8 +8,8 @@
 
 #include "kestrin/geometry/record_pool.h"
 #include "kestrin/text/keyword.h"
+#include "kestrin/text/line_fields.h"
 #include "kestrin/text/line_outcome.h"
-#include "kestrin/traces/line_values.h"
 #include "kestrin/traces/traces_model.h"
 
 namespace kestrin {
@@ -28,6 +28,7 @@ class TracesReader {
  private:
   struct RecordKind;
   static const RecordKind* FindKind(Keyword code);
+  LineOutcome ReadRecord(std::string_view line);
   LineOutcome SkipQuoted(std::string_view line);
 
   // A function for every record code. It reads the values first, so that a missing one raises whatever the
@@ -62,7 +63,7 @@ class TracesReader {
   void AddFillFor(const CMTracesArea& area);
 
   CMTraces& model_;
-  LineValues values_;  // of the current line
+  LineFields values_;  // of the current line, the code first
   RecordPool records_;
   std::int64_t lineNumber_ = 0;
   std::int64_t quotingLine_ = 0;  // which left the apostrophe open, where one is open
