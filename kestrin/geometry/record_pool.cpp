@@ -91,8 +91,6 @@ void* PooledRecord::operator new(std::size_t size) {
   return block->Records();
 }
 
-void* PooledRecord::operator new(std::size_t size, RecordPool& pool) { return pool.Allocate(size); }
-
 void PooledRecord::operator delete(void* record) noexcept {
   if (record != nullptr) RecordPool::Slab::Of(record)->first->LetGo(1);
 }

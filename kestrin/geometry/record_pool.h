@@ -51,4 +51,6 @@ class RecordPool {
   std::byte* end_ = nullptr;   // of the slab
 };
 
+inline void* PooledRecord::operator new(std::size_t size, RecordPool& pool) { return pool.Allocate(size); }
+
 }  // namespace kestrin
