@@ -63,7 +63,7 @@ LineOutcome PlacementRegion(ReaderState& state) {
 
 LineOutcome PowerNetNames(ReaderState& state) {
   CStringArray& names = *Board(state).m_pPowerNetNames;
-  for (std::size_t number = 2; number <= state.values.Count(); ++number) {
+  for (std::size_t number = 2; state.values.HasAtLeast(number); ++number) {
     names[names.Add(state.values[number])].Remove('\'');
   }
   return LineOutcome::Imported();

@@ -1,32 +1,28 @@
 #include "kestrin/geom/bracket_scans.h"
 
-#include "kestrin/platform/numbers.h"
+#include "kestrin/geom/point_values.h"
 #include "kestrin/text/trim.h"
 
 namespace kestrin {
 namespace {
 
-bool HasOpening(std::string_view value) { return value.find('[') != std::string_view::npos; }
-bool HasClosing(std::string_view value) { return value.find(']') != std::string_view::npos; }
-
 /// Returns whether a "[" was seen.
-bool Scan(const Values& values, std::size_t first, const BracketScan& scan, std::vector<double>& numbers) {
-  const auto append = [&](std::string_view text, bool emptyIsZero) {
-    if (emptyIsZero || !text.empty()) numbers.push_back(ToDouble(text));
+bool Scan(ValueCut values, const BracketScan& scan, std::vector<double>& numbers) {
+  const auto append = [&](const PointValue& value, bool emptyIsZero) {
+    if (emptyIsZero || !value.isEmpty) numbers.push_back(value.number);
   };
   bool bracketed = false;
   bool open = false;
-  for (std::size_t number = first; number <= values.Count(); ++number) {
-    const std::string_view value = values[number];
-    if (HasOpening(value)) {
-      append(WithoutLeading(value, '['), scan.bareBracketIsZero);
+  while (const auto value = NextPointValue(values)) {
+    if (value->bracket == Bracket::kOpening) {
+      append(*value, scan.bareBracketIsZero);
       bracketed = open = true;
-    } else if (HasClosing(value)) {
-      if (open || scan.readsCloseWhenShut) append(WithoutTrailing(value, ']'), scan.bareBracketIsZero);
+    } else if (value->bracket == Bracket::kClosing) {
+      if (open || scan.readsCloseWhenShut) append(*value, scan.bareBracketIsZero);
       if (open && scan.stopsAtClose) break;
       open = false;
     } else if (open) {
-      append(value, scan.emptyValueIsZero);
+      append(*value, scan.emptyValueIsZero);
     }
   }
   return bracketed;
@@ -34,25 +30,23 @@ bool Scan(const Values& values, std::size_t first, const BracketScan& scan, std:
 
 }  // namespace
 
-void ReadPoints(const Values& values, std::size_t first, const BracketScan& scan,
-                const PendingPoints& pending, std::vector<double>& numbers) {
+void ReadPoints(const ValueCut& values, const BracketScan& scan, const PendingPoints& pending,
+                std::vector<double>& numbers) {
   numbers.clear();
-  if (Scan(values, first, scan, numbers)) return;
+  if (Scan(values, scan, numbers)) return;
   for (const PendingValue& value : pending.Values()) {
     if (scan.emptyPendingIsZero || !value.isEmpty) numbers.push_back(value.number);
   }
 }
 
-BracketedPoint ReadPoint(const Values& values, std::size_t first, const PendingPoints& pending) {
+BracketedPoint ReadPoint(ValueCut values, const PendingPoints& pending) {
   std::optional<double> x;
   std::optional<double> y;
-  for (std::size_t number = first; number <= values.Count(); ++number) {
-    const std::string_view value = values[number];
-    if (HasOpening(value)) {
-      if (!x) x = ToDouble(WithoutLeading(value, '['));
-    } else if (HasClosing(value)) {
-      if (!y) y = ToDouble(WithoutTrailing(value, ']'));
-    }
+  while (!x || !y) {
+    const auto value = NextPointValue(values);
+    if (!value) break;
+    if (value->bracket == Bracket::kOpening && !x) x = value->number;
+    if (value->bracket == Bracket::kClosing && !y) y = value->number;
   }
   BracketedPoint point{x.value_or(0.0), y.value_or(0.0)};
   if (!x) {
@@ -62,9 +56,10 @@ BracketedPoint ReadPoint(const Values& values, std::size_t first, const PendingP
   return point;
 }
 
-std::optional<std::string_view> FirstBracketed(const Values& values) {
-  for (std::size_t number = 2; number <= values.Count(); ++number) {
-    if (HasOpening(values.Raw(number))) return WithoutLeading(values[number], '[');
+std::optional<std::string_view> FirstBracketed(Values& values) {
+  for (std::size_t number = 2; values.HasAtLeast(number); ++number) {
+    const std::string_view value = values[number];
+    if (value.find('[') != std::string_view::npos) return WithoutLeading(value, '[');
   }
   return std::nullopt;
 }

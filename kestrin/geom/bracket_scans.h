@@ -1,9 +1,8 @@
 #pragma once
 
 /// @file
-/// Points in square brackets, a number a value: `[x1, y1, x2, y2]` is cut into `[x1`, ` y1`, ` x2`, ` y2]`.
+/// Points in square brackets, a number a value.
 
-#include <cstddef>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -32,10 +31,10 @@ inline constexpr BracketScan kKeepoutScan         {true,  true,  true,  false, t
 inline constexpr BracketScan kPlacementOutlineScan{true,  false, true,  false, true };
 // clang-format on
 
-/// Reads a list of points from a line's values, from the first that may hold one on, into the numbers, which
-/// are replaced. Without a "[" there, the pending values follow what was read.
-void ReadPoints(const Values& values, std::size_t first, const BracketScan& scan,
-                const PendingPoints& pending, std::vector<double>& numbers);
+/// Reads a list of points from those values of a line that may hold one into the numbers, which are replaced.
+/// Without a "[" there, the pending values follow what was read.
+void ReadPoints(const ValueCut& values, const BracketScan& scan, const PendingPoints& pending,
+                std::vector<double>& numbers);
 
 /// A single point.
 struct BracketedPoint {
@@ -43,11 +42,11 @@ struct BracketedPoint {
   double y = 0.0;
 };
 
-/// Reads the first value with "[" as x and the first with "]" and no "[" as y, from a value on. Without a "["
-/// there, the first two pending values are x and y, as far as there are any.
-[[nodiscard]] BracketedPoint ReadPoint(const Values& values, std::size_t first, const PendingPoints& pending);
+/// Reads the first value with "[" as x and the first with "]" and no "[" as y. Without a "[" there, the first
+/// two pending values are x and y, as far as there are any.
+[[nodiscard]] BracketedPoint ReadPoint(ValueCut values, const PendingPoints& pending);
 
 /// The text of the first value with "[" behind the line's first value, without the bracket.
-[[nodiscard]] std::optional<std::string_view> FirstBracketed(const Values& values);
+[[nodiscard]] std::optional<std::string_view> FirstBracketed(Values& values);
 
 }  // namespace kestrin

@@ -15,7 +15,7 @@ inline constexpr RecordRule kBracketRule{"the attribute", "a number in square br
 
 /// The number in the first value with "[" goes to the target; without one the line does nothing.
 template <class NUMBER>
-LineOutcome AssignBracketed(const Values& values, NUMBER& target) {
+LineOutcome AssignBracketed(Values& values, NUMBER& target) {
   const auto text = FirstBracketed(values);
   if (!text) return LineOutcome::Skipped(SkipCode::kMissingValue, kBracketRule);
   if constexpr (std::is_integral_v<NUMBER>) {

@@ -20,7 +20,7 @@ LineOutcome AddDrawObj(ReaderState& state, std::string_view arguments,
                        void (*read)(ReaderState& state, OBJECT& object)) {
   CMGeomDrawObjArray* target = state.geometry.DrawObjs();
   if (target != nullptr) {
-    state.values.CutAtCommas(arguments);
+    state.values.Cut(arguments, Commas::kEvery);
     auto object = state.records.Make<OBJECT>();
     read(state, *object);
     target->Append(std::move(object));
@@ -31,8 +31,8 @@ LineOutcome AddDrawObj(ReaderState& state, std::string_view arguments,
 
 /// Calls read with every value that is not empty once cleaned: its number, its text and its raw text.
 template <class READ>
-void ForEachFilled(const Values& values, READ read) {
-  for (std::size_t number = 1; number <= values.Count(); ++number) {
+void ForEachFilled(Values& values, READ read) {
+  for (std::size_t number = 1; values.HasAtLeast(number); ++number) {
     const std::string_view value = values[number];
     if (!value.empty()) read(number, value, values.Raw(number));
   }
@@ -42,7 +42,7 @@ bool Contains(std::string_view text, std::string_view part) { return text.find(p
 
 void Read(ReaderState& state, CMGeomPath& path) {
   path.m_sLayer = state.values[1];
-  path.m_dWidth = ToDouble(state.values.Raw(2));
+  path.m_dWidth = ToDouble(TrimmedLeft(state.values.Raw(2)));
   Append(*path.m_pCoords, state.TakePoints(3, kPathScan));
 }
 
@@ -54,7 +54,7 @@ void Read(ReaderState& state, CMGeomArc& arc) {
     if (number == 1) {
       arc.m_sLayer = value;
     } else if (number <= 8) {
-      *numbers[number - 2] = ToDouble(raw);
+      *numbers[number - 2] = ToDouble(TrimmedLeft(raw));
     } else if (Contains(value, "@radius")) {
       arc.m_nArcMode = 1;
     } else if (Contains(value, "@center")) {
@@ -78,7 +78,7 @@ void Read(ReaderState& state, CMGeomCircle& circle) {
     if (number == 1) {
       circle.m_sLayer = value;
     } else if (number <= 5) {
-      *numbers[number - 2] = ToDouble(raw);
+      *numbers[number - 2] = ToDouble(TrimmedLeft(raw));
     }
   });
   if (state.values[2].empty()) {
@@ -122,7 +122,7 @@ LineOutcome Circle(ReaderState& state, std::string_view arguments) {
 LineOutcome Text(ReaderState& state, std::string_view arguments) {
   auto* target = state.geometry.Texts();
   if (target == nullptr) return LineOutcome::Skipped(SkipCode::kNoOwner, kTextRule);
-  state.values.CutAtUnquotedCommas(arguments);
+  state.values.Cut(arguments, Commas::kUnquoted);
   auto text = state.records.Make<CMGeomText>();
   ForEachFilled(state.values, [&](std::size_t number, std::string_view value, std::string_view /*raw*/) {
     switch (number) {
@@ -151,8 +151,8 @@ LineOutcome Text(ReaderState& state, std::string_view arguments) {
 LineOutcome Add(ReaderState& state, std::string_view arguments) {
   auto* target = state.geometry.Adds();
   if (target == nullptr) return LineOutcome::Skipped(SkipCode::kNoOwner, kAddRule);
-  state.values.CutAtCommas(arguments);
-  const Values& values = state.values;
+  state.values.Cut(arguments, Commas::kEvery);
+  Values& values = state.values;
   auto add = state.records.Make<CMGeomAdd>();
   add->m_sArg0 = values[1];
   add->m_dArg1 = ToDouble(values[2]);

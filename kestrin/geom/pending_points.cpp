@@ -1,7 +1,6 @@
 #include "kestrin/geom/pending_points.h"
 
-#include "kestrin/platform/numbers.h"
-#include "kestrin/text/fields.h"
+#include "kestrin/geom/point_values.h"
 #include "kestrin/text/trim.h"
 
 namespace kestrin {
@@ -20,18 +19,32 @@ std::string_view Bracketed(std::string_view arguments) {
 
 void PendingPoints::Begin(std::string_view arguments) {
   Clear();
-  const std::string_view points = Bracketed(arguments);
-  std::size_t position = 0;
-  while (const auto value = NextToken(points, kComma, position)) Add(*value);
+  AddEach(Bracketed(arguments), [this](std::string_view value) { Add(value); });
 }
 
 void PendingPoints::Continue(std::string_view arguments) {
   // Blanks go, and a value of blanks alone with them.
-  const std::string_view points = Bracketed(arguments);
-  std::size_t position = 0;
-  while (const auto value = NextToken(points, kComma, position)) {
-    const std::string_view text = WithoutBlanks(*value);
+  AddEach(Bracketed(arguments), [this](std::string_view value) {
+    const std::string_view text = WithoutBlanks(value);
     if (!text.empty()) Add(text);
+  });
+}
+
+/// Adds plain values in one step, and calls addOther with the others.
+template <class ADD>
+void PendingPoints::AddEach(std::string_view points, ADD addOther) {
+  ValueCut cut(points, Commas::kEvery);
+  for (;;) {
+    PointValue plain;
+    const std::size_t length = ReadPlainValue(cut.Rest(), plain);
+    if (length > 0 && plain.bracket == Bracket::kNone) {
+      values_.push_back({plain.number, false});
+      cut.Skip(length);
+    } else if (const auto value = cut.Next()) {
+      addOther(*value);
+    } else {
+      return;
+    }
   }
 }
 

@@ -34,6 +34,8 @@ class PendingPoints {
   }
 
  private:
+  template <class ADD>
+  void AddEach(std::string_view points, ADD addOther);
   void Add(std::string_view value);
   std::string_view WithoutBlanks(std::string_view text);
 

@@ -22,14 +22,14 @@ struct ReaderState {
 
   /// The points of the current line, or the pending ones, which are then gone either way.
   [[nodiscard]] const std::vector<double>& TakePoints(std::size_t firstValue, const BracketScan& scan) {
-    ReadPoints(values, firstValue, scan, pending, numbers);
+    ReadPoints(values.From(firstValue), scan, pending, numbers);
     pending.Clear();
     return numbers;
   }
 
   /// The same for a single point.
   [[nodiscard]] BracketedPoint TakePoint(std::size_t firstValue) {
-    const BracketedPoint point = ReadPoint(values, firstValue, pending);
+    const BracketedPoint point = ReadPoint(values.From(firstValue), pending);
     pending.Clear();
     return point;
   }

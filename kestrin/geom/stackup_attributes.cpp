@@ -9,7 +9,7 @@ LineOutcome LayerDefinition(ReaderState& state, std::string_view name) {
   auto layer = std::make_unique<CMGeomLayerDEF>();
   layer->m_sDefinition = name;
   layer->m_sDefinition.MakeUpper();
-  for (std::size_t number = 2; number <= state.values.Count(); ++number) {
+  for (std::size_t number = 2; state.values.HasAtLeast(number); ++number) {
     const std::string_view value = state.values[number];
     const bool hasBracket = value.find_first_of("[]") != std::string_view::npos;
     if (!value.empty() && !hasBracket) layer->m_pValues->Add(value);

@@ -4,16 +4,8 @@
 
 namespace kestrin {
 
-void Values::CutAtCommas(std::string_view text) {
-  values_.clear();
-  std::size_t position = 0;
-  while (const auto value = NextToken(text, kComma, position)) values_.push_back(*value);
-}
-
-void Values::CutAtUnquotedCommas(std::string_view text) {
-  values_.clear();
-  std::size_t position = 0;
-  while (const auto value = NextCommaField(text, position)) values_.push_back(*value);
+std::optional<std::string_view> ValueCut::Next() {
+  return commas_ == Commas::kEvery ? NextToken(text_, ',', position_) : NextCommaField(text_, position_);
 }
 
 }  // namespace kestrin

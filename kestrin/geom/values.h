@@ -4,6 +4,8 @@
 /// The values of a line.
 
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -11,27 +13,76 @@
 
 namespace kestrin {
 
-/// The values between the commas of a line, numbered from 1, as views into it. No value is empty, though it
-/// may be once it is cleaned; a value that the line does not have is. Kept from line to line, so that cutting
-/// takes no memory.
-class Values {
+/// Which commas separate values.
+enum class Commas : std::uint8_t {
+  kEvery,
+  kUnquoted,  ///< those between double quotes do not
+};
+
+/// Cuts a text into its values, one after the other. No value is empty, though it may be once it is cleaned.
+class ValueCut {
  public:
-  /// Every comma separates, also between quotes.
-  void CutAtCommas(std::string_view text);
-  /// Commas between double quotes do not separate.
-  void CutAtUnquotedCommas(std::string_view text);
+  ValueCut() = default;
+  ValueCut(std::string_view text, Commas commas) : text_(text), commas_(commas) {}
 
-  [[nodiscard]] std::size_t Count() const { return values_.size(); }
-  [[nodiscard]] bool Has(std::size_t number) const { return number >= 1 && number <= values_.size(); }
+  /// The next value as it stands in the text, or nothing at its end.
+  [[nodiscard]] std::optional<std::string_view> Next();
+  /// Cuts what follows the last value in another way.
+  void GoOnWith(Commas commas) { commas_ = commas; }
 
-  /// A value as it stands in the line.
-  [[nodiscard]] std::string_view Raw(std::size_t number) const {
-    return Has(number) ? values_[number - 1] : std::string_view();
-  }
-  /// A value without blanks, and then quotes, at either end.
-  [[nodiscard]] std::string_view operator[](std::size_t number) const { return Cleaned(Raw(number)); }
+  ///@{
+  /// For those who find a value by themselves: the place behind the last value, and steps to another one.
+  [[nodiscard]] std::string_view Rest() const { return text_.substr(position_); }
+  void Skip(std::size_t length) { position_ += length; }
+  ///@}
 
  private:
+  std::string_view text_;
+  std::size_t position_ = 0;
+  Commas commas_ = Commas::kEvery;
+};
+
+/// The values between the commas of a line, numbered from 1, as views into it: cut as far as they are asked
+/// for. A value that the line does not have is empty. Kept from line to line, so that cutting takes no
+/// memory.
+class Values {
+ public:
+  /// Begins with another line.
+  void Cut(std::string_view text, Commas commas) {
+    cut_ = ValueCut(text, commas);
+    values_.clear();
+  }
+  /// Leaves the values that have been asked for as they are, and cuts the others in another way.
+  void GoOnWith(Commas commas) { cut_.GoOnWith(commas); }
+
+  [[nodiscard]] bool HasAtLeast(std::size_t count) {
+    while (values_.size() < count) {
+      const auto value = cut_.Next();
+      if (!value) return false;
+      values_.push_back(*value);
+    }
+    return true;
+  }
+  [[nodiscard]] std::size_t Count() {
+    while (HasAtLeast(values_.size() + 1)) continue;
+    return values_.size();
+  }
+
+  /// A value as it stands in the line.
+  [[nodiscard]] std::string_view Raw(std::size_t number) {
+    return HasAtLeast(number) ? values_[number - 1] : std::string_view();
+  }
+  /// A value without blanks, and then quotes, at either end.
+  [[nodiscard]] std::string_view operator[](std::size_t number) { return Cleaned(Raw(number)); }
+
+  /// The values from a number on, of which none has been asked for yet.
+  [[nodiscard]] ValueCut From(std::size_t number) {
+    static_cast<void>(HasAtLeast(number - 1));
+    return cut_;
+  }
+
+ private:
+  ValueCut cut_;  // stands behind the last of the values
   std::vector<std::string_view> values_;
 };
 

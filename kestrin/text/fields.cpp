@@ -3,7 +3,15 @@
 namespace kestrin {
 namespace {
 
-bool Contains(const CharacterSet& set, char c) { return set[static_cast<unsigned char>(c)]; }
+template <class IsDelimiter>
+std::optional<std::string_view> NextTokenUntil(std::string_view text, std::size_t& position,
+                                               IsDelimiter isDelimiter) {
+  while (position < text.size() && isDelimiter(text[position])) ++position;
+  if (position >= text.size()) return std::nullopt;
+  const std::size_t start = position;
+  while (position < text.size() && !isDelimiter(text[position])) ++position;
+  return text.substr(start, position - start);
+}
 
 /// The next field between separators, which do not separate between quotes.
 template <class IsQuote>
@@ -27,11 +35,11 @@ void AddCharacters(CharacterSet& set, std::string_view characters) {
 
 std::optional<std::string_view> NextToken(std::string_view text, const CharacterSet& delimiters,
                                           std::size_t& position) {
-  while (position < text.size() && Contains(delimiters, text[position])) ++position;
-  if (position >= text.size()) return std::nullopt;
-  const std::size_t start = position;
-  while (position < text.size() && !Contains(delimiters, text[position])) ++position;
-  return text.substr(start, position - start);
+  return NextTokenUntil(text, position, [&](char c) { return delimiters[static_cast<unsigned char>(c)]; });
+}
+
+std::optional<std::string_view> NextToken(std::string_view text, char delimiter, std::size_t& position) {
+  return NextTokenUntil(text, position, [=](char c) { return c == delimiter; });
 }
 
 std::optional<std::string_view> NextCommaField(std::string_view line, std::size_t& position) {

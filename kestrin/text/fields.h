@@ -26,6 +26,10 @@ void AddCharacters(CharacterSet& set, std::string_view characters);
 [[nodiscard]] std::optional<std::string_view> NextToken(std::string_view text, const CharacterSet& delimiters,
                                                         std::size_t& position);
 
+/// The same for one delimiter.
+[[nodiscard]] std::optional<std::string_view> NextToken(std::string_view text, char delimiter,
+                                                        std::size_t& position);
+
 /// The next field between commas. Commas inside double quotes do not separate; a quote directly behind a
 /// backslash neither opens nor closes. Quotes and backslashes stay in the field.
 [[nodiscard]] std::optional<std::string_view> NextCommaField(std::string_view line, std::size_t& position);

@@ -31,7 +31,7 @@ class NameTable {
   [[nodiscard]] constexpr const ROW* Find(std::string_view name) const {
     for (std::size_t slot = SlotOf(name); slots_[slot] != kFree; slot = (slot + 1) % kSlots) {
       const ROW& row = rows_[slots_[slot] - 1];
-      if (EqualIgnoringCase(row.name, name)) return &row;
+      if (row.name == name || EqualIgnoringCase(row.name, name)) return &row;
     }
     return nullptr;
   }
@@ -41,10 +41,11 @@ class NameTable {
   static constexpr std::uint8_t kFree = 0;
   static_assert(COUNT < 256, "a slot holds the number of a row in a byte");
 
+  /// Of the length and two characters, which is enough to tell the names of a table apart.
   [[nodiscard]] static constexpr std::size_t SlotOf(std::string_view name) {
-    std::uint32_t hash = 2166136261U;  // FNV-1a
-    for (const char c : name) hash = (hash ^ static_cast<unsigned char>(ToUpper(c))) * 16777619U;
-    return hash % kSlots;
+    if (name.empty()) return 0;
+    const auto codeOf = [](char c) { return std::size_t{static_cast<unsigned char>(ToUpper(c))}; };
+    return ((name.size() * 33 + codeOf(name[name.size() / 2])) * 33 + codeOf(name.back())) % kSlots;
   }
 
   const ROW (&rows_)[COUNT];
