@@ -42,11 +42,11 @@ void SetGroupValue(CMCompsRefLoc& group, int place, std::string_view value) {
 void AddReferenceLocations(CMCompsInfo& component, RecordPool& records, std::string_view text) {
   CMCompsRefLoc* group = component.m_pRefLocs->Append(records.Make<CMCompsRefLoc>());
   std::size_t position = 0;
-  const auto first = NextToken(text, kComma, position);
+  const auto first = NextToken(text, ',', position);
   if (!first) return;
   component.m_sRefLocFirst = *first;
   for (int i = 0; i < kGroups * kGroupSize; ++i) {
-    const auto value = NextToken(text, kComma, position);
+    const auto value = NextToken(text, ',', position);
     if (!value) return;
     if (i > 0 && i % kGroupSize == 0) group = component.m_pRefLocs->Append(records.Make<CMCompsRefLoc>());
     SetGroupValue(*group, i % kGroupSize + 1, *value);

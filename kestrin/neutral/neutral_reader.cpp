@@ -1,6 +1,7 @@
 #include "kestrin/neutral/neutral_reader.h"
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
 #include <memory>
 #include <utility>
@@ -28,40 +29,54 @@ constexpr RecordRule kPropertyOwner{"C_PROP", "a COMP before it"};
 
 /// A row of the table of records.
 struct NeutralReader::Record {
-  RecordRule rule;  // the keyword, and what the record takes
-  bool cutsValues = false;
-  std::size_t fewest = 0;
-  std::size_t most = kNoLimit;
-  bool (NeutralReader::*isTaken)() const = nullptr;
-  LineOutcome (NeutralReader::*read)() = nullptr;  // null for a record that carries nothing for the models
-};
+  constexpr Record(const RecordRule& keywordAndValues, std::size_t fewestValues, std::size_t mostValues,
+                   bool (NeutralReader::*condition)() const, LineOutcome (NeutralReader::*function)())
+      : keyword(keywordAndValues.record),
+        rule(keywordAndValues),
+        fewest(fewestValues),
+        most(mostValues),
+        isTaken(condition),
+        read(function) {}
+  /// A record that carries nothing for the models.
+  constexpr explicit Record(std::string_view word) : Record({word, ""}, 0, kNoLimit, nullptr, nullptr) {}
 
-struct NeutralReader::Records {
-  using Reader = NeutralReader;
-  static constexpr Record kTable[] = {
-      {{"N_PIN", "at least 5 values"}, true, 5, kNoLimit, &Reader::InSelectedNets, &Reader::AddPin},
-      {{"NET", "exactly 1 value"}, true, 1, 1, &Reader::InSelectedNets, &Reader::AddNet},
-      {{"COMP", "exactly 8 values"}, true, 8, 8, &Reader::InSelectedComponents, &Reader::AddComponent},
-      {{"C_PROP", ""}, false, 0, kNoLimit, &Reader::InSelectedComponents, &Reader::AddProperties},
-      {{"P_ADDP", "exactly 8 values"}, true, 8, 8, &Reader::Always, &Reader::AddPlacement},
-      {kBoardValues, true, 0, kNoLimit, &Reader::InFirstBoardSection, &Reader::SetBoard},
-      {{"B_UNITS", "exactly 1 value"}, true, 1, 1, &Reader::Always, &Reader::SetUnits},
-      {{"C_PIN", ""}},
-      {{"N_PROP", ""}},
-      {{"N_VIA", ""}},
-      {{"HOLE", ""}},
-      {{"B_ATTR", ""}},
-      {{"G_ATTR", ""}},
-      {{"G_PIN", ""}},
-      {{"GEOM", ""}},
-  };
-
-  static const Record* Find(std::string_view keyword) {
-    const auto* found = std::find_if(std::begin(kTable), std::end(kTable),
-                                     [&](const Record& record) { return record.rule.record == keyword; });
-    return found == std::end(kTable) ? nullptr : found;
+  [[nodiscard]] bool Accepts(LineFields& values) const {
+    return (fewest == 0 || values.Has(fewest - 1)) && (most == kNoLimit || values.Count() <= most);
   }
+
+  Keyword keyword;
+  RecordRule rule;
+  std::size_t fewest;
+  std::size_t most;
+  bool (NeutralReader::*isTaken)() const;
+  LineOutcome (NeutralReader::*read)();
 };
+
+/// The record of a keyword, null for a word that is none.
+const NeutralReader::Record* NeutralReader::Find(Keyword keyword) {
+  using Reader = NeutralReader;
+  static constexpr Record kRecords[] = {
+      // the most frequent first
+      {{"N_PIN", "at least 5 values"}, 5, kNoLimit, &Reader::InSelectedNets, &Reader::AddPin},
+      Record("C_PIN"),
+      {{"NET", "exactly 1 value"}, 1, 1, &Reader::InSelectedNets, &Reader::AddNet},
+      Record("N_PROP"),
+      {{"COMP", "exactly 8 values"}, 8, 8, &Reader::InSelectedComponents, &Reader::AddComponent},
+      {{"C_PROP", ""}, 0, kNoLimit, &Reader::InSelectedComponents, &Reader::AddProperties},
+      {{"P_ADDP", "exactly 8 values"}, 8, 8, &Reader::Always, &Reader::AddPlacement},
+      {kBoardValues, 0, kNoLimit, &Reader::InFirstBoardSection, &Reader::SetBoard},
+      {{"B_UNITS", "exactly 1 value"}, 1, 1, &Reader::Always, &Reader::SetUnits},
+      Record("N_VIA"),
+      Record("HOLE"),
+      Record("B_ATTR"),
+      Record("G_ATTR"),
+      Record("G_PIN"),
+      Record("GEOM"),
+  };
+  const auto* found = std::find_if(std::begin(kRecords), std::end(kRecords),
+                                   [keyword](const Record& record) { return record.keyword == keyword; });
+  return found == std::end(kRecords) ? nullptr : found;
+}
 
 LineOutcome NeutralReader::ReadLine(std::string_view line) {
   if (line.starts_with('#')) {
@@ -69,39 +84,22 @@ LineOutcome NeutralReader::ReadLine(std::string_view line) {
     return LineOutcome::Ignored();
   }
   if (TrimmedLeft(line).empty()) return LineOutcome::Ignored();
-  const std::size_t start = line.find_first_not_of(' ');
-  const std::size_t end = line.find(' ', start);
-  const Record* record = Records::Find(line.substr(start, end - start));
+  std::size_t position = 0;
+  const std::string_view word = NextToken(line, ' ', position).value_or(std::string_view());
+  const Record* record = Find(Keyword(word));
   if (record == nullptr) return LineOutcome::Skipped(SkipCode::kUnknownRecord);
   if (record->read == nullptr || !(this->*record->isTaken)()) return LineOutcome::Ignored();
-  if (end == std::string_view::npos) return LineOutcome::Skipped(SkipCode::kUnendedKeyword);
-  rest_ = line.substr(end + 1);
-  return ReadRecord(*record);
+  if (position == line.size()) return LineOutcome::Skipped(SkipCode::kUnendedKeyword);
+  rest_ = line.substr(position + 1);
+  values_.Begin(rest_);
+  if (!record->Accepts(values_)) return LineOutcome::WrongValueCount(record->rule, values_.Count());
+  return (this->*record->read)();
 }
 
 void NeutralReader::CountSection(std::string_view header) {
   if (header.starts_with("###Board Information")) ++boardSections_;
   if (header.starts_with("###Nets")) ++selection_.netsSections;
   if (header.starts_with("###Component")) ++selection_.componentSections;
-}
-
-LineOutcome NeutralReader::ReadRecord(const Record& record) {
-  if (record.cutsValues) {
-    CutValues();
-    if (valueCount_ < record.fewest || valueCount_ > record.most) {
-      return LineOutcome::WrongValueCount(record.rule, valueCount_);
-    }
-  }
-  return (this->*record.read)();
-}
-
-void NeutralReader::CutValues() {
-  valueCount_ = 0;
-  std::size_t position = 0;
-  while (const auto value = NextSpaceField(rest_, position)) {
-    if (valueCount_ < values_.size()) values_[valueCount_] = *value;
-    ++valueCount_;
-  }
 }
 
 LineOutcome NeutralReader::AddPlacement() {
@@ -117,14 +115,14 @@ LineOutcome NeutralReader::AddPlacement() {
 }
 
 LineOutcome NeutralReader::SetBoard() {
-  const bool complete = valueCount_ == 6;
+  const bool complete = values_.Count() == 6;
   if (complete) {
     boardName_ = Value(1);
     components_.m_dBoardValue3 = NumberBehindColon(Value(3));
     components_.m_dBoardValue4 = NumberBehindColon(Value(4));
   }
   chooser_.Choose(boardName_, selection_);  // also by the name of an earlier record
-  return complete ? LineOutcome::Imported() : LineOutcome::WrongValueCount(kBoardValues, valueCount_);
+  return complete ? LineOutcome::Imported() : LineOutcome::WrongValueCount(kBoardValues, values_.Count());
 }
 
 LineOutcome NeutralReader::SetUnits() {
@@ -143,16 +141,22 @@ LineOutcome NeutralReader::AddNet() {
 
 LineOutcome NeutralReader::AddPin() {
   if (net_ == nullptr) return LineOutcome::Skipped(SkipCode::kNoOwner, kPinOwner);
-  scratch_ = Value(1);
-  std::replace(scratch_.begin(), scratch_.end(), ' ', '_');
-  std::erase(scratch_, '\'');
-  const std::string_view name = scratch_;
+  const std::string_view name = PinName(Value(1));
   const std::size_t hyphen = name.find('-');
   auto pin = records_.Make<CMRefPin>();
   if (hyphen != std::string_view::npos) pin->m_sRef = name.substr(0, hyphen);
   pin->m_sPin = name.substr(hyphen + 1);  // npos + 1 is 0
   net_->m_pPins->Append(std::move(pin));
   return LineOutcome::Imported();
+}
+
+/// Without apostrophes, and with "_" for the blanks that only stand between them.
+std::string_view NeutralReader::PinName(std::string_view value) {
+  if (value.find('\'') == std::string_view::npos) return value;
+  scratch_ = value;
+  std::replace(scratch_.begin(), scratch_.end(), ' ', '_');
+  std::erase(scratch_, '\'');
+  return scratch_;
 }
 
 LineOutcome NeutralReader::AddComponent() {

@@ -3,7 +3,6 @@
 /// @file
 /// Reads the lines of a Neutral file into its two models.
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -14,6 +13,8 @@
 #include "kestrin/neutral/board_selection.h"
 #include "kestrin/neutral/component_model.h"
 #include "kestrin/neutral/net_model.h"
+#include "kestrin/text/keyword.h"
+#include "kestrin/text/line_fields.h"
 #include "kestrin/text/line_outcome.h"
 
 namespace kestrin {
@@ -32,11 +33,10 @@ class NeutralReader {
 
  private:
   struct Record;
-  struct Records;
+  static const Record* Find(Keyword keyword);
 
   void CountSection(std::string_view header);
-  LineOutcome ReadRecord(const Record& record);
-  void CutValues();
+  std::string_view PinName(std::string_view value);
 
   // Which records are taken.
   [[nodiscard]] bool Always() const { return true; }
@@ -56,7 +56,7 @@ class NeutralReader {
   LineOutcome AddProperties();
 
   /// Value n of the record, from 1; the record's row has seen to it that there is one.
-  [[nodiscard]] std::string_view Value(std::size_t n) const { return values_[n - 1]; }
+  [[nodiscard]] std::string_view Value(std::size_t n) { return values_.Text(n - 1); }
 
   CMComps& components_;
   CMNetList& nets_;
@@ -65,11 +65,10 @@ class NeutralReader {
   BoardChooser chooser_;
   std::int64_t boardSections_ = 0;
   std::string boardName_;
-  CMNetInfo* net_ = nullptr;                // takes the pins that follow
-  CMCompsInfo* component_ = nullptr;        // takes the properties that follow
-  std::string_view rest_;                   // of the current line, behind its keyword
-  std::array<std::string_view, 8> values_;  // of the current line: no record has more that are kept
-  std::size_t valueCount_ = 0;              // of all its values
+  CMNetInfo* net_ = nullptr;          // takes the pins that follow
+  CMCompsInfo* component_ = nullptr;  // takes the properties that follow
+  std::string_view rest_;             // of the current line, behind its keyword
+  LineFields values_;                 // which are in there
   std::string scratch_;
 };
 

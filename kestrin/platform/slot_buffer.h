@@ -27,9 +27,9 @@ inline constexpr std::int64_t kGreatestStep = 1024;
 /// and most steps find theirs already there.
 [[nodiscard]] constexpr std::int64_t AllocatedSlots(std::int64_t capacity) {
   constexpr std::int64_t kSmall = 64;
-  constexpr std::int64_t kBegun = 8;  // of an array that begins with one element: more will come
+  constexpr std::int64_t kFirstTwo = 1 + kSmallestStep;  // of the capacities of an array that grows by one
   const auto slots = static_cast<std::uint64_t>(capacity);
-  if (capacity == 1) return kBegun;
+  if (capacity == 1 || capacity == kFirstTwo) return kFirstTwo;
   if (capacity <= kSmall) return static_cast<std::int64_t>(std::bit_ceil(slots));
   const std::uint64_t granule = std::bit_floor(slots) / 8;
   return static_cast<std::int64_t>((slots + granule - 1) / granule * granule);

@@ -75,7 +75,7 @@ void TechReader::ForEachArgument(std::string_view line, Visit visit) {
   std::erase(unquoted_, '"');
   std::int64_t number = 0;
   std::size_t position = 0;
-  while (const auto argument = NextToken(unquoted_, kComma, position)) visit(++number, Trimmed(*argument));
+  while (const auto argument = NextToken(unquoted_, ',', position)) visit(++number, Trimmed(*argument));
 }
 
 }  // namespace kestrin

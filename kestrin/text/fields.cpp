@@ -27,6 +27,36 @@ std::optional<std::string_view> NextQuotedField(std::string_view line, std::size
   return line.substr(start, end - start);
 }
 
+/// Where a group in parentheses ends.
+struct GroupEnd {
+  std::size_t position;
+  bool isClosed;   // by a parenthesis before it, else by the end of the line
+  bool hasBlanks;  // outside double quotes
+};
+
+GroupEnd FindGroupEnd(std::string_view line, std::size_t start) {
+  bool quoted = false;
+  bool hasBlanks = false;
+  for (std::size_t i = start; i < line.size(); ++i) {
+    const char c = line[i];
+    if (c == '"') quoted = !quoted;
+    if (quoted) continue;
+    hasBlanks |= c == ' ';
+    if (c == ')') return {i + 1, true, hasBlanks};
+  }
+  return {line.size(), false, hasBlanks};
+}
+
+/// Blanks between double quotes stay.
+void CopyWithoutBlanks(std::string_view text, std::string& copy) {
+  copy.clear();
+  bool quoted = false;
+  for (const char c : text) {
+    if (c == '"') quoted = !quoted;
+    if (c != ' ' || quoted) copy += c;
+  }
+}
+
 }  // namespace
 
 void AddCharacters(CharacterSet& set, std::string_view characters) {
@@ -53,19 +83,17 @@ std::optional<std::string_view> NextSpaceField(std::string_view line, std::size_
 
 std::optional<std::string_view> NextPropertyGroup(std::string_view line, std::size_t& position,
                                                   std::string& scratch) {
-  scratch.clear();
-  bool quoted = false;
-  while (position < line.size()) {
-    const char c = line[position++];
-    if (c == '"') quoted = !quoted;
-    if (c == ' ' && !quoted) continue;
-    scratch += c;
-    if (c != ')' || quoted) continue;
-    if (scratch.front() == '(') return scratch;
-    scratch.clear();
+  for (;;) {
+    while (position < line.size() && line[position] == ' ') ++position;
+    if (position == line.size()) return std::nullopt;
+    const GroupEnd end = FindGroupEnd(line, position);
+    const std::string_view group = line.substr(position, end.position - position);
+    position = end.position;
+    if (end.isClosed && group.front() != '(') continue;
+    if (!end.hasBlanks) return group;
+    CopyWithoutBlanks(group, scratch);
+    return scratch;
   }
-  if (scratch.empty()) return std::nullopt;
-  return scratch;
 }
 
 }  // namespace kestrin

@@ -16,8 +16,6 @@ namespace kestrin {
 /// Characters by their unsigned code.
 using CharacterSet = std::bitset<256>;
 
-inline constexpr CharacterSet kComma(1ULL << ',');
-
 /// Adds every character of the text to the set.
 void AddCharacters(CharacterSet& set, std::string_view characters);
 
@@ -40,7 +38,8 @@ void AddCharacters(CharacterSet& set, std::string_view characters);
 
 /// The next group in parentheses, without the spaces that stand outside double quotes. Text that a closing
 /// parenthesis ends and that does not begin with an opening one is passed over; text behind the last closing
-/// parenthesis is a field whatever it begins with. The field stands in the scratch string.
+/// parenthesis is a field whatever it begins with. The field is a view into the line, or into the scratch
+/// string where spaces had to go.
 [[nodiscard]] std::optional<std::string_view> NextPropertyGroup(std::string_view line, std::size_t& position,
                                                                 std::string& scratch);
 
