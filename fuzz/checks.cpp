@@ -39,6 +39,11 @@ std::string RequireJson(std::string document) {
   return document;
 }
 
+void RequireReason(const LineOutcome& outcome) {
+  if (outcome.GetKind() != LineOutcome::Kind::kSkipped) return;
+  Require(outcome.Code() < SkipCode::kCount && !outcome.Reason().empty(), "a line is skipped for a reason");
+}
+
 void RequireCounts(const FileReport& report, std::int64_t linesRaised) {
   Require(report.Imported() + report.Ignored() + report.Skipped() + linesRaised == report.linesRead,
           "every line is imported, ignored, skipped or raises");

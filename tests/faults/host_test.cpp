@@ -77,12 +77,13 @@ TEST(UnrulyHost, AHandlerThatThrowsEndsTheImportAndTheSessionReadsOn) {
 TEST(UnrulyHost, AHandlerMayDestroyTheBarOfTheFileThatIsRead) {
   const std::string whole = WholeBoard();
   for (int number = 1; number < 100; number += 7) {
+    CPC_KESTRIN_GET session;
+    test::ImportBoard(session);
     std::unique_ptr<CProgressCtrl> bar;
     ActingDialog dialog(number, [&] { bar.reset(); });
     bar = std::make_unique<CProgressCtrl>(&dialog);
-    CPC_KESTRIN_GET session;
-    session.SetProgressPtr(nullptr, nullptr, bar.get(), nullptr);  // the bar of the file that is read last
-    test::ImportBoard(session);
+    session.SetProgressPtr(nullptr, nullptr, bar.get(), nullptr);
+    session.TraceFileParse(test::BoardFile("traces"));
     EXPECT_EQ(bar, nullptr);
     EXPECT_EQ(test::DumpOf(session), whole);
   }
