@@ -25,17 +25,12 @@ std::string NameOf(int token) {
 }
 
 /// A token with the value that it hands on.
-std::string Described(int token, TracesGrammar::value_type& value) {
-  const auto take = [&]<class T>(T) {
-    T taken = value.as<T>();
-    value.destroy<T>();
-    return taken;
-  };
+std::string Described(int token, const TokenValue& value) {
   switch (token) {
-    case Token::T_INTEGER: return "INTEGER=" + std::to_string(take(int()));
+    case Token::T_INTEGER: return "INTEGER=" + std::to_string(value.whole);
     case Token::T_REAL: {
       CString text;
-      text.Format("REAL=%.15g", take(double()));
+      text.Format("REAL=%.15g", value.real);
       return text.GetString();
     }
     case Token::T_QSTRING:
@@ -44,7 +39,7 @@ std::string Described(int token, TracesGrammar::value_type& value) {
     case Token::T_WORD:
     case Token::T_WORDNUM:
     case Token::T_UNITNAME:
-    case Token::T_APPTEXT: return NameOf(token) + "=" + take(CString()).GetString();
+    case Token::T_APPTEXT: return NameOf(token) + "=" + std::string(value.text);
     default: return NameOf(token);
   }
 }
@@ -55,7 +50,7 @@ std::string Tokens(const std::string& text, std::size_t piece = 1000) {
   std::string tokens;
   std::int64_t lines = 0;
   for (;;) {
-    TracesGrammar::value_type value;
+    TokenValue value;
     const int token = scanner.Next(value);
     for (; lines < scanner.LineEnds(); ++lines) tokens += "/ ";
     if (token == Token::T_END) break;
