@@ -25,7 +25,7 @@ std::string NameOf(int token) {
 }
 
 /// A token with the value that it hands on.
-std::string Described(int token, const TokenValue& value) {
+std::string Described(int token, const TracesGrammar::value_type& value) {
   switch (token) {
     case Token::T_INTEGER: return "INTEGER=" + std::to_string(value.whole);
     case Token::T_REAL: {
@@ -39,7 +39,7 @@ std::string Described(int token, const TokenValue& value) {
     case Token::T_WORD:
     case Token::T_WORDNUM:
     case Token::T_UNITNAME:
-    case Token::T_APPTEXT: return NameOf(token) + "=" + std::string(value.text);
+    case Token::T_APPTEXT: return NameOf(token) + "=" + std::string(std::string_view(value.text));
     default: return NameOf(token);
   }
 }
@@ -50,7 +50,7 @@ std::string Tokens(const std::string& text, std::size_t piece = 1000) {
   std::string tokens;
   std::int64_t lines = 0;
   for (;;) {
-    TokenValue value;
+    TracesGrammar::value_type value;
     const int token = scanner.Next(value);
     for (; lines < scanner.LineEnds(); ++lines) tokens += "/ ";
     if (token == Token::T_END) break;

@@ -169,20 +169,20 @@ void ModelBuilder::SetFillExtension(int ext1, int ext2, double ext3, double ext4
   fill_->m_dExt4 = ext4;
 }
 
-void ModelBuilder::SetFillTail(CString item1, CString item2, CString item3) {
-  fill_->m_sTail1 = std::move(item1);
-  fill_->m_sTail2 = std::move(item2);
-  fill_->m_sTail3 = std::move(item3);
+void ModelBuilder::SetFillTail(std::string_view item1, std::string_view item2, std::string_view item3) {
+  fill_->m_sTail1 = item1;
+  fill_->m_sTail2 = item2;
+  fill_->m_sTail3 = item3;
 }
 
-void ModelBuilder::AddTti(double value1, double value2, CString value3, int value4, double value5,
+void ModelBuilder::AddTti(double value1, double value2, std::string_view value3, int value4, double value5,
                           double value6, int value7) {
   auto record = records_.Make<CMTracesTTI>();
   record->m_sName1 = lastAreaName1_;
   record->m_sName2 = lastAreaName2_;
   record->m_dValue1 = value1;
   record->m_dValue2 = value2;
-  record->m_sValue3 = std::move(value3);
+  record->m_sValue3 = value3;
   record->m_nValue4 = value4;
   record->m_dValue5 = value5;
   record->m_dValue6 = value6;

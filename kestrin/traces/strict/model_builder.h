@@ -66,12 +66,12 @@ class ModelBuilder {
                 int value5, int value6, int value7, int value8);
   void SetFillValues(double value9, int value10, int value11, int value12);
   void SetFillExtension(int ext1, int ext2, double ext3, double ext4);
-  void SetFillTail(CString item1, CString item2, CString item3);
+  void SetFillTail(std::string_view item1, std::string_view item2, std::string_view item3);
   void CloseFillHead() { fill_->m_pVerArray->Swap(vertices_); }
   template <class ISLAND>
   void AddIsland(ListOf<CMTracesFIL, ISLAND> list, int value1);
   /// Adds a TTI record, which takes the names of the area header read last, whatever fill that was in.
-  void AddTti(double value1, double value2, CString value3, int value4 = 0, double value5 = 0.0,
+  void AddTti(double value1, double value2, std::string_view value3, int value4 = 0, double value5 = 0.0,
               double value6 = 0.0, int value7 = 0);
   void CloseFill();
   ///@}

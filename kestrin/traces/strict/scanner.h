@@ -11,7 +11,7 @@
 #include <string_view>
 
 #include "kestrin/traces/strict/text_input.h"
-#include "kestrin/traces/strict/token_value.h"
+#include "kestrin/traces/strict/token_text.h"
 #include "kestrin/traces/strict/traces_grammar.h"
 
 namespace kestrin {
@@ -31,7 +31,7 @@ class TracesScanner {
 
   /// The next token's number, 0 at the end of the file; its value is put into the place given. A text stays while the
   /// rule that it belongs to is read.
-  [[nodiscard]] int Next(TokenValue& value);
+  [[nodiscard]] int Next(TracesGrammar::value_type& value);
 
   /// The text of the token read last, empty at the end of the file. Valid until the next token.
   [[nodiscard]] std::string_view Text() const;
