@@ -25,17 +25,12 @@ std::string NameOf(int token) {
 }
 
 /// A token with the value that it hands on.
-std::string Described(int token, TracesGrammar::value_type& value) {
-  const auto take = [&]<class T>(T) {
-    T taken = value.as<T>();
-    value.destroy<T>();
-    return taken;
-  };
+std::string Described(int token, const TracesGrammar::value_type& value) {
   switch (token) {
-    case Token::T_INTEGER: return "INTEGER=" + std::to_string(take(int()));
+    case Token::T_INTEGER: return "INTEGER=" + std::to_string(value.whole);
     case Token::T_REAL: {
       CString text;
-      text.Format("REAL=%.15g", take(double()));
+      text.Format("REAL=%.15g", value.real);
       return text.GetString();
     }
     case Token::T_QSTRING:
@@ -44,7 +39,7 @@ std::string Described(int token, TracesGrammar::value_type& value) {
     case Token::T_WORD:
     case Token::T_WORDNUM:
     case Token::T_UNITNAME:
-    case Token::T_APPTEXT: return NameOf(token) + "=" + take(CString()).GetString();
+    case Token::T_APPTEXT: return NameOf(token) + "=" + std::string(std::string_view(value.text));
     default: return NameOf(token);
   }
 }

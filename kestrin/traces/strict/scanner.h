@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "kestrin/traces/strict/text_input.h"
+#include "kestrin/traces/strict/token_text.h"
 #include "kestrin/traces/strict/traces_grammar.h"
 
 namespace kestrin {
@@ -24,14 +25,12 @@ class ScannerError : public std::runtime_error {
 /// Scans one file. Line ends are no tokens; the scanner counts them.
 class TracesScanner {
  public:
-  /// The longest text that a token keeps; the rest of a longer one is passed over.
-  static constexpr std::size_t kLongestText = 255;
-
   explicit TracesScanner(ByteSource source);
   TracesScanner(const TracesScanner&) = delete;
   TracesScanner& operator=(const TracesScanner&) = delete;
 
-  /// The next token's number, 0 at the end of the file; its value is put into the place given.
+  /// The next token's number, 0 at the end of the file; its value is put into the place given. A text stays while the
+  /// rule that it belongs to is read.
   [[nodiscard]] int Next(TracesGrammar::value_type& value);
 
   /// The text of the token read last, empty at the end of the file. Valid until the next token.
@@ -48,6 +47,7 @@ class TracesScanner {
     using Memory = std::unique_ptr<void, Free>;
 
     TextInput input;
+    TokenTexts texts;
     std::array<Memory, 8> blocks{};  // what the automaton takes: itself, its buffer, and a little around it
     std::int64_t lineEnds = 0;
     bool fillSeen = false;  // an ARE behind the first FIL belongs to a fill
