@@ -67,11 +67,11 @@ MemoryMeter::MemoryMeter() : before_(__sanitizer_get_current_allocated_bytes()),
 
 void MemoryMeter::Look() { most_ = std::max(most_, __sanitizer_get_current_allocated_bytes()); }
 
-void MemoryMeter::RequireInProportion(std::size_t inputSize, std::size_t extra) const {
+void MemoryMeter::RequireInProportion(std::size_t inputSize) const {
   constexpr std::size_t kPerByte = 200;
   constexpr std::size_t kFixed = std::size_t{2} << 20;
   const std::size_t taken = most_ - before_;
-  const bool isKept = taken <= kPerByte * inputSize + kFixed + extra;
+  const bool isKept = taken <= kPerByte * inputSize + kFixed;
   if (!isKept) std::fprintf(stderr, "%zu bytes for an input of %zu\n", taken, inputSize);
   Require(isKept, "memory is in proportion to the input");
 }

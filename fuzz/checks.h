@@ -50,7 +50,7 @@ class MemoryMeter {
   MemoryMeter();
   void Look();
   /// Requires that no look saw more than inputs of this size may take.
-  void RequireInProportion(std::size_t inputSize, std::size_t extra = 0) const;
+  void RequireInProportion(std::size_t inputSize) const;
 
  private:
   std::size_t before_;
@@ -65,8 +65,7 @@ struct Outcome {
 
 /// Feeds a text to a reader. Every line has memory of its own, which goes before the next: a reader that
 /// looks beyond a line's ends, or back at it, is caught. SUBJECT has the reader and its models: `reader`,
-/// `Dump()`, `RepeatedBytes()` (what its model holds more than once by design) and kRaises, whether a line
-/// may raise CInvalidArgException.
+/// `Dump()` and kRaises, whether a line may raise CInvalidArgException.
 template <class SUBJECT>
 [[nodiscard]] Outcome Read(std::string_view text) {
   const std::vector<std::string_view> lines = LinesOf(text);
@@ -85,7 +84,7 @@ template <class SUBJECT>
     }
     memory.Look();
   }
-  memory.RequireInProportion(text.size(), subject.RepeatedBytes());
+  memory.RequireInProportion(text.size());
   outcome.models = subject.Dump();
   return outcome;
 }

@@ -96,7 +96,7 @@ Import Run(const Files& files, bool withDialog) {
     size += files.texts[i].size();
   }
   // Of a Traces file that repeats long names the target of that reader knows what it may take.
-  if (session.GetTraces()->m_pFilArray->IsEmpty()) memory.RequireInProportion(size);
+  memory.RequireInProportion(size);
   import.models = {test::Dump(*session.GetTech()), test::Dump(*session.GetComps(), *session.GetNetList()),
                    test::Dump(*session.GetGeom()), test::Dump(*session.GetTraces())};
   return import;

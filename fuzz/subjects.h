@@ -3,7 +3,6 @@
 /// @file
 /// The line readers as the fuzz targets take them: each with its models.
 
-#include <cstddef>
 #include <string>
 
 #include "fuzz/checks.h"
@@ -17,7 +16,6 @@ namespace kestrin::fuzz {
 struct TechSubject {
   static constexpr bool kRaises = false;
   [[nodiscard]] std::string Dump() const { return fuzz::Dump(model); }
-  [[nodiscard]] std::size_t RepeatedBytes() const { return 0; }
 
   CMTech model;
   TechReader reader{model};
@@ -26,7 +24,6 @@ struct TechSubject {
 struct NeutralSubject {
   static constexpr bool kRaises = false;
   [[nodiscard]] std::string Dump() const { return fuzz::Dump(components, nets); }
-  [[nodiscard]] std::size_t RepeatedBytes() const { return 0; }
 
   CMComps components;
   CMNetList nets;
@@ -37,7 +34,6 @@ struct NeutralSubject {
 struct GeometrySubject {
   static constexpr bool kRaises = false;
   [[nodiscard]] std::string Dump() const { return fuzz::Dump(model); }
-  [[nodiscard]] std::size_t RepeatedBytes() const { return 0; }
 
   CMGeom model;
   GeomReader reader{model};
@@ -46,15 +42,6 @@ struct GeometrySubject {
 struct TracesSubject {
   static constexpr bool kRaises = true;
   [[nodiscard]] std::string Dump() const { return fuzz::Dump(model); }
-  /// Every TTI record has its fill's names.
-  [[nodiscard]] std::size_t RepeatedBytes() const {
-    std::size_t bytes = 0;
-    for (const CMTracesFIL* fill : *model.m_pFilArray) {
-      const std::size_t names = fill->m_sName1.View().size() + fill->m_sName2.View().size();
-      bytes += static_cast<std::size_t>(fill->m_pTtiArray->GetSize()) * names;
-    }
-    return bytes;
-  }
 
   CMTraces model;
   TracesReader reader{model};

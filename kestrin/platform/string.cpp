@@ -116,13 +116,15 @@ CString& CString::TrimRight(const char* characters) {
   return *this;
 }
 
-CString& CString::MakeUpper() noexcept {
-  std::transform(text_.Data(), text_.Data() + View().size(), text_.Data(), &ToUpper);
+CString& CString::MakeUpper() {
+  char* const bytes = text_.Data();
+  std::transform(bytes, bytes + View().size(), bytes, &ToUpper);
   return *this;
 }
 
-CString& CString::MakeLower() noexcept {
-  std::transform(text_.Data(), text_.Data() + View().size(), text_.Data(), &ToLower);
+CString& CString::MakeLower() {
+  char* const bytes = text_.Data();
+  std::transform(bytes, bytes + View().size(), bytes, &ToLower);
   return *this;
 }
 

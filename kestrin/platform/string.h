@@ -105,8 +105,8 @@ class KESTRIN_EXPORT CString {
 
   ///@{
   /// Changes the case of ASCII letters.
-  CString& MakeUpper() noexcept;
-  CString& MakeLower() noexcept;
+  CString& MakeUpper();
+  CString& MakeLower();
   ///@}
 
   /// The next run of characters that are not delimiters; moves start just past the delimiter behind it. At

@@ -16,27 +16,29 @@ namespace kestrin {
 
 /// Bytes with a zero byte behind them, in 16 bytes of memory: most texts of an export file are short, and a
 /// model keeps millions of them. Up to 15 bytes stand in the object itself, longer texts in a block on the
-/// heap that also knows its size.
+/// heap, which copies share until one of them changes: a name that a file gives once and a model keeps in a
+/// million records takes the memory of one.
 class KESTRIN_EXPORT StringStorage {
  public:
   StringStorage() noexcept = default;
   ///@{
-  /// A storage owns its bytes alone: a copy has its own, and what is moved from keeps bytes to be replaced.
+  /// Copies behave like bytes of their own, also on different threads; what is moved from keeps bytes to be
+  /// replaced.
   explicit StringStorage(std::string_view text) { Assign(text); }
-  StringStorage(const StringStorage& other) : bytes_(other.IsInline() ? other.bytes_ : kEmpty) {
-    if (!other.IsInline()) AssignLong(other.View());
+  StringStorage(const StringStorage& other) : bytes_(other.bytes_) {
+    if (!IsInline()) ShareBlock();
   }
   StringStorage(StringStorage&& other) noexcept : bytes_(other.bytes_) { other.bytes_ = kEmpty; }
   StringStorage& operator=(const StringStorage& other) {
-    Assign(other.View());
-    return *this;
+    StringStorage copy(other);
+    return *this = std::move(copy);
   }
   StringStorage& operator=(StringStorage&& other) noexcept {
-    std::swap(bytes_, other.bytes_);
+    bytes_ = std::exchange(other.bytes_, bytes_);
     return *this;
   }
   ~StringStorage() {
-    if (!IsInline()) FreeBlock();
+    if (!IsInline()) LetGoOfBlock();
   }
   ///@}
 
@@ -44,8 +46,8 @@ class KESTRIN_EXPORT StringStorage {
   [[nodiscard]] std::string_view View() const noexcept {
     return IsInline() ? std::string_view(bytes_.data(), kInlineSize - Tag()) : BlockView();
   }
-  /// The bytes, to be changed in place.
-  [[nodiscard]] char* Data() noexcept { return IsInline() ? bytes_.data() : BlockData(); }
+  /// The bytes, to be changed in place until anything else changes them; copies made meanwhile share nothing.
+  [[nodiscard]] char* Data() { return IsInline() ? bytes_.data() : LendBlock(); }
 
   /// Replaces the bytes; the text may be a part of them.
   void Assign(std::string_view text) {
@@ -62,8 +64,8 @@ class KESTRIN_EXPORT StringStorage {
   struct Block;
   static constexpr std::size_t kInlineSize = 15;
   static constexpr unsigned char kBlockTag = 0xFF;
-  using Bytes = std::array<char, kInlineSize + 1>;
-  static constexpr Bytes kEmpty{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, kInlineSize};
+  using InlineBytes = std::array<char, kInlineSize + 1>;
+  static constexpr InlineBytes kEmpty{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, kInlineSize};
 
   /// How many inline bytes are free, so that it is the zero byte behind 15 of them; or that there is a block.
   [[nodiscard]] unsigned char Tag() const noexcept { return static_cast<unsigned char>(bytes_[kInlineSize]); }
@@ -79,14 +81,16 @@ class KESTRIN_EXPORT StringStorage {
     return block;
   }
   [[nodiscard]] std::string_view BlockView() const noexcept;
-  [[nodiscard]] char* BlockData() const noexcept;
-  void FreeBlock() const noexcept;
+  [[nodiscard]] char* LendBlock();
+  void ShareBlock();
+  void LetGoOfBlock() const noexcept;
   void TakeBlock(Block* block) noexcept;
-  [[nodiscard]] std::size_t Capacity() const noexcept;
+  [[nodiscard]] bool HasRoomFor(std::size_t size) const noexcept;
+  [[nodiscard]] char* Bytes() noexcept;
   void SetSize(std::size_t size) noexcept;
   void AssignLong(std::string_view text);
 
-  alignas(8) Bytes bytes_ = kEmpty;
+  alignas(8) InlineBytes bytes_ = kEmpty;
 };
 
 }  // namespace kestrin

@@ -111,6 +111,28 @@ TEST(String, KeepsShortAndLongTextsThroughCopiesAndGrowth) {
   static_assert(sizeof(CString) == 16);
 }
 
+TEST(String, CopiesOfLongTextsBehaveLikeTextsOfTheirOwn) {
+  const std::string text(100, 'a');
+  const auto changed = [&](auto change) {
+    const CString original(text);
+    CString copy(original);
+    EXPECT_EQ(copy.GetString(), original.GetString());  // they share the bytes until one changes
+    change(copy);
+    EXPECT_EQ(original.View(), text);
+    return copy;
+  };
+  EXPECT_EQ(changed([](CString& copy) { copy += 'b'; }).View(), text + 'b');
+  EXPECT_EQ(changed([](CString& copy) { copy = ""; }), "");
+  EXPECT_EQ(changed([](CString& copy) { copy.Delete(1, 98); }), "aa");
+  EXPECT_EQ(changed([](CString& copy) { copy.MakeUpper(); }).View(), std::string(100, 'A'));
+  EXPECT_EQ(changed([](CString& copy) { copy.ReleaseBuffer(16); }).View(), text.substr(0, 16));
+  CString written(text);
+  char* const bytes = written.GetBuffer(100);
+  const CString copyWhileWritten(written);
+  bytes[0] = 'b';
+  EXPECT_EQ(copyWhileWritten.View(), text);
+}
+
 TEST(String, FormatsAndLendsItsBuffer) {
   CString text;
   text.Format("%d:%s", 7, "x");

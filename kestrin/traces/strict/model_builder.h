@@ -82,8 +82,8 @@ class ModelBuilder {
   void OpenArea(std::string_view name1, std::string_view name2, std::string_view value3, int value4);
   void SetAreaTail(double value5, int value6, int last = 0, int value8 = 0, int value9 = 0,
                    double value10 = 0.0, double value11 = 0.0);
-  /// Adds the area to the open fill. Where the names differ that fill is complete then, and part of the model,
-  /// and a new one goes on.
+  /// Adds the area to the open fill. Where the names differ that fill is complete then, and part of the
+  /// model, and a new one goes on.
   template <class AREA>
   void CloseArea(ListOf<CMTracesFIL, AREA> list);
   /// Adds an area without a FIL line before it to the fill of the loose area before it, or to a new fill

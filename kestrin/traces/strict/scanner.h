@@ -29,8 +29,8 @@ class TracesScanner {
   TracesScanner(const TracesScanner&) = delete;
   TracesScanner& operator=(const TracesScanner&) = delete;
 
-  /// The next token's number, 0 at the end of the file; its value is put into the place given. A text stays while the
-  /// rule that it belongs to is read.
+  /// The next token's number, 0 at the end of the file; its value is put into the place given. A text stays
+  /// while the rule that it belongs to is read.
   [[nodiscard]] int Next(TracesGrammar::value_type& value);
 
   /// The text of the token read last, empty at the end of the file. Valid until the next token.

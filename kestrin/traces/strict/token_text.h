@@ -29,7 +29,8 @@ class TokenText {
   const Place* place_;
 };
 
-/// Texts of tokens, for as long as a rule needs them: the scanner's buffer moves on before a rule is complete.
+/// Texts of tokens, for as long as a rule needs them: the scanner's buffer moves on before a rule is
+/// complete.
 class TokenTexts {
  public:
   /// A copy of the beginning of a text, which stays until as many others were kept as there is room for.
