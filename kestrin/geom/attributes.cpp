@@ -8,7 +8,6 @@ namespace kestrin::attribute {
 namespace {
 
 using enum GeometryKind;
-
 using enum Commas;
 
 /// The records that an attribute is written to.
@@ -110,12 +109,22 @@ LineOutcome ReadRow(const Attribute& row, ReaderState& state) {
   const bool hasOwner = row.owner->isThere(state.geometry);
   const auto ownerless = LineOutcome::Skipped(SkipCode::kNoOwner, row.owner->rule);
   if (!hasOwner && row.ownerless == kUntouched) return ownerless;
-  state.values.GoOnWith(row.commas);
+  state.values.GoOnWith(row.commas);  // the name has no commas and is the same value either way
   if (!state.values.HasAtLeast(row.leastValues)) {
     return LineOutcome::WrongValueCount(kCountRule, state.values.Count());
   }
   const LineOutcome outcome = row.read(state);
   return hasOwner ? outcome : ownerless;
+}
+
+/// Layer definitions have no names of their own: any name may have these words in it.
+LineOutcome ReadLayerDefinition(std::string_view name, ReaderState& state, std::string_view arguments) {
+  if (!ContainsIgnoringCase(name, "LAYER_DEFINITION")) {
+    return LineOutcome::Skipped(SkipCode::kUnknownAttribute);
+  }
+  if (!IsOpen<kStackup>(state.geometry)) return LineOutcome::Skipped(SkipCode::kNoOwner, kLayerRule);
+  state.values.Cut(arguments, kEvery);
+  return LayerDefinition(state, name);
 }
 
 }  // namespace
@@ -124,17 +133,10 @@ LineOutcome Read(ReaderState& state, std::string_view arguments) {
   state.values.Cut(arguments, kUnquoted);
   const std::string_view name = state.values[1];
   if (name.empty()) return LineOutcome::Skipped(SkipCode::kMissingValue, kNameRule);
-  const bool inStackup = state.geometry.Kind() == kStackup;
   const Attribute* row = kAttributes.Find(name);
-  if (row == nullptr) {
-    if (!ContainsIgnoringCase(name, "LAYER_DEFINITION"))
-      return LineOutcome::Skipped(SkipCode::kUnknownAttribute);
-    if (!inStackup) return LineOutcome::Skipped(SkipCode::kNoOwner, kLayerRule);
-    state.values.Cut(arguments, kEvery);
-    return LayerDefinition(state, name);
-  }
+  if (row == nullptr) return ReadLayerDefinition(name, state, arguments);
   if (row->read == nullptr) return LineOutcome::Ignored();
-  if (inStackup) return LineOutcome::Skipped(SkipCode::kNoOwner, kStackupRule);
+  if (IsOpen<kStackup>(state.geometry)) return LineOutcome::Skipped(SkipCode::kNoOwner, kStackupRule);
   return ReadRow(*row, state);
 }
 

@@ -1,16 +1,21 @@
 #include "kestrin/geom/current_geometry.h"
 
-#include <memory>
-
 namespace kestrin {
-namespace {
 
 template <class RECORD>
-RECORD* AppendNew(OwningArray<RECORD>& list) {
-  return list.Append(std::make_unique<RECORD>());
+RECORD* CurrentGeometry::AppendNew(OwningArray<RECORD>& list) {
+  return list.Append(records_.Make<RECORD>());
 }
 
-}  // namespace
+template <class RECORD>
+RECORD* CurrentGeometry::Open(GeometryKind kind, RECORD* record, std::string_view name) {
+  kind_ = kind;
+  record->m_sName = name;
+  drawObjs_ = record->m_pDrawObjs;
+  texts_ = record->m_pTexts;
+  adds_ = record->m_pAdds;
+  return record;
+}
 
 void CurrentGeometry::CreatePanel(std::string_view name) {
   panel_ = Open(GeometryKind::kPanel, AppendNew(*model_.m_pPanels), name);
@@ -52,16 +57,6 @@ void CurrentGeometry::CreateUnknown() {
   drawing_ = nullptr;
   texts_ = nullptr;
   adds_ = nullptr;
-}
-
-template <class RECORD>
-RECORD* CurrentGeometry::Open(GeometryKind kind, RECORD* record, std::string_view name) {
-  kind_ = kind;
-  record->m_sName = name;
-  drawObjs_ = record->m_pDrawObjs;
-  texts_ = record->m_pTexts;
-  adds_ = record->m_pAdds;
-  return record;
 }
 
 }  // namespace kestrin

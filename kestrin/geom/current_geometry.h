@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "kestrin/geom/geom_model.h"
+#include "kestrin/geometry/record_pool.h"
 
 namespace kestrin {
 
@@ -29,8 +30,8 @@ enum class GeometryKind : std::uint8_t {
 /// record of every kind stays known when another kind is opened; the board's is known once it is bound.
 class CurrentGeometry {
  public:
-  /// The model must outlive this.
-  explicit CurrentGeometry(CMGeom& model) : model_(model) {}
+  /// Geometries are made among the records. The model and these must outlive this.
+  CurrentGeometry(CMGeom& model, RecordPool& records) : model_(model), records_(records) {}
 
   void BindBoard() { board_ = model_.m_pBoard; }
 
@@ -91,9 +92,12 @@ class CurrentGeometry {
 
  private:
   template <class RECORD>
+  RECORD* AppendNew(OwningArray<RECORD>& list);
+  template <class RECORD>
   RECORD* Open(GeometryKind kind, RECORD* record, std::string_view name);
 
   CMGeom& model_;
+  RecordPool& records_;
   GeometryKind kind_ = GeometryKind::kNone;
   CMGeomPanel* panel_ = nullptr;
   CMGeomBoard* board_ = nullptr;

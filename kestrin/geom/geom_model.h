@@ -13,6 +13,7 @@
 #include "kestrin/geom/geom_text.h"
 #include "kestrin/geom/number_list.h"
 #include "kestrin/geometry/ownership.h"
+#include "kestrin/geometry/pooled_record.h"
 #include "kestrin/platform/export.h"
 #include "kestrin/platform/string.h"
 #include "kestrin/platform/string_array.h"
@@ -48,7 +49,7 @@ class CMGeomBoard {
 };
 
 /// A package that the netlist's components use.
-class CMGeomComponent {
+class CMGeomComponent : public PooledRecord {
  public:
   Owned<CMGeomDrawObjArray> m_pDrawObjs;
   CString m_sName;
@@ -81,7 +82,7 @@ class CMGeomComponent {
 };
 
 /// A part without pins of the netlist: a mounting hole, a fiducial.
-class CMGeomGenericPart {
+class CMGeomGenericPart : public PooledRecord {
  public:
   CString m_sName;
   CString m_sUnits;
@@ -101,7 +102,7 @@ class CMGeomGenericPart {
 };
 
 /// A drawing.
-class CMGeomDrawing {
+class CMGeomDrawing : public PooledRecord {
  public:
   Owned<CMGeomDrawObjArray> m_pDrawObjs;
   CString m_sName;
@@ -112,7 +113,7 @@ class CMGeomDrawing {
 };
 
 /// The padstack of a pin.
-class CMGeomPin {
+class CMGeomPin : public PooledRecord {
  public:
   Owned<CMGeomDrawObjArray> m_pDrawObjs;
   int m_nTerminalType = 1;  ///< 1 thru-hole, 2 surface, 3 blind
@@ -126,7 +127,7 @@ class CMGeomPin {
 };
 
 /// The padstack of a via.
-class CMGeomVia {
+class CMGeomVia : public PooledRecord {
  public:
   int m_nViaType = 0;  ///< 0 not said, 1 thru, 2 buried, 3 segment, 4 two-layer
   CString m_sName;
@@ -140,7 +141,7 @@ class CMGeomVia {
 };
 
 /// Several boards on one sheet.
-class KESTRIN_EXPORT CMGeomPanel {
+class KESTRIN_EXPORT CMGeomPanel : public PooledRecord {
  public:
   CMGeomPanel() = default;
   CMGeomPanel(const CMGeomPanel&) = delete;

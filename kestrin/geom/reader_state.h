@@ -18,7 +18,7 @@ namespace kestrin {
 
 struct ReaderState {
   /// The model must outlive this.
-  explicit ReaderState(CMGeom& model) : geometry(model) {}
+  explicit ReaderState(CMGeom& model) : geometry(model, records) {}
 
   /// The points of the current line, or the pending ones, which are then gone either way.
   [[nodiscard]] const std::vector<double>& TakePoints(std::size_t firstValue, const BracketScan& scan) {
@@ -34,8 +34,8 @@ struct ReaderState {
     return point;
   }
 
-  CurrentGeometry geometry;
   RecordPool records;  ///< of the model
+  CurrentGeometry geometry;
   PendingPoints pending;
   double pathWidth = 0.0;       ///< of the pen of arcs and circles that name none
   Values values;                ///< of the current line

@@ -31,7 +31,7 @@ class ValueCut {
   void GoOnWith(Commas commas) { commas_ = commas; }
 
   ///@{
-  /// For those who find a value by themselves: the place behind the last value, and steps to another one.
+  /// What is left behind the last value, for who can tell the next one at a glance and then steps over it.
   [[nodiscard]] std::string_view Rest() const { return text_.substr(position_); }
   void Skip(std::size_t length) { position_ += length; }
   ///@}
@@ -55,6 +55,7 @@ class Values {
   /// Leaves the values that have been asked for as they are, and cuts the others in another way.
   void GoOnWith(Commas commas) { cut_.GoOnWith(commas); }
 
+  /// Whether the line has that many values.
   [[nodiscard]] bool HasAtLeast(std::size_t count) {
     while (values_.size() < count) {
       const auto value = cut_.Next();

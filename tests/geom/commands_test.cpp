@@ -106,6 +106,7 @@ TEST(GeomCommands, DrawAndWrite) {
       {"$$path(L, 1, [, 1, ], 2], [[5], 6, 7]], 8)", "draw=[LINE{layer=L width=1 at=[1 2 5 6 7]}]"},
       {"$$path(L, 1, [1, , \"\", \"2\"])", "draw=[LINE{layer=L width=1 at=[1 0 0 2]}]"},
       {"$$path(L, 1, [1, 2, 3", "draw=[LINE{layer=L width=1 at=[1 2 3]}]"},
+      {"$$path(L, 1,[ 1 ,+2,,\t3,4x, [5], 6e0 ])", "draw=[LINE{layer=L width=1 at=[1 2 3 4 5 6]}]"},
       {"$$path( , ,, [1, 2])", "draw=[LINE{at=[1 2]}]"},
       {"$$path()", "draw=[LINE{}]"},
       {"$$template_path_width(8)\n$$path(L)", "draw=[LINE{layer=L}]"},
