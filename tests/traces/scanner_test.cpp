@@ -50,7 +50,7 @@ std::string Tokens(const std::string& text, std::size_t piece = 1000) {
   std::string tokens;
   std::int64_t lines = 0;
   for (;;) {
-    TracesGrammar::value_type value;
+    TracesGrammar::value_type value{};
     const int token = scanner.Next(value);
     for (; lines < scanner.LineEnds(); ++lines) tokens += "/ ";
     if (token == Token::T_END) break;
@@ -125,6 +125,10 @@ TEST(TracesScanner, EntersAndLeavesItsConditions) {
       {"SEG 1.5 2.5 3 12 X\n1 X",
        "SEG SEGFIELD=1.5 SEGFIELD=2.5 SEGFIELD=3 SEGFIELD=12 SEGFIELD=X / INTEGER=1 WORD=X"},
       {"SEG 'a b' 'c", "SEG QSTRING='a b' SEGFIELD='c"},
+      {"SEG 1 VER\nVER 2\nVER\t-3.5 \nVERA 4\nSEG 5\nSEG 6\nSEG\nSEGX",
+       "SEG SEGFIELD=1 VER / VER INTEGER=2 / VER REAL=-3.5 / WORD=VERA INTEGER=4 / SEG SEGFIELD=5 / SEG "
+       "SEGFIELD=6 / "
+       "SEG / WORD=SEGX"},
       {"UNITS MM MM", "UNITS UNITNAME=MM WORD=MM"},
       {"UNITS mm 1 1.5 A_1 $A\nIN", "UNITS INTEGER=1 REAL=1.5 WORDNUM=A_1 WORD=$A / UNITNAME=IN"},
       {"# Application  board 'x'\nA", "APPTEXT=  board 'x' / WORD=A"},
