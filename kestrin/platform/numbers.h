@@ -34,10 +34,12 @@ std::size_t ReadPlainNumber(std::string_view text, double& number) {
   constexpr std::size_t kMostDigits = 19;  // of which no number overflows 64 bits
   static constexpr std::array kPowersOfTen{1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,
                                            1e10, 1e11, 1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19};
+  static constexpr std::array kSigns{1.0, -1.0};
   const char* const end = text.data() + text.size();
   const char* place = text.data();
-  const bool negative = place != end && *place == '-';
-  place += negative || (place != end && *place == '+');
+  if (place == end) return 0;
+  const bool negative = *place == '-';
+  place += static_cast<int>(negative) | static_cast<int>(*place == '+');
   std::uint64_t digits = 0;
   const auto readDigits = [&] {
     const char* const first = place;
@@ -56,7 +58,7 @@ std::size_t ReadPlainNumber(std::string_view text, double& number) {
   if (place != end && (*place == 'e' || *place == 'E')) return 0;
   // Both are exact, so that their quotient is the double that is nearest to the number.
   const double magnitude = static_cast<double>(static_cast<std::int64_t>(digits)) / kPowersOfTen[decimals];
-  number = negative ? -magnitude : magnitude;
+  number = magnitude * kSigns[static_cast<std::size_t>(negative)];
   return static_cast<std::size_t>(place - text.data());
 }
 
