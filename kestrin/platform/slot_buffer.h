@@ -24,13 +24,16 @@ inline constexpr std::int64_t kGreatestStep = 1024;
 /// How many slots are really allocated behind a capacity. An array's capacity grows in steps of at least 4
 /// and at most 1,024 slots; moving the slots at every such step would cost a small array many allocations and
 /// a large one quadratic time. So the memory comes in powers of two, and beyond some slots in eighths of one,
-/// and most steps find theirs already there.
+/// and most steps find theirs already there. A small array that does not grow by single elements gets just
+/// what it asks for.
 [[nodiscard]] constexpr std::int64_t AllocatedSlots(std::int64_t capacity) {
   constexpr std::int64_t kSmall = 64;
-  constexpr std::int64_t kFirstTwo = 1 + kSmallestStep;  // of the capacities of an array that grows by one
+  constexpr std::int64_t kFirstTwo = 1 + kSmallestStep;  // capacities of growth by one: 1, 5, 9, 13 ...
   const auto slots = static_cast<std::uint64_t>(capacity);
-  if (capacity == 1 || capacity == kFirstTwo) return kFirstTwo;
-  if (capacity <= kSmall) return static_cast<std::int64_t>(std::bit_ceil(slots));
+  if (capacity <= kFirstTwo) return capacity == 1 ? kFirstTwo : capacity;
+  if (capacity <= kSmall) {
+    return capacity % kSmallestStep == 1 ? static_cast<std::int64_t>(std::bit_ceil(slots)) : capacity;
+  }
   const std::uint64_t granule = std::bit_floor(slots) / 8;
   return static_cast<std::int64_t>((slots + granule - 1) / granule * granule);
 }
