@@ -7,7 +7,7 @@
 
 #include "kestrin/platform/exceptions.h"
 #include "tests/faults/faults.h"
-#include "tests/support/byte_soup.h"
+#include "tests/support/content_of.h"
 #include "tests/support/model_dump.h"
 #include "tests/support/sample_board.h"
 #include "tests/support/temporary_folder.h"

@@ -8,7 +8,7 @@
 #include "kestrin/platform/message_box.h"
 #include "kestrin/platform/messages.h"
 #include "kestrin/traces/strict/strict_parser.h"
-#include "tests/support/byte_soup.h"
+#include "tests/support/content_of.h"
 #include "tests/support/model_dump.h"
 #include "tests/support/recording_dialog.h"
 #include "tests/support/sample_board.h"

@@ -3,7 +3,6 @@
 
 #include <string>
 
-#include "tests/support/byte_soup.h"
 #include "tests/support/process.h"
 #include "tests/support/temporary_folder.h"
 
@@ -83,23 +82,6 @@ TEST(ToolGeometry, DumpsTheSampleBoard) {
   EXPECT_EQ(geometry["m_pGenericParts"][0]["m_pPlacementOutline"]["m_pCoords"].Size(), 16U);
   EXPECT_EQ(geometry["m_pVias"][3]["m_nViaType"].GetInt(), 2);
   EXPECT_STREQ(geometry["m_pPanels"][0]["m_pAdds"][2]["m_sArg3"].GetString(), "B_2");
-}
-
-TEST(ToolGeometry, DumpsAnyBytesAsValidJson) {
-  const TemporaryFolder folder;
-  test::ByteSoup soup(2);
-  const std::string board = test::ContentOf(kGeometry);
-  const std::string bytes = soup.Bytes(256);
-  for (int round = 0; round < 10; ++round) {
-    for (const std::string& text :
-         {soup.Bytes(5000), soup.Mutated(board, bytes, 300), soup.Mutated(board, "[](),;\"\n", 300)}) {
-      const auto result = RunTool("dump --geometry " + folder.File("a.geometry", text));
-      EXPECT_EQ(result.status, 0);
-      rapidjson::Document document;
-      EXPECT_FALSE(document.Parse<rapidjson::kParseValidateEncodingFlag>(result.out.c_str()).HasParseError());
-      EXPECT_TRUE(document["geometry"].IsObject());
-    }
-  }
 }
 
 }  // namespace

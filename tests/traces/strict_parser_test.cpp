@@ -4,12 +4,11 @@
 
 #include <sstream>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include "bench/generators.h"
 #include "kestrin/traces/traces_reader.h"
-#include "tests/support/byte_soup.h"
+#include "tests/support/content_of.h"
 #include "tests/support/feed.h"
 #include "tests/traces/described_traces.h"
 #include "tests/traces/strict_text.h"
@@ -192,34 +191,6 @@ TEST(StrictParser, MakesTheModelThatTheLineReaderMakes) {
   bench::GenerateTraces(generated, 300'000);
   for (const std::string& text : {test::ContentOf(KESTRIN_EXAMPLES "/board/board.traces"), generated.str()}) {
     ExpectAccepted(text, LineReaders(text));
-  }
-}
-
-TEST(StrictParser, ParsesInTwoThreadsAtATime) {
-  std::ostringstream generated;
-  bench::GenerateTraces(generated, 300'000);
-  const std::string board = test::ContentOf(KESTRIN_EXAMPLES "/board/board.traces");
-  std::thread other([&] { ExpectAccepted(board, LineReaders(board)); });
-  ExpectAccepted(generated.str(), LineReaders(generated.str()));
-  other.join();
-}
-
-TEST(StrictParser, SurvivesDamagedFiles) {
-  const std::string board = test::ContentOf(KESTRIN_EXAMPLES "/board/board.traces");
-  test::ByteSoup soup(1);
-  for (int round = 0; round < 300; ++round) {
-    const std::string text = soup.Mutated(board, "\n\n '#(-.AB019_$\r", 5);
-    const StrictParse parse = ParseStrictly(SourceOf(text));
-    EXPECT_EQ(parse.error.empty(), parse.errors.empty());
-    EXPECT_NE(parse.result, ParseResult::kExhausted);
-    EXPECT_TRUE(parse.result == ParseResult::kAccepted || !parse.errors.empty()) << text;
-    std::int64_t line = 0;
-    for (const SyntaxError& error : parse.errors) {
-      EXPECT_LE(line, error.line);
-      line = error.line;
-    }
-    EXPECT_LE(line, parse.line);
-    EXPECT_EQ(ParseStrictly(SourceOf(soup.Bytes(2000))).result, ParseResult::kRejected);
   }
 }
 
