@@ -95,7 +95,6 @@ Import Run(const Files& files, bool withDialog) {
     RequireCounts(report, stopped ? 1 : 0);
     size += files.texts[i].size();
   }
-  // Of a Traces file that repeats long names the target of that reader knows what it may take.
   memory.RequireInProportion(size);
   import.models = {test::Dump(*session.GetTech()), test::Dump(*session.GetComps(), *session.GetNetList()),
                    test::Dump(*session.GetGeom()), test::Dump(*session.GetTraces())};
