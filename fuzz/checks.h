@@ -40,8 +40,9 @@ template <class... MODELS>
 /// Requires that a line that is skipped is skipped for a reason.
 void RequireReason(const LineOutcome& outcome);
 
-/// Requires that every line is counted once, and every skipped line under its code.
-void RequireCounts(const FileReport& report, std::int64_t linesRaised);
+/// Requires that every line of the text is counted once, up to one that raised, and every skipped line under
+/// its code.
+void RequireCounts(const FileReport& report, std::string_view text, bool raised);
 
 /// How much memory was taken since this was made. Models, report and scratch may take so many bytes for every
 /// byte of the input: the largest record of a shortest line is what sets the number.

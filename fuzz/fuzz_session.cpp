@@ -63,8 +63,16 @@ struct Files {
 
 struct Import {
   std::array<std::string, kImportFileCount> models;
+  std::size_t tracesLines = 0;
   bool raised = false;
 };
+
+/// So many lines of a text, with all that stands between them.
+std::string_view FirstLines(std::string_view text, std::size_t count) {
+  const std::vector<std::string_view> lines = LinesOf(text);
+  return count < lines.size() ? text.substr(0, static_cast<std::size_t>(lines[count].data() - text.data()))
+                              : text;
+}
 
 Import Run(const Files& files, bool withDialog) {
   const std::array<MemoryFile, kImportFileCount> stored{
@@ -92,10 +100,11 @@ Import Run(const Files& files, bool withDialog) {
     const FileReport& report = session.GetReport().Of(static_cast<ImportFile>(i));
     const bool stopped = import.raised && i + 1 == kImportFileCount;
     Require(report.end == (stopped ? ReadingEnd::kStopped : ReadingEnd::kComplete), "every file is read");
-    RequireCounts(report, stopped ? 1 : 0);
+    RequireCounts(report, files.texts[i], stopped);
     size += files.texts[i].size();
   }
   memory.RequireInProportion(size);
+  import.tracesLines = static_cast<std::size_t>(session.GetReport().Of(ImportFile::kTraces).linesRead);
   import.models = {test::Dump(*session.GetTech()), test::Dump(*session.GetComps(), *session.GetNetList()),
                    test::Dump(*session.GetGeom()), test::Dump(*session.GetTraces())};
   return import;
@@ -112,7 +121,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
   Require(busy.raised == quiet.raised && busy.models == quiet.models, "a dialog changes nothing");
   Require(quiet.models[0] == Read<TechSubject>(files.texts[0]).models &&
               quiet.models[1] == Read<NeutralSubject>(files.texts[1]).models &&
-              quiet.models[2] == Read<GeometrySubject>(files.texts[2]).models,
+              quiet.models[2] == Read<GeometrySubject>(files.texts[2]).models &&
+              quiet.models[3] == Read<TracesSubject>(FirstLines(files.texts[3], quiet.tracesLines)).models,
           "the session gives what its readers give");
   return 0;
 }

@@ -9,38 +9,12 @@
 namespace kestrin::tool {
 namespace {
 
-/// Reads the given files one by one: vParse asks for all but the Tech file.
-void ReadGivenFiles(CPC_KESTRIN_GET& session, const ExportSet& files) {
-  struct Step {
-    ImportFile file;
-    const char* status;
-    void (CPC_KESTRIN_GET::*read)(CString path);
-  };
-  static constexpr Step kSteps[] = {
-      {ImportFile::kTech, "Parsing Tech File", &CPC_KESTRIN_GET::TechFileParse},
-      {ImportFile::kNeutral, "Parsing Neutral File", &CPC_KESTRIN_GET::NeutralFileParse},
-      {ImportFile::kGeometry, "Parsing Geometry File", &CPC_KESTRIN_GET::GeomFileParse},
-      {ImportFile::kTraces, "Parsing Trace File", &CPC_KESTRIN_GET::TraceFileParse},
-  };
-  for (const Step& step : kSteps) {
-    if (!files.Has(step.file)) continue;
-    if (session.m_pStatusWnd != nullptr) session.m_pStatusWnd->SetWindowTextA(step.status);
-    (session.*step.read)(files.PathOf(step.file));
-  }
-}
-
 void Read(CPC_KESTRIN_GET& session, const ExportSet& files) {
   session.vSetTechFilePath(files.PathOf(ImportFile::kTech));
   session.vSetNeutralFilePath(files.PathOf(ImportFile::kNeutral));
   session.vSetGeomFilePath(files.PathOf(ImportFile::kGeometry));
   session.vSetTraceFilePath(files.PathOf(ImportFile::kTraces));
-  const bool complete =
-      files.Has(ImportFile::kNeutral) && files.Has(ImportFile::kGeometry) && files.Has(ImportFile::kTraces);
-  if (complete) {
-    session.vParse();
-  } else {
-    ReadGivenFiles(session, files);
-  }
+  session.ParseGivenFiles();
 }
 
 std::string WhereStopped(const ImportReport& report) {

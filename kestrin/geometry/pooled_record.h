@@ -22,7 +22,7 @@ class PooledRecord {
   [[nodiscard]] static void* operator new(std::size_t size, RecordPool& pool);
   ///@{
   /// Gives the memory of a record back.
-  KESTRIN_EXPORT static void operator delete(void* record) noexcept;
+  KESTRIN_EXPORT static void operator delete(void* record, std::size_t size) noexcept;
   static void operator delete(void* record, RecordPool& pool) noexcept;
   ///@}
 };

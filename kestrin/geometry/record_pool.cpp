@@ -65,8 +65,13 @@ struct alignas(32) RecordPool::Slab {
 /// Goes on to the next slab, of the block or of a new one.
 void RecordPool::OpenSlab() {
   if (static_cast<std::size_t>(blockEnd_ - end_) < kSmallestSlab) return OpenBlock();
-  next_ = std::construct_at(reinterpret_cast<Slab*>(end_), *block_)->Records();
-  end_ += std::min(static_cast<std::size_t>(blockEnd_ - end_), kSlabSize);
+  BeginSlab(*std::construct_at(reinterpret_cast<Slab*>(end_), *block_));
+}
+
+void RecordPool::BeginSlab(Slab& slab) {
+  next_ = slab.Records();
+  end_ = slab.Begin() + std::min(static_cast<std::size_t>(blockEnd_ - slab.Begin()), kSlabSize);
+  MarkUnused(next_, static_cast<std::size_t>(end_ - next_));
 }
 
 void RecordPool::OpenBlock() {
@@ -77,8 +82,7 @@ void RecordPool::OpenBlock() {
   block_ = block;
   blockSize_ = blockSize;
   blockEnd_ = block->Begin() + size;
-  next_ = block->Records();
-  end_ = block->Begin() + std::min(size, kSlabSize);
+  BeginSlab(*block);
 }
 
 void RecordPool::CloseBlock() noexcept {
@@ -91,10 +95,14 @@ void* PooledRecord::operator new(std::size_t size) {
   return block->Records();
 }
 
-void PooledRecord::operator delete(void* record) noexcept {
-  if (record != nullptr) RecordPool::Slab::Of(record)->first->LetGo(1);
+void PooledRecord::operator delete(void* record, std::size_t size) noexcept {
+  if (record == nullptr) return;
+  MarkUnused(record, size);
+  RecordPool::Slab::Of(record)->first->LetGo(1);
 }
 
-void PooledRecord::operator delete(void* record, RecordPool& /*pool*/) noexcept { operator delete(record); }
+void PooledRecord::operator delete(void* record, RecordPool& /*pool*/) noexcept {
+  operator delete(record, 0);
+}
 
 }  // namespace kestrin

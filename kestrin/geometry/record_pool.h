@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "kestrin/geometry/pooled_record.h"
+#include "kestrin/platform/memory_marks.h"
 
 namespace kestrin {
 
@@ -34,10 +35,12 @@ class RecordPool {
     const std::size_t room = (size + kAlignment - 1) / kAlignment * kAlignment;
     if (static_cast<std::size_t>(end_ - next_) < room) OpenSlab();
     ++made_;
+    MarkUsed(next_, size);
     return std::exchange(next_, next_ + room);
   }
   void OpenSlab();
   void OpenBlock();
+  void BeginSlab(Slab& slab);
   void CloseBlock() noexcept;
 
   static constexpr std::size_t kAlignment = alignof(double);

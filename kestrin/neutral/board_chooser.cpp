@@ -14,7 +14,7 @@ bool Qualifies(const CMCompsPanel& placement) {
 }  // namespace
 
 void BoardChooser::AddPlacement(const CMCompsPanel& placement) {
-  Board& board = boards_[std::string(placement.m_sBoardName.View())];
+  Board& board = BoardOf(placement.m_sBoardName.View());
   ++board.placements;
   if (board.ordinal == 0 && Qualifies(placement)) {
     board.ordinal = board.placements;
@@ -23,11 +23,15 @@ void BoardChooser::AddPlacement(const CMCompsPanel& placement) {
   ++placements_;
 }
 
-void BoardChooser::Choose(std::string_view boardName, BoardSelection& selection) const {
-  const auto found = boards_.find(std::string(boardName));
-  if (found == boards_.end() || found->second.ordinal == 0) return;
-  selection.ordinal = found->second.ordinal;
-  selection.placement = found->second.placement;
+void BoardChooser::Choose(BoardSelection& selection) const {
+  if (board_ == nullptr || board_->ordinal == 0) return;
+  selection.ordinal = board_->ordinal;
+  selection.placement = board_->placement;
+}
+
+BoardChooser::Board& BoardChooser::BoardOf(std::string_view name) {
+  const auto found = boards_.find(name);
+  return found != boards_.end() ? found->second : boards_.emplace(name, Board{}).first->second;
 }
 
 }  // namespace kestrin

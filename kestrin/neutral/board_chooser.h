@@ -4,9 +4,10 @@
 /// Choosing a board by its placements on the panel.
 
 #include <cstdint>
+#include <functional>
+#include <map>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 
 #include "kestrin/neutral/board_selection.h"
 #include "kestrin/neutral/component_model.h"
@@ -19,8 +20,11 @@ class BoardChooser {
  public:
   void AddPlacement(const CMCompsPanel& placement);
 
-  /// Chooses by the placements added so far; without one of this board that qualifies the choice stays.
-  void Choose(std::string_view boardName, BoardSelection& selection) const;
+  /// Names the board to choose for.
+  void SetBoard(std::string_view name) { board_ = &BoardOf(name); }
+
+  /// Chooses by the placements added so far; without one of the board that qualifies the choice stays.
+  void Choose(BoardSelection& selection) const;
 
  private:
   struct Board {
@@ -29,7 +33,10 @@ class BoardChooser {
     std::int64_t placement = -1;
   };
 
-  std::unordered_map<std::string, Board> boards_;
+  Board& BoardOf(std::string_view name);
+
+  std::map<std::string, Board, std::less<>> boards_;  // a file could make the names of a hash table collide
+  const Board* board_ = nullptr;                      // null before it is named
   std::int64_t placements_ = 0;
 };
 

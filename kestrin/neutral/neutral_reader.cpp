@@ -117,11 +117,11 @@ LineOutcome NeutralReader::AddPlacement() {
 LineOutcome NeutralReader::SetBoard() {
   const bool complete = values_.Count() == 6;
   if (complete) {
-    boardName_ = Value(1);
+    chooser_.SetBoard(Value(1));
     components_.m_dBoardValue3 = NumberBehindColon(Value(3));
     components_.m_dBoardValue4 = NumberBehindColon(Value(4));
   }
-  chooser_.Choose(boardName_, selection_);  // also by the name of an earlier record
+  chooser_.Choose(selection_);  // also for the board of an earlier record
   return complete ? LineOutcome::Imported() : LineOutcome::WrongValueCount(kBoardValues, values_.Count());
 }
 

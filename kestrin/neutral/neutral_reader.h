@@ -27,6 +27,7 @@ class NeutralReader {
   NeutralReader(CMComps& components, CMNetList& nets, BoardSelection& selection)
       : components_(components), nets_(nets), selection_(selection) {
     components_.m_nReadFlag = 1;
+    selection_ = {};
   }
 
   LineOutcome ReadLine(std::string_view line);
@@ -64,7 +65,6 @@ class NeutralReader {
   RecordPool records_;
   BoardChooser chooser_;
   std::int64_t boardSections_ = 0;
-  std::string boardName_;
   CMNetInfo* net_ = nullptr;          // takes the pins that follow
   CMCompsInfo* component_ = nullptr;  // takes the properties that follow
   std::string_view rest_;             // of the current line, behind its keyword

@@ -19,6 +19,25 @@ void PumpMessages();
 /// Refreshes a dialog, if it still exists.
 void RefreshDialog(HWND dialog);
 
+/// A pointer to a window of the host, which a message handler may destroy under way.
+template <class WINDOW>
+class WatchedWindow {
+ public:
+  /// The window lives, or the pointer is null.
+  explicit WatchedWindow(WINDOW*& pointer)
+      : pointer_(pointer), window_(pointer), handle_(pointer == nullptr ? nullptr : pointer->GetSafeHwnd()) {}
+
+  /// Sets the pointer to null if the window has gone.
+  void ForgetIfGone() {
+    if (pointer_ == window_ && CWnd::FromHandle(handle_) == nullptr) pointer_ = nullptr;
+  }
+
+ private:
+  WINDOW*& pointer_;
+  const WINDOW* window_;
+  HWND handle_;
+};
+
 /// Moves a reader's progress bar by whole percentages of the lines read. Windows are named by their handles,
 /// so that a message handler may destroy them under way.
 class ProgressDisplay {

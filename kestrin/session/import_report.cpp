@@ -2,10 +2,7 @@
 
 namespace kestrin {
 
-/// Counts the line that was read last.
-void FileReport::CountLine(LineOutcome outcome, std::string_view line) {
-  ++counts_[static_cast<std::size_t>(outcome.GetKind())];
-  if (outcome.GetKind() != LineOutcome::Kind::kSkipped) return;
+void FileReport::CountSkipped(LineOutcome outcome, std::string_view line) {
   SkippedLines& skipped = skipped_[static_cast<std::size_t>(outcome.Code())];
   ++skipped.count;
   if (skipped.first.size() < kKeptLines) {

@@ -51,10 +51,6 @@ class FileReport {
   static constexpr std::size_t kKeptLines = 100;  ///< lines kept of each skip code
   static constexpr std::size_t kKeptBytes = 200;  ///< bytes kept of a line
 
-  FileReport() = default;
-  /// The report of a reading that begins.
-  explicit FileReport(std::string_view filePath) : path(filePath) {}
-
   ///@{
   /// How many lines were imported, ignored, skipped.
   [[nodiscard]] std::int64_t Imported() const { return CountOf(LineOutcome::Kind::kImported); }
@@ -76,7 +72,12 @@ class FileReport {
   template <class READER>
   friend void ReadLines(const Reading& reading, READER& reader, FileReport& report);
 
-  void CountLine(LineOutcome outcome, std::string_view line);
+  /// Counts the line that was read last.
+  void CountLine(LineOutcome outcome, std::string_view line) {
+    ++counts_[static_cast<std::size_t>(outcome.GetKind())];
+    if (outcome.GetKind() == LineOutcome::Kind::kSkipped) CountSkipped(outcome, line);
+  }
+  void CountSkipped(LineOutcome outcome, std::string_view line);
   [[nodiscard]] std::int64_t CountOf(LineOutcome::Kind kind) const {
     return counts_[static_cast<std::size_t>(kind)];
   }

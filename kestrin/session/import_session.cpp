@@ -13,6 +13,31 @@
 #include "kestrin/traces/traces_reader.h"
 
 namespace kestrin {
+namespace {
+
+/// The windows that a host gave to a session, while files are read.
+class HostWindows {
+ public:
+  explicit HostWindows(CPC_KESTRIN_GET& session)
+      : status_(session.m_pStatusWnd),
+        bars_{WatchedWindow(session.m_pTechProgress), WatchedWindow(session.m_pNeutralProgress),
+              WatchedWindow(session.m_pGeomProgress), WatchedWindow(session.m_pTraceProgress)} {}
+  HostWindows(const HostWindows&) = delete;
+  HostWindows& operator=(const HostWindows&) = delete;
+  ~HostWindows() { ForgetTheGone(); }
+
+  /// Sets the session's pointers to windows that the host has destroyed to null.
+  void ForgetTheGone() {
+    status_.ForgetIfGone();
+    for (auto& bar : bars_) bar.ForgetIfGone();
+  }
+
+ private:
+  WatchedWindow<CWnd> status_;
+  WatchedWindow<CProgressCtrl> bars_[4];
+};
+
+}  // namespace
 
 CPC_KESTRIN_GET::CPC_KESTRIN_GET() = default;
 CPC_KESTRIN_GET::CPC_KESTRIN_GET(const CPC_KESTRIN_GET&) = default;
@@ -40,12 +65,30 @@ void CPC_KESTRIN_GET::SetProgressPtr(CProgressCtrl* geomProgress, CProgressCtrl*
 }
 
 void CPC_KESTRIN_GET::vParse() {
-  if (!HasMandatoryPaths()) return;
+  if (HasMandatoryPaths()) ParseGivenFiles();
+}
+
+void CPC_KESTRIN_GET::ParseGivenFiles() {
+  struct Step {
+    const CString& path;
+    const char* status;
+    void (CPC_KESTRIN_GET::*read)(CString);
+  };
+  const Step steps[] = {
+      {m_sTechFilePath, "Parsing Tech File", &CPC_KESTRIN_GET::TechFileParse},
+      {m_sNeutralFilePath, "Parsing Neutral File", &CPC_KESTRIN_GET::NeutralFileParse},
+      {m_sGeomFilePath, "Parsing Geometry File", &CPC_KESTRIN_GET::GeomFileParse},
+      {m_sTraceFilePath, "Parsing Trace File", &CPC_KESTRIN_GET::TraceFileParse},
+  };
+  HostWindows windows(*this);
   RefreshHost();
-  ReadFile(m_sTechFilePath, "Parsing Tech File", &CPC_KESTRIN_GET::TechFileParse);
-  ReadFile(m_sNeutralFilePath, "Parsing Neutral File", &CPC_KESTRIN_GET::NeutralFileParse);
-  ReadFile(m_sGeomFilePath, "Parsing Geometry File", &CPC_KESTRIN_GET::GeomFileParse);
-  ReadFile(m_sTraceFilePath, "Parsing Trace File", &CPC_KESTRIN_GET::TraceFileParse);
+  for (const Step& step : steps) {
+    if (step.path.IsEmpty()) continue;
+    windows.ForgetTheGone();
+    if (m_pStatusWnd != nullptr) m_pStatusWnd->SetWindowTextA(step.status);
+    windows.ForgetTheGone();
+    (this->*step.read)(step.path);
+  }
 }
 
 bool CPC_KESTRIN_GET::HasMandatoryPaths() const {
@@ -78,17 +121,10 @@ void CPC_KESTRIN_GET::RefreshHost() const {
   }
 }
 
-void CPC_KESTRIN_GET::ReadFile(const CString& path, const char* status,
-                               void (CPC_KESTRIN_GET::*read)(CString)) {
-  if (path.IsEmpty()) return;
-  if (m_pStatusWnd != nullptr) m_pStatusWnd->SetWindowTextA(status);
-  (this->*read)(path);
-}
-
 void CPC_KESTRIN_GET::TechFileParse(CString path) {
   const auto tech = Shared<CMTech>::Make();
-  m_pTech = tech;
   TechReader reader(*tech);
+  m_pTech = tech;
   ReadLines({.path = path, .bar = m_pTechProgress, .disablesBar = true}, reader,
             report_.Filled(ImportFile::kTech));
 }
@@ -96,25 +132,24 @@ void CPC_KESTRIN_GET::TechFileParse(CString path) {
 void CPC_KESTRIN_GET::NeutralFileParse(CString path) {
   const auto components = Shared<CMComps>::Make();
   const auto nets = Shared<CMNetList>::Make();
+  NeutralReader reader(*components, *nets, report_.boardSelection);
   m_pComps = components;
   m_pNetList = nets;
-  report_.boardSelection = {};
-  NeutralReader reader(*components, *nets, report_.boardSelection);
   ReadLines({.path = path, .bar = m_pNeutralProgress}, reader, report_.Filled(ImportFile::kNeutral));
 }
 
 void CPC_KESTRIN_GET::GeomFileParse(CString path) {
   const auto geom = Shared<CMGeom>::Make();
-  m_pGeom = geom;
   GeomReader reader(*geom);
+  m_pGeom = geom;
   ReadLines({.path = path, .bar = m_pGeomProgress, .pumpsMessages = true}, reader,
             report_.Filled(ImportFile::kGeometry));
 }
 
 void CPC_KESTRIN_GET::TraceFileParse(CString path) {
   const auto traces = Shared<CMTraces>::Make();
-  m_pTraces = traces;
   TracesReader reader(*traces);
+  m_pTraces = traces;
   ReadLines({.path = path, .bar = m_pTraceProgress, .pumpsMessages = true}, reader,
             report_.Filled(ImportFile::kTraces));
 }

@@ -47,15 +47,16 @@ class KESTRIN_EXPORT CPC_KESTRIN_GET {
   void vSetTraceFilePath(CString path);
   ///@}
 
-  /// The bars stay the host's and must outlive vParse, as the status window must; only the bar and the dialog
-  /// of the file that is being read may go under way. Any may be null. The parent of a bar is what is
-  /// refreshed.
+  /// The bars stay the host's. Any may be null, and vParse sets those to null that the host destroys under
+  /// way. The parent of a bar is what is refreshed.
   void SetProgressPtr(CProgressCtrl* geomProgress, CProgressCtrl* neutralProgress,
                       CProgressCtrl* traceProgress, CProgressCtrl* techProgress);
 
   /// Reads the files in the order Tech, Neutral, Geometry, Traces. Without a Geometry, Neutral or Traces path
   /// it shows a warning box for the first that is missing and reads nothing; the Tech path is optional.
   void vParse();
+  /// Reads those of the files whose paths are set as vParse does, without asking for any.
+  void ParseGivenFiles();
 
   ///@{
   /// Read one file each, replacing its roots; vParse calls them.
@@ -126,7 +127,6 @@ class KESTRIN_EXPORT CPC_KESTRIN_GET {
  private:
   [[nodiscard]] bool HasMandatoryPaths() const;
   void RefreshHost() const;
-  void ReadFile(const CString& path, const char* status, void (CPC_KESTRIN_GET::*read)(CString));
 
   ImportReport report_;
 };

@@ -38,14 +38,17 @@ class Stopwatch {
 /// no lines. Exceptions of the reader, of the file and of the host's windows pass through.
 template <class READER>
 void ReadLines(const Reading& reading, READER& reader, FileReport& report) {
-  report = FileReport(reading.path.View());
+  report = FileReport();
+  report.end = ReadingEnd::kStopped;
   const Stopwatch stopwatch(report.duration);
+  report.path = reading.path.View();
   ProgressDisplay progress(reading.bar, reading.disablesBar);
   if (progress.IsShown()) progress.SetLineCount(CountLines(reading.path));
   CStdioFile file;
-  report.end = ReadingEnd::kNotOpened;
-  if (file.Open(reading.path) == 0) return;
-  report.end = ReadingEnd::kStopped;
+  if (file.Open(reading.path) == 0) {
+    report.end = ReadingEnd::kNotOpened;
+    return;
+  }
   while (const auto line = file.ReadLine()) {
     ++report.linesRead;
     if (reading.pumpsMessages) PumpMessages();

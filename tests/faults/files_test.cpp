@@ -2,14 +2,18 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <memory>
 #include <string>
 #include <utility>
 
 #include "kestrin/platform/exceptions.h"
+#include "kestrin/traces/mp_traces_parser.h"
+#include "kestrin/traces/strict/strict_parser.h"
 #include "tests/faults/faults.h"
 #include "tests/support/content_of.h"
 #include "tests/support/model_dump.h"
 #include "tests/support/sample_board.h"
+#include "tests/support/source_of.h"
 #include "tests/support/temporary_folder.h"
 
 namespace kestrin {
@@ -47,6 +51,25 @@ TEST(FaultyFile, AReadErrorEndsTheImportBehindTheLastWholeLine) {
       EXPECT_EQ(test::DumpOf(session), test::DumpOf(whole));
     }
   }
+}
+
+TEST(FaultyFile, TheStrictReaderTakesAReadErrorAsTheEndOfTheFile) {
+  std::string path = test::BoardFile("traces");
+  const std::string text = test::ContentOf(path);
+  testing::internal::CaptureStderr();
+  for (std::size_t readable = 0; readable < text.size(); readable += 97) {
+    const StrictParse expected = ParseStrictly(test::SourceOf(std::string_view(text).substr(0, readable)));
+    MPTracesParser parser(path.data());
+    const test::FailingReads failing(static_cast<long>(readable));
+    EXPECT_EQ(parser.Parse(), static_cast<int>(expected.result)) << readable;
+    EXPECT_EQ(parser.GetError(), expected.error);
+    EXPECT_EQ(parser.GetCurrentLineNum(), expected.line);
+    parser.Close();
+    if (expected.traces == nullptr) continue;
+    const std::unique_ptr<CMTraces> traces(parser.GetTraces());
+    EXPECT_EQ(test::Dump(*traces), test::Dump(*expected.traces));
+  }
+  testing::internal::GetCapturedStderr();
 }
 
 TEST(FaultyFile, WhatOpensButCannotBeReadRaisesAndWhatDoesNotOpenDoesNot) {

@@ -74,17 +74,26 @@ TEST(UnrulyHost, AHandlerThatThrowsEndsTheImportAndTheSessionReadsOn) {
   }
 }
 
-TEST(UnrulyHost, AHandlerMayDestroyTheBarOfTheFileThatIsRead) {
+/// The windows that a session is given.
+struct Windows {
+  explicit Windows(const CWnd* dialog) : tech(dialog), neutral(dialog), geometry(dialog), traces(dialog) {}
+  CWnd status;
+  CProgressCtrl tech, neutral, geometry, traces;
+};
+
+TEST(UnrulyHost, AHandlerMayDestroyTheWindowsOfTheSession) {
   const std::string whole = WholeBoard();
-  for (int number = 1; number < 100; number += 7) {
+  for (int number = 1; number < 300; number += 7) {
+    std::unique_ptr<Windows> windows;
+    ActingDialog dialog(number, [&] { windows.reset(); });
+    windows = std::make_unique<Windows>(&dialog);
     CPC_KESTRIN_GET session;
+    session.m_pStatusWnd = &windows->status;
+    session.SetProgressPtr(&windows->geometry, &windows->neutral, &windows->traces, &windows->tech);
     test::ImportBoard(session);
-    std::unique_ptr<CProgressCtrl> bar;
-    ActingDialog dialog(number, [&] { bar.reset(); });
-    bar = std::make_unique<CProgressCtrl>(&dialog);
-    session.SetProgressPtr(nullptr, nullptr, bar.get(), nullptr);
-    session.TraceFileParse(test::BoardFile("traces"));
-    EXPECT_EQ(bar, nullptr);
+    EXPECT_EQ(windows, nullptr);
+    EXPECT_EQ(session.m_pStatusWnd, nullptr);
+    EXPECT_EQ(session.m_pTraceProgress, nullptr);
     EXPECT_EQ(test::DumpOf(session), whole);
   }
 }

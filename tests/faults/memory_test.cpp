@@ -4,18 +4,21 @@
 #include <new>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "kestrin/traces/strict/strict_parser.h"
 #include "tests/faults/faults.h"
 #include "tests/support/content_of.h"
 #include "tests/support/model_dump.h"
 #include "tests/support/sample_board.h"
+#include "tests/support/source_of.h"
 
 namespace kestrin {
 namespace {
 
 using test::AllocationsSoFar;
 using test::FailingAllocations;
+using test::SourceOf;
 using Which = FailingAllocations::Which;
 
 /// Runs it with an allocation that fails. Whether std::bad_alloc came out.
@@ -41,15 +44,6 @@ struct Host {
   CWnd dialog;
   CProgressCtrl bar{&dialog};
 };
-
-/// A source that gives a text.
-ByteSource SourceOf(std::string_view text) {
-  return [text](char* bytes, std::size_t size) mutable {
-    const std::size_t count = text.copy(bytes, size);
-    text.remove_prefix(count);
-    return count;
-  };
-}
 
 TEST(OutOfMemory, AnImportLetsItThroughAndTheSessionReadsOn) {
   std::string whole;
@@ -81,14 +75,17 @@ TEST(OutOfMemory, AnImportLetsItThroughAndTheSessionReadsOn) {
 TEST(OutOfMemory, TheStrictReaderSaysThatMemoryEndedTheParse) {
   const std::string board = test::ContentOf(test::BoardFile("traces"));
   const std::string whole = test::Dump(*ParseStrictly(SourceOf(board)).traces);
-  const std::int64_t allocations = AllocationsOf([&] { static_cast<void>(ParseStrictly(SourceOf(board))); });
+  ByteSource counted = SourceOf(board);
+  const std::int64_t allocations =
+      AllocationsOf([&] { static_cast<void>(ParseStrictly(std::move(counted))); });
   ASSERT_GT(allocations, 50);
   for (const Which which : {Which::kOne, Which::kAllFromThere}) {
     for (std::int64_t number = 0; number < allocations; ++number) {
       const std::int64_t alive = AllocationsSoFar().alive;
       {
         std::optional<StrictParse> parse;
-        const bool ranOut = RunsOut([&] { parse = ParseStrictly(SourceOf(board)); }, number, which);
+        ByteSource source = SourceOf(board);
+        const bool ranOut = RunsOut([&] { parse = ParseStrictly(std::move(source)); }, number, which);
         // Without memory for the text of the error the exception itself comes out.
         EXPECT_TRUE(ranOut ? which == Which::kAllFromThere || number == 0
                            : parse->result == ParseResult::kExhausted);

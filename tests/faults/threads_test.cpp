@@ -12,6 +12,7 @@
 #include "tests/support/model_dump.h"
 #include "tests/support/recording_dialog.h"
 #include "tests/support/sample_board.h"
+#include "tests/support/source_of.h"
 
 namespace kestrin {
 namespace {
@@ -48,12 +49,7 @@ TEST(Threads, SessionsWithDialogsWorkAtOnce) {
 TEST(Threads, StrictParsesRunAtOnce) {
   const std::string board = test::ContentOf(test::BoardFile("traces"));
   InThreads([&] {
-    const StrictParse parse =
-        ParseStrictly([text = std::string_view(board)](char* bytes, std::size_t size) mutable {
-          const std::size_t count = text.copy(bytes, size);
-          text.remove_prefix(count);
-          return count;
-        });
+    const StrictParse parse = ParseStrictly(test::SourceOf(board));
     EXPECT_EQ(parse.result, ParseResult::kAccepted);
     EXPECT_EQ(parse.traces->m_pNetArray->GetSize(), 15);
   });

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstdio>
 #include <random>
 #include <thread>
 #include <vector>
@@ -49,6 +50,18 @@ TEST(RecordPool, RecordsEndOnOtherThreadsWhileMoreAreMade) {
   }
   for (std::thread& thread : threads) thread.join();
 }
+
+#ifdef KESTRIN_ADDRESS_SANITIZER
+TEST(RecordPool, TheSanitizerSeesWhoTouchesARecordThatHasEnded) {
+  RecordPool pool;
+  const auto kept = pool.Make<Numbered>(1);
+  auto ended = pool.Make<Numbered>(2);
+  const int& number = ended->number;
+  ended.reset();
+  EXPECT_DEATH(std::printf("%d", number), "use-after-poison");
+  EXPECT_DEATH(std::printf("%d", kept.get()[2].number), "use-after-poison");  // never made
+}
+#endif
 
 TEST(RecordPool, MakesRecordsSideBySide) {
   RecordPool pool;

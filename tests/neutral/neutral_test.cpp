@@ -207,6 +207,13 @@ TEST(NeutralReader, SelectsTheSectionsOfThePlacementThatQualifies) {
   }
 }
 
+TEST(NeutralReader, TheNameOfTheBoardIsLookedUpOnce) {
+  Import import;
+  Feed(import.reader, "###Board Information\nBOARD " + std::string(8'000'000, 'A') + " 2 3 4 5 6");
+  for (int i = 0; i < 1'000'000; ++i) import.reader.ReadLine("BOARD x");  // each of which selects anew
+  EXPECT_EQ(import.selection.ordinal, 1);
+}
+
 TEST(NeutralReader, SaysWhyALineIsSkipped) {
   struct OutcomeCase {
     const char* line;

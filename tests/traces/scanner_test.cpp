@@ -6,7 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "tests/traces/strict_text.h"
+#include "kestrin/platform/string.h"
+#include "tests/support/source_of.h"
 
 namespace kestrin {
 namespace {

@@ -10,8 +10,8 @@
 #include "kestrin/traces/traces_reader.h"
 #include "tests/support/content_of.h"
 #include "tests/support/feed.h"
+#include "tests/support/source_of.h"
 #include "tests/traces/described_traces.h"
-#include "tests/traces/strict_text.h"
 
 namespace kestrin {
 namespace {

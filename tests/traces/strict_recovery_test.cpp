@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "kestrin/traces/strict/strict_parser.h"
+#include "tests/support/source_of.h"
 #include "tests/traces/described_traces.h"
-#include "tests/traces/strict_text.h"
 
 namespace kestrin {
 namespace {
