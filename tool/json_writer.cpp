@@ -32,9 +32,7 @@ void JsonWriter::Double(double value) {
 
 void JsonWriter::String(std::string_view bytes) { Utf8(ToUtf8(bytes)); }
 
-void JsonWriter::Utf8(std::string_view text) {
-  writer_.String(text.data(), static_cast<rapidjson::SizeType>(text.size()));
-}
+void JsonWriter::Utf8(std::string_view text) { writer_.String(text.data(), text.size()); }
 
 void JsonWriter::Finish() {
   stream_.Put('\n');

@@ -3,9 +3,6 @@
 /// @file
 /// Writing JSON documents.
 
-#include <rapidjson/filewritestream.h>
-#include <rapidjson/prettywriter.h>
-
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -16,6 +13,7 @@
 #include "kestrin/geometry/ownership.h"
 #include "kestrin/platform/string.h"
 #include "kestrin/platform/string_array.h"
+#include "tool/rapidjson.h"
 
 namespace kestrin::tool {
 

@@ -1,7 +1,6 @@
 #include "tool/readable_text.h"
 
-#include <rapidjson/encodings.h>
-#include <rapidjson/stream.h>
+#include "tool/rapidjson.h"
 
 namespace kestrin::tool {
 namespace {

@@ -57,8 +57,8 @@ int MPTracesParser::Parse() {
   StrictParse parse =
       ParseStrictly([input](char* bytes, std::size_t size) { return std::fread(bytes, 1, size, input); });
   PrintErrors(parse);
-  if (parse.traces != nullptr) state.traces = parse.traces.release();
   state.error = CString(parse.error);
+  if (parse.traces != nullptr) state.traces = parse.traces.release();
   state.line = parse.line;
   return static_cast<int>(parse.result);
 }

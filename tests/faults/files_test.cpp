@@ -27,14 +27,19 @@ TEST(FaultyFile, AReadErrorEndsTheImportBehindTheLastWholeLine) {
     const char* kind;
     ReadFile read;
   };
+  const test::TemporaryFolder folder;
   for (const Case& c : {Case{ImportFile::kTech, "tech", &CPC_KESTRIN_GET::TechFileParse},
                         Case{ImportFile::kNeutral, "neutral", &CPC_KESTRIN_GET::NeutralFileParse},
                         Case{ImportFile::kGeometry, "geometry", &CPC_KESTRIN_GET::GeomFileParse},
                         Case{ImportFile::kTraces, "traces", &CPC_KESTRIN_GET::TraceFileParse}}) {
     const std::string path = test::BoardFile(c.kind);
     const std::string text = test::ContentOf(path);
-    CPC_KESTRIN_GET whole;
-    (whole.*c.read)(path);
+    const auto dumpOf = [&c](const std::string& file) {
+      CPC_KESTRIN_GET session;
+      (session.*c.read)(file);
+      return test::DumpOf(session);
+    };
+    const std::string whole = dumpOf(path);
     for (std::size_t readable = 0; readable < text.size(); readable += 37) {
       CPC_KESTRIN_GET session;
       CWnd dialog;
@@ -46,9 +51,11 @@ TEST(FaultyFile, AReadErrorEndsTheImportBehindTheLastWholeLine) {
       }
       const FileReport& report = session.GetReport().Of(c.file);
       EXPECT_EQ(report.end, ReadingEnd::kStopped);
-      EXPECT_EQ(report.linesRead, std::count(text.begin(), text.begin() + static_cast<long>(readable), '\n'));
+      const std::string read = text.substr(0, text.substr(0, readable).rfind('\n') + 1);
+      EXPECT_EQ(report.linesRead, std::count(read.begin(), read.end(), '\n'));
+      EXPECT_EQ(test::DumpOf(session), dumpOf(folder.File("cut", read)));
       (session.*c.read)(path);
-      EXPECT_EQ(test::DumpOf(session), test::DumpOf(whole));
+      EXPECT_EQ(test::DumpOf(session), whole);
     }
   }
 }

@@ -1,17 +1,22 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <memory>
 #include <new>
 #include <optional>
 #include <string>
 #include <utility>
 
+#include "kestrin/platform/messages.h"
+#include "kestrin/session/dialog.h"
+#include "kestrin/traces/mp_traces_parser.h"
 #include "kestrin/traces/strict/strict_parser.h"
 #include "tests/faults/faults.h"
 #include "tests/support/content_of.h"
 #include "tests/support/model_dump.h"
 #include "tests/support/sample_board.h"
 #include "tests/support/source_of.h"
+#include "tests/support/temporary_folder.h"
 
 namespace kestrin {
 namespace {
@@ -38,12 +43,24 @@ std::int64_t AllocationsOf(const std::function<void()>& run) {
   return AllocationsSoFar().made - before;
 }
 
-/// A host with a dialog and a queue of messages.
+/// A host with a dialog.
 struct Host {
   explicit Host(CPC_KESTRIN_GET& session) { session.SetProgressPtr(&bar, &bar, &bar, &bar); }
   CWnd dialog;
   CProgressCtrl bar{&dialog};
 };
+
+/// Files are read one after the other, and at most one of them stopped.
+void ExpectReportOfAnImportThatStopped(const ImportReport& report) {
+  bool stopped = false;
+  for (const ImportFile file :
+       {ImportFile::kTech, ImportFile::kNeutral, ImportFile::kGeometry, ImportFile::kTraces}) {
+    const ReadingEnd end = report.Of(file).end;
+    EXPECT_TRUE(end == ReadingEnd::kNotRead || (!stopped && end != ReadingEnd::kNotOpened));
+    stopped = stopped || end != ReadingEnd::kComplete;
+  }
+  EXPECT_TRUE(stopped);
+}
 
 TEST(OutOfMemory, AnImportLetsItThroughAndTheSessionReadsOn) {
   std::string whole;
@@ -62,14 +79,30 @@ TEST(OutOfMemory, AnImportLetsItThroughAndTheSessionReadsOn) {
         CPC_KESTRIN_GET session;
         const Host host(session);
         EXPECT_TRUE(RunsOut([&] { test::ImportBoard(session); }, number, which)) << number;
-        if (number % 50 == 0) {
-          test::ImportBoard(session);
-          EXPECT_EQ(test::DumpOf(session), whole);
-        }
+        ExpectReportOfAnImportThatStopped(session.GetReport());
+        EXPECT_LT(test::DumpOf(session).size(), whole.size());
+        test::ImportBoard(session);
+        EXPECT_EQ(test::DumpOf(session), whole);
       }
       ASSERT_EQ(AllocationsSoFar().alive, alive) << "leaked, allocation " << number;
     }
   }
+}
+
+TEST(OutOfMemory, AMessageThatFindsNoRoomRaisesAndTheOthersArrive) {
+  struct Counter : CWnd {
+    LRESULT WindowProc(UINT /*message*/, WPARAM /*wParam*/, LPARAM /*lParam*/) override { return ++received; }
+    int received = 0;
+  } window;
+  int posted = 0;
+  for (int i = 0; i < 10; ++i) {
+    const auto post = [&] {
+      for (;; ++posted) PostMessageA(window.GetSafeHwnd(), WM_USER, 0, 0);
+    };
+    EXPECT_TRUE(RunsOut(post, i, Which::kAllFromThere));
+  }
+  PumpMessages();
+  EXPECT_EQ(window.received, posted);
 }
 
 TEST(OutOfMemory, TheStrictReaderSaysThatMemoryEndedTheParse) {
@@ -95,6 +128,38 @@ TEST(OutOfMemory, TheStrictReaderSaysThatMemoryEndedTheParse) {
     }
   }
   EXPECT_EQ(test::Dump(*ParseStrictly(SourceOf(board)).traces), whole);
+}
+
+/// Parses files and takes the models that are handed over.
+struct Parsing {
+  bool Succeeds(std::string path) {
+    MPTracesParser parser(path.data());
+    const int result = parser.Parse();
+    parser.Close();
+    if (parser.GetTraces() != traces.get()) traces.reset(parser.GetTraces());
+    return result == 0;
+  }
+  std::unique_ptr<CMTraces> traces;  // kept until there is another: no new one has its address
+};
+
+TEST(OutOfMemory, TheParserOfAFileLosesNoModel) {
+  const test::TemporaryFolder folder;
+  const std::string good = "UNITS MM\nST 1 2 3 4\nXRF 1 U_1\n";
+  const std::string path = folder.File("good", good + "ST 1 2 3 4\n");
+  const std::string faulty = folder.File("faulty", good + "TTT X\nTTT 1 2 3 4 5\n# NET 'A'\nST 1 2 3 4\n");
+  Parsing parsing;
+  testing::internal::CaptureStderr();
+  ASSERT_TRUE(parsing.Succeeds(path));
+  const std::int64_t allocations = AllocationsOf([&] { ASSERT_TRUE(parsing.Succeeds(faulty)); });
+  ASSERT_TRUE(parsing.Succeeds(path));  // nothing is left of the text of the error
+  const std::int64_t alive = AllocationsSoFar().alive;
+  for (std::int64_t number = 0; number < allocations; ++number) {
+    const auto parse = [&] { EXPECT_FALSE(parsing.Succeeds(faulty)); };
+    static_cast<void>(RunsOut(parse, number, Which::kOne));
+    ASSERT_TRUE(parsing.Succeeds(path));
+    ASSERT_EQ(AllocationsSoFar().alive, alive) << "leaked, allocation " << number;
+  }
+  testing::internal::GetCapturedStderr();
 }
 
 }  // namespace

@@ -1,8 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <functional>
+#include <memory>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include "kestrin/platform/message_box.h"
@@ -48,28 +51,54 @@ TEST(Threads, SessionsWithDialogsWorkAtOnce) {
 
 TEST(Threads, StrictParsesRunAtOnce) {
   const std::string board = test::ContentOf(test::BoardFile("traces"));
+  const std::string whole = test::Dump(*ParseStrictly(test::SourceOf(board)).traces);
   InThreads([&] {
     const StrictParse parse = ParseStrictly(test::SourceOf(board));
     EXPECT_EQ(parse.result, ParseResult::kAccepted);
-    EXPECT_EQ(parse.traces->m_pNetArray->GetSize(), 15);
+    EXPECT_EQ(test::Dump(*parse.traces), whole);
   });
 }
 
-TEST(Threads, AnyThreadMayPostAndReadAndLetGoOfSharedModels) {
-  CPC_KESTRIN_GET session;
-  test::ImportBoard(session);
-  const std::string whole = test::DumpOf(session);
+TEST(Threads, ModelsAreReadAndLetGoOfAtOnce) {
+  auto session = std::make_unique<CPC_KESTRIN_GET>();
+  test::ImportBoard(*session);
+  const std::string whole = test::DumpOf(*session);
+  std::vector<std::unique_ptr<CPC_KESTRIN_GET>> copies;
+  for (int i = 0; i < kThreads * kRounds; ++i) copies.push_back(std::make_unique<CPC_KESTRIN_GET>(*session));
+  session.reset();
+  std::atomic<std::size_t> next = 0;
+  InThreads([&] {
+    const auto copy = std::move(copies[next++]);
+    EXPECT_EQ(test::DumpOf(*copy), whole);
+  });
+}
+
+TEST(Threads, CopiesOfAStringChangeWhileOthersAreMade) {
+  const CString original(std::string(100, 'x'));
+  InThreads([&] {
+    for (int i = 0; i < 1000; ++i) {
+      CString copy = original;
+      copy += 'y';
+      EXPECT_NE(copy, original);
+    }
+  });
+  EXPECT_EQ(original, std::string(100, 'x').c_str());
+}
+
+TEST(Threads, MessagesArriveWhileTheyArePosted) {
+  constexpr std::size_t kMessages = 1000;
   test::Events events;
   test::Recording<CWnd> window(events, "window");
-  InThreads([&, handle = window.GetSafeHwnd()] {
-    const CPC_KESTRIN_GET copy(session);
-    EXPECT_EQ(test::DumpOf(copy), whole);
-    EXPECT_EQ(PostMessageA(handle, WM_USER, 0, 0), TRUE);
-    const CWnd passing;
-    EXPECT_EQ(CWnd::FromHandle(passing.GetSafeHwnd()), &passing);
+  std::thread posting([handle = window.GetSafeHwnd()] {
+    InThreads([handle] {
+      for (std::size_t i = 0; i < kMessages; ++i) PostMessageA(handle, WM_USER, 0, 0);
+      const CWnd passing;
+      EXPECT_EQ(CWnd::FromHandle(passing.GetSafeHwnd()), &passing);
+    });
   });
-  session.GeomFileParse(test::BoardFile("tech"));  // dispatches what was posted
-  EXPECT_EQ(events.size(), std::size_t{kThreads} * kRounds);
+  CPC_KESTRIN_GET session;
+  while (events.size() < kMessages * kThreads * kRounds) session.GeomFileParse(test::BoardFile("geometry"));
+  posting.join();
 }
 
 TEST(Threads, MessageBoxesAreShownWhileTheirHandlerIsReplaced) {
