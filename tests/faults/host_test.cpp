@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 #include "kestrin/platform/messages.h"
 #include "tests/support/model_dump.h"
@@ -42,50 +44,42 @@ TEST(UnrulyHost, AStormOfMessagesIsWorkedOffBeforeTheNextLine) {
 
 /// A host's dialog that keeps posting itself messages, and does something when it is called for the n-th
 /// time: to receive a message, to be refreshed or to move a bar.
-template <class ACT>
 class ActingDialog : public CWnd {
  public:
-  /// The windows that it gives to a session.
-  struct Windows {
-    struct Bar : CProgressCtrl {
-      explicit Bar(ActingDialog& parent) : CProgressCtrl(&parent), dialog(parent) {}
-      LRESULT WindowProc(UINT /*message*/, WPARAM /*wParam*/, LPARAM /*lParam*/) override {
-        return dialog.Called();
-      }
-      ActingDialog& dialog;
-    };
-    explicit Windows(ActingDialog& dialog)
-        : tech(dialog), neutral(dialog), geometry(dialog), traces(dialog) {}
-
-    CWnd status;
-    Bar tech, neutral, geometry, traces;
-  };
-
-  ActingDialog(int number, ACT act) : number_(number), act_(act) { Post(); }
+  ActingDialog(int number, std::function<void()> act) : number_(number), act_(std::move(act)) { Post(); }
 
   void Attach(CPC_KESTRIN_GET& session) {
-    session.m_pStatusWnd = &windows->status;
-    session.SetProgressPtr(&windows->geometry, &windows->neutral, &windows->traces, &windows->tech);
+    session.m_pStatusWnd = &status_;
+    session.SetProgressPtr(&bars_[0], &bars_[1], &bars_[2], &bars_[3]);
   }
   LRESULT WindowProc(UINT /*message*/, WPARAM /*wParam*/, LPARAM /*lParam*/) override { return Called(); }
   BOOL UpdateData(BOOL /*saveAndValidate*/) override {
     Post();
-    Called();
-    return TRUE;
+    return Called();
   }
   [[nodiscard]] bool HasActed() const { return number_ <= 0; }
 
-  std::unique_ptr<Windows> windows = std::make_unique<Windows>(*this);
-
  private:
+  struct Bar : CProgressCtrl {
+    explicit Bar(ActingDialog& parent) : CProgressCtrl(&parent), dialog(parent) {}
+    LRESULT WindowProc(UINT /*message*/, WPARAM /*wParam*/, LPARAM /*lParam*/) override {
+      return dialog.Called();
+    }
+    ActingDialog& dialog;
+  };
+
   void Post() { PostMessageA(GetSafeHwnd(), WM_USER, 0, 0); }
-  int Called() {
-    if (--number_ == 0) act_(*this);
-    return 0;
+  BOOL Called() {
+    if (--number_ != 0) return TRUE;
+    const std::function<void()> act = act_;  // which outlives the dialog if that goes
+    act();
+    return TRUE;
   }
 
   int number_;
-  ACT act_;
+  std::function<void()> act_;
+  CWnd status_;
+  Bar bars_[4] = {Bar(*this), Bar(*this), Bar(*this), Bar(*this)};
 };
 
 TEST(UnrulyHost, AHandlerThatThrowsEndsTheImportAndTheSessionReadsOn) {
@@ -93,7 +87,7 @@ TEST(UnrulyHost, AHandlerThatThrowsEndsTheImportAndTheSessionReadsOn) {
   int number = 1;
   for (bool acted = true; acted; number += 7) {
     CPC_KESTRIN_GET session;
-    ActingDialog dialog(number, [](auto&) { throw std::runtime_error("cancelled"); });
+    ActingDialog dialog(number, [] { throw std::runtime_error("cancelled"); });
     dialog.Attach(session);
     try {
       test::ImportBoard(session);
@@ -106,15 +100,17 @@ TEST(UnrulyHost, AHandlerThatThrowsEndsTheImportAndTheSessionReadsOn) {
   EXPECT_GT(number, 900);
 }
 
-TEST(UnrulyHost, AHandlerMayDestroyTheWindowsOfTheSession) {
+TEST(UnrulyHost, AHandlerMayDestroyTheDialogWithAllItsWindows) {
   const std::string whole = WholeBoard();
   int number = 1;
   for (bool acted = true; acted; number += 7) {
     CPC_KESTRIN_GET session;
-    ActingDialog dialog(number, [](auto& itself) { itself.windows.reset(); });
-    dialog.Attach(session);
+    std::unique_ptr<CWnd> shown;
+    auto dialog = std::make_unique<ActingDialog>(number, [&] { shown.reset(); });
+    dialog->Attach(session);
+    shown = std::move(dialog);
     test::ImportBoard(session);
-    acted = dialog.HasActed();
+    acted = shown == nullptr;
     EXPECT_EQ(session.m_pStatusWnd == nullptr, acted);
     EXPECT_EQ(session.m_pTraceProgress == nullptr, acted);
     EXPECT_EQ(test::DumpOf(session), whole);
