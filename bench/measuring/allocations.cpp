@@ -10,8 +10,8 @@ std::uint64_t allocations = 0;
 
 }  // namespace
 
-// The linker leads calls of malloc to __wrap_malloc, and those of __real_malloc to malloc; so with the
-// others.
+// NOLINTBEGIN(bugprone-reserved-identifier): the linker sets these names. It leads calls of malloc to
+// __wrap_malloc, and those of __real_malloc to malloc; so with the others.
 extern "C" {
 
 void* __real_malloc(std::size_t size);
@@ -53,6 +53,7 @@ void operator delete(void* memory) noexcept { std::free(memory); }
 void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 void operator delete(void* memory, std::align_val_t) noexcept { std::free(memory); }
 void operator delete(void* memory, std::size_t, std::align_val_t) noexcept { std::free(memory); }
+// NOLINTEND(bugprone-reserved-identifier)
 
 namespace kestrin::bench {
 

@@ -47,7 +47,8 @@ FailingReads::~FailingReads() { readableBytes = kEverything; }
 
 using namespace kestrin::test;
 
-// NOLINTBEGIN: the linker sets these names, and memory is what they are about.
+// NOLINTBEGIN(bugprone-reserved-identifier,cppcoreguidelines-owning-memory): the linker sets these names, and
+// memory is what they are about.
 extern "C" {
 
 void* __real_malloc(std::size_t size);
@@ -107,4 +108,4 @@ void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 void operator delete[](void* memory, std::size_t) noexcept { std::free(memory); }
 void operator delete(void* memory, std::align_val_t) noexcept { std::free(memory); }
 void operator delete(void* memory, std::size_t, std::align_val_t) noexcept { std::free(memory); }
-// NOLINTEND
+// NOLINTEND(bugprone-reserved-identifier,cppcoreguidelines-owning-memory)

@@ -26,6 +26,7 @@ constexpr int kRounds = 3;
 /// Runs it in several threads at once, several times in each.
 void InThreads(const std::function<void()>& run) {
   std::vector<std::thread> threads;
+  threads.reserve(kThreads);
   for (int i = 0; i < kThreads; ++i) {
     threads.emplace_back([&] {
       for (int round = 0; round < kRounds; ++round) run();
@@ -63,8 +64,8 @@ TEST(Threads, ModelsAreReadAndLetGoOfAtOnce) {
   auto session = std::make_unique<CPC_KESTRIN_GET>();
   test::ImportBoard(*session);
   const std::string whole = test::DumpOf(*session);
-  std::vector<std::unique_ptr<CPC_KESTRIN_GET>> copies;
-  for (int i = 0; i < kThreads * kRounds; ++i) copies.push_back(std::make_unique<CPC_KESTRIN_GET>(*session));
+  std::vector<std::unique_ptr<CPC_KESTRIN_GET>> copies(std::size_t{kThreads} * kRounds);
+  for (auto& copy : copies) copy = std::make_unique<CPC_KESTRIN_GET>(*session);
   session.reset();
   std::atomic<std::size_t> next = 0;
   InThreads([&] {

@@ -44,9 +44,9 @@ TEST(RecordPool, RecordsOutliveItAndEndInAnyOrder) {
 
 TEST(RecordPool, RecordsEndOnOtherThreadsWhileMoreAreMade) {
   RecordPool pool;
-  std::vector<std::thread> threads;
-  for (int i = 0; i < 4; ++i) {
-    threads.emplace_back([records = MadeBy(pool, 20'000)]() mutable { records.clear(); });
+  std::vector<std::thread> threads(4);
+  for (std::thread& thread : threads) {
+    thread = std::thread([records = MadeBy(pool, 20'000)]() mutable { records.clear(); });
   }
   for (std::thread& thread : threads) thread.join();
 }

@@ -26,7 +26,7 @@ std::string Dump(const MODELS&... models) {
     json->EndArray();
     json->Finish();
   }
-  std::fclose(stream);
+  std::fclose(stream);  // NOLINT(cppcoreguidelines-owning-memory): opened above
   return text;
 }
 

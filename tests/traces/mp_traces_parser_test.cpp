@@ -90,6 +90,7 @@ TEST_F(MPTracesParserTest, SharesItsStateAndKeepsTheModelOfAnEarlierParse) {
 TEST_F(MPTracesParserTest, ReadsStandardInputWhereNoFileIsOpen) {
   const std::string path = Path(kBegin + kEnd);
   const std::string missing = path + ".missing";
+  // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): standard input stays the process's
   ASSERT_NE(std::freopen(path.c_str(), "r", stdin), nullptr);
   MPTracesParser parser(std::string(missing).data());
   EXPECT_EQ(parser.Parse(), 0);

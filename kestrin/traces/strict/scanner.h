@@ -3,24 +3,15 @@
 /// @file
 /// The scanner of the strict reader: turns the characters of a Traces file into the tokens of its grammar.
 
-#include <array>
 #include <cstdint>
-#include <cstdlib>
-#include <memory>
-#include <stdexcept>
 #include <string_view>
 
+#include "kestrin/traces/strict/scanner_memory.h"
 #include "kestrin/traces/strict/text_input.h"
 #include "kestrin/traces/strict/token_text.h"
 #include "kestrin/traces/strict/traces_grammar.h"
 
 namespace kestrin {
-
-/// The scanner cannot go on: its memory, or a text that is too long for it.
-class ScannerError : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
 
 /// Scans one file. Line ends are no tokens; the scanner counts them.
 class TracesScanner {
@@ -40,15 +31,9 @@ class TracesScanner {
 
   /// What the rules read and write.
   struct State {
-    struct Free {
-      // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the owner's own deleter
-      void operator()(void* bytes) const noexcept { std::free(bytes); }
-    };
-    using Memory = std::unique_ptr<void, Free>;
-
     TextInput input;
     TokenTexts texts;
-    std::array<Memory, 8> blocks{};  // what the automaton takes: itself, its buffer, and a little around it
+    ScannerMemory memory;
     std::int64_t lineEnds = 0;
     bool fillSeen = false;  // an ARE behind the first FIL belongs to a fill
     bool opened = false;    // an opening parenthesis was seen on this line
