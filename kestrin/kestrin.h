@@ -7,6 +7,7 @@
 #include "kestrin/geometry/points.h"
 #include "kestrin/neutral/component_model.h"
 #include "kestrin/neutral/net_model.h"
+#include "kestrin/platform/archive.h"
 #include "kestrin/platform/message_box.h"
 #include "kestrin/platform/messages.h"
 #include "kestrin/platform/window.h"

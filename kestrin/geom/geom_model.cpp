@@ -26,6 +26,16 @@ CMGeom::CMGeom()
 
 CMGeom::CMGeom(const CMGeom&) = default;
 CMGeom& CMGeom::operator=(const CMGeom&) = default;
-CMGeom::~CMGeom() = default;
+
+CMGeom::~CMGeom() {
+  m_pBoard = nullptr;
+  m_pStackup = nullptr;
+  m_pPanels = nullptr;
+  m_pComponents = nullptr;
+  m_pPins = nullptr;
+  m_pVias = nullptr;
+  m_pDrawings = nullptr;
+  m_pGenericParts = nullptr;
+}
 
 }  // namespace kestrin

@@ -3,8 +3,8 @@
 /// @file
 /// What a Geometry file says: the board, its stack-up, and the panels, components, generic parts, pins, vias
 /// and drawings. Every geometry has its name, the unit of its lengths ("MM", "IN", "MIL", "CM" or empty), its
-/// drawing objects, its texts and the geometries that it adds. Pointers are never null; members named spare,
-/// unset or reserved are there for the host's sake, and nothing fills them.
+/// drawing objects, its texts and the geometries that it adds. Lists and records are never null; members
+/// named spare, unset or reserved are there for the host's sake, and nothing fills them.
 
 #include <cstdint>
 

@@ -30,6 +30,8 @@ class Owning : public ARRAY {
     this->RemoveAll();
   }
 
+  using ARRAY::Append;
+
   /// Hands a record to the list, at its end, and returns it.
   template <class RECORD>
   RECORD* Append(std::unique_ptr<RECORD> record) {

@@ -18,12 +18,15 @@ class PooledRecord {
  public:
   /// Memory for a record that is made outside a reader.
   [[nodiscard]] KESTRIN_EXPORT static void* operator new(std::size_t size);
+  /// A record in memory of the host's, which only its destructor ends.
+  [[nodiscard]] static void* operator new(std::size_t /*size*/, void* memory) noexcept { return memory; }
   /// Memory for a reader's record.
   [[nodiscard]] static void* operator new(std::size_t size, RecordPool& pool);
   ///@{
   /// Gives the memory of a record back.
   KESTRIN_EXPORT static void operator delete(void* record, std::size_t size) noexcept;
   static void operator delete(void* record, RecordPool& pool) noexcept;
+  static void operator delete(void* /*record*/, void* /*memory*/) noexcept {}
   ///@}
 };
 

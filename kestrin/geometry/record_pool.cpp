@@ -102,7 +102,7 @@ void PooledRecord::operator delete(void* record, std::size_t size) noexcept {
 }
 
 void PooledRecord::operator delete(void* record, RecordPool& /*pool*/) noexcept {
-  operator delete(record, 0);
+  operator delete (record, std::size_t{0});
 }
 
 }  // namespace kestrin

@@ -25,8 +25,8 @@ class CMTraces;
 /// touch the session or its models until vParse returns. Different sessions may work in different threads.
 ///
 /// Roots: a reader replaces the root of its file. The pointer from a getter is valid until the file is read
-/// again or the session goes, and longer while a copy of the session shares the root: copies share roots, and
-/// every one of them may be destroyed.
+/// again or the session goes or is assigned to, and longer while a copy of the session shares the root:
+/// copies share roots, and every one of them may be destroyed.
 ///
 /// Errors: a file that cannot be opened leaves an empty root; lines that cannot be read are skipped;
 /// GetReport tells of both. Exceptions of the framework (CInvalidArgException at a line of the Traces file

@@ -25,7 +25,12 @@ CMTech::CMTech()
 
 CMTech::CMTech(const CMTech&) = default;
 CMTech& CMTech::operator=(const CMTech&) = default;
-CMTech::~CMTech() = default;
+
+CMTech::~CMTech() {
+  m_pStackupArray = nullptr;
+  m_pViaArray = nullptr;
+  m_pPinArray = nullptr;
+}
 
 int CMTech::GetPhysicalLayerNumber(CString physicalLayerName) const {
   const CMTechStackUpOrder* layer = FindLayer(*m_pStackupArray, physicalLayerName);

@@ -85,7 +85,7 @@ std::optional<std::string_view> NextPropertyGroup(std::string_view line, std::si
                                                   std::string& scratch) {
   for (;;) {
     while (position < line.size() && line[position] == ' ') ++position;
-    if (position == line.size()) return std::nullopt;
+    if (position >= line.size()) return std::nullopt;
     const GroupEnd end = FindGroupEnd(line, position);
     const std::string_view group = line.substr(position, end.position - position);
     position = end.position;

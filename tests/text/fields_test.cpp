@@ -89,7 +89,11 @@ TEST(SeparateLine, BehindAStartIndex) {
   CStringArray fields;
   session.SeparateLineBasedonSpace("A b 'c d' e", 0, fields);
   EXPECT_EQ(Strings(fields), (Fields{"b", "'c d'", "e"}));
-  for (const int beyond : {10, 11, INT_MAX}) session.SeparateLineBasedonSpace("A b 'c d' e", beyond, fields);
+  for (const int beyond : {10, 11, INT_MAX}) {
+    session.SeparateLineBasedonSpace("A b 'c d' e", beyond, fields);
+    session.SeparateLineForCompProperty("(A) (B) (C)", beyond, fields);
+    session.SeparateLineForCompProperty("", beyond, fields);
+  }
   EXPECT_EQ(fields.GetSize(), 3);
   session.SeparateLineForCompProperty("x(A) b", 0, fields);
   EXPECT_EQ(Strings(fields), (Fields{"b", "'c d'", "e", "(A)", "b"}));

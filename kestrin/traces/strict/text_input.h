@@ -24,7 +24,7 @@ class TextInput {
   /// As many characters as there is room for, fewer only at the end of the file.
   [[nodiscard]] std::size_t Read(char* text, std::size_t size);
 
-  /// A text up to the first zero byte.
+  /// A text up to the first zero byte; in a file that has any, a byte 1 is taken for one.
   [[nodiscard]] std::string_view UpToZero(std::string_view text) const {
     return zeroSeen_ ? text.substr(0, text.find(kZeroStandIn)) : text;
   }
