@@ -19,9 +19,11 @@ namespace kestrin {
 ///
 /// Unlike the framework's array it answers null, -1 or false to an index or a record that it does not have;
 /// of its own operations only MoveElementTo and DeleteAt raise CInvalidArgException for indexes outside it.
-template <class POINTER>
-class CExPtrArray : public CArray<POINTER, POINTER> {
-  static_assert(std::is_pointer_v<POINTER>);
+/// The type that elements are handed over as may be named as it is for the framework's array: the pointer
+/// too.
+template <class POINTER, class ARG_POINTER = POINTER>
+class CExPtrArray : public CArray<POINTER, ARG_POINTER> {
+  static_assert(std::is_pointer_v<POINTER> && std::is_same_v<POINTER, ARG_POINTER>);
   using Base = CArray<POINTER, POINTER>;
 
  public:
@@ -89,36 +91,36 @@ class CExPtrArray : public CArray<POINTER, POINTER> {
   void CutAt(const POINTER* newEnd) { this->RemoveAt(newEnd - this->begin(), this->end() - newEnd); }
 };
 
-template <class POINTER>
-void CExPtrArray<POINTER>::RemoveNullElement() {
+template <class POINTER, class ARG_POINTER>
+void CExPtrArray<POINTER, ARG_POINTER>::RemoveNullElement() {
   CutAt(std::remove(this->begin(), this->end(), nullptr));
 }
 
-template <class POINTER>
-void CExPtrArray<POINTER>::RemoveDuplicatedElements() {
+template <class POINTER, class ARG_POINTER>
+void CExPtrArray<POINTER, ARG_POINTER>::RemoveDuplicatedElements() {
   std::unordered_set<POINTER> seen;
   CutAt(std::remove_if(this->begin(), this->end(),
                        [&](POINTER element) { return !seen.insert(element).second; }));
 }
 
-template <class POINTER>
-bool CExPtrArray<POINTER>::Remove(POINTER element) {
+template <class POINTER, class ARG_POINTER>
+bool CExPtrArray<POINTER, ARG_POINTER>::Remove(POINTER element) {
   const std::int64_t index = FindIndex(element);
   if (index < 0) return false;
   this->RemoveAt(index);
   return true;
 }
 
-template <class POINTER>
-POINTER CExPtrArray<POINTER>::RemoveLastElement() {
+template <class POINTER, class ARG_POINTER>
+POINTER CExPtrArray<POINTER, ARG_POINTER>::RemoveLastElement() {
   if (this->IsEmpty()) return nullptr;
   POINTER last = GetLastElement();
   this->RemoveAt(GetLastIndex());
   return last;
 }
 
-template <class POINTER>
-void CExPtrArray<POINTER>::Subtract(const Base& other) {
+template <class POINTER, class ARG_POINTER>
+void CExPtrArray<POINTER, ARG_POINTER>::Subtract(const Base& other) {
   std::unordered_map<POINTER, std::int64_t> left;
   for (POINTER element : other) ++left[element];
   CutAt(std::remove_if(this->begin(), this->end(), [&](POINTER element) {
@@ -127,9 +129,9 @@ void CExPtrArray<POINTER>::Subtract(const Base& other) {
   }));
 }
 
-template <class POINTER>
-bool CExPtrArray<POINTER>::MoveElementTo(Base& destination, const std::int32_t& first,
-                                         const std::int32_t& last) {
+template <class POINTER, class ARG_POINTER>
+bool CExPtrArray<POINTER, ARG_POINTER>::MoveElementTo(Base& destination, const std::int32_t& first,
+                                                      const std::int32_t& last) {
   if (last < first) return false;
   if (!IsInside(first) || !IsInside(last)) AfxThrowInvalidArgException();
   const std::int64_t start = first;
@@ -139,16 +141,16 @@ bool CExPtrArray<POINTER>::MoveElementTo(Base& destination, const std::int32_t& 
   return true;
 }
 
-template <class POINTER>
-bool CExPtrArray<POINTER>::Delete(POINTER element) {
+template <class POINTER, class ARG_POINTER>
+bool CExPtrArray<POINTER, ARG_POINTER>::Delete(POINTER element) {
   const std::int32_t index = FindIndex(element);
   if (index < 0) return false;
   DeleteAt(index);
   return true;
 }
 
-template <class POINTER>
-void CExPtrArray<POINTER>::DeleteAt(std::int32_t index, std::int32_t count) {
+template <class POINTER, class ARG_POINTER>
+void CExPtrArray<POINTER, ARG_POINTER>::DeleteAt(std::int32_t index, std::int32_t count) {
   if (count <= 0) return;
   if (!IsInside(index)) AfxThrowInvalidArgException();
   const std::int64_t inside = std::min<std::int64_t>(count, this->m_nSize - index);
@@ -157,15 +159,15 @@ void CExPtrArray<POINTER>::DeleteAt(std::int32_t index, std::int32_t count) {
   if (inside < count) AfxThrowInvalidArgException();
 }
 
-template <class POINTER>
-bool CExPtrArray<POINTER>::DeleteLastElement() {
+template <class POINTER, class ARG_POINTER>
+bool CExPtrArray<POINTER, ARG_POINTER>::DeleteLastElement() {
   if (this->IsEmpty()) return false;
   DeleteRecord(RemoveLastElement());
   return true;
 }
 
-template <class POINTER>
-void CExPtrArray<POINTER>::DeleteAll() {
+template <class POINTER, class ARG_POINTER>
+void CExPtrArray<POINTER, ARG_POINTER>::DeleteAll() {
   std::for_each(this->begin(), this->end(), &DeleteRecord);
   this->SetSize(0);
 }

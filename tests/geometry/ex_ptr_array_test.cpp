@@ -24,7 +24,7 @@ struct Record {
   std::string& log;
 };
 
-class Array : public CExPtrArray<Record*> {
+class Array : public CExPtrArray<Record*, Record*> {
  public:
   Array() = default;
   Array(std::initializer_list<Record*> records) {
