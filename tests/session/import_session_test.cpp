@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "kestrin/geom/geom_model.h"
 #include "kestrin/neutral/component_model.h"
@@ -102,16 +103,20 @@ TEST_F(ImportSession, RefreshesThroughWhicheverBarThereIs) {
   }
 }
 
-TEST_F(ImportSession, TheGeometryReaderLetsTheHostWorkOffItsMessages) {
+TEST_F(ImportSession, TheGeometryAndTracesReadersLetTheHostWorkOffItsMessages) {
   CPC_KESTRIN_GET session;
   SetPaths(session);
+  session.vSetTraceFilePath(folder_.File("line.traces", "UNITS MM"));
   RecordingDialog host;
-  PostMessageA(host.dialog.GetSafeHwnd(), WM_USER, 1, 0);
-  session.TechFileParse(session.m_sTechFilePath);
-  EXPECT_EQ(host.events, Events{});
-  session.GeomFileParse(session.m_sGeomFilePath);
-  EXPECT_EQ(host.events, (Events{"dialog: message 1024 1"}));
-  EXPECT_EQ(session.GetGeom()->m_pVias->GetSize(), 1);
+  const auto eventsOf = [&](void (CPC_KESTRIN_GET::*read)(CString), const CString& path) {
+    PostMessageA(host.dialog.GetSafeHwnd(), WM_USER, 1, 0);
+    (session.*read)(path);
+    return std::exchange(host.events, {}).size();
+  };
+  EXPECT_EQ(eventsOf(&CPC_KESTRIN_GET::TechFileParse, session.m_sTechFilePath), 0U);
+  EXPECT_EQ(eventsOf(&CPC_KESTRIN_GET::NeutralFileParse, session.m_sNeutralFilePath), 0U);
+  EXPECT_EQ(eventsOf(&CPC_KESTRIN_GET::GeomFileParse, session.m_sGeomFilePath), 3U);  // with the two before
+  EXPECT_EQ(eventsOf(&CPC_KESTRIN_GET::TraceFileParse, session.m_sTraceFilePath), 1U);
   EXPECT_EQ(session.GetReport().Of(ImportFile::kGeometry).Imported(), 2);
 }
 
@@ -158,32 +163,6 @@ TEST_F(ImportSession, TheReportTellsOfTheBoardThatWasBeingRead) {
   session.SetProgressPtr(nullptr, &bar, nullptr, nullptr);
   EXPECT_THROW(session.NeutralFileParse(folder_.File("b.neutral", chosen)), CInvalidArgException);
   EXPECT_EQ(session.GetReport().boardSelection.placement, -1);
-}
-
-/// Posts itself a message whenever it is refreshed, for the next line's pump.
-class PostingDialog : public test::Recording<CWnd> {
- public:
-  using Recording::Recording;
-  BOOL UpdateData(BOOL save) override {
-    PostMessageA(GetSafeHwnd(), WM_USER, 0, 0);
-    return Recording::UpdateData(save);
-  }
-};
-
-TEST_F(ImportSession, TheTracesReaderPumpsMessagesBeforeItMovesItsBar) {
-  CPC_KESTRIN_GET session;
-  Events events;
-  PostingDialog dialog(events, "dialog");
-  test::Recording<CProgressCtrl> bar(events, "bar", &dialog);
-  session.SetProgressPtr(nullptr, nullptr, &bar, nullptr);
-  const std::string path = folder_.File("a.traces", "UNITS MM\n\n");
-  session.TraceFileParse(path);
-  EXPECT_EQ(events, (Events{"bar: position 33", "dialog: refresh", "dialog: message 1024 0",
-                            "bar: position 66", "dialog: refresh"}));
-  events.clear();
-  session.SetProgressPtr(nullptr, nullptr, nullptr, nullptr);
-  session.TraceFileParse(path);
-  EXPECT_EQ(events, (Events{"dialog: message 1024 0"}));
 }
 
 TEST_F(ImportSession, ATracesLineThatIsTooShortEndsTheImportAndKeepsWhatWasRead) {

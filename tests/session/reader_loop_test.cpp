@@ -150,19 +150,5 @@ TEST(ReaderLoop, LetsExceptionsThroughAndSaysWhereItStopped) {
   EXPECT_EQ(report.linesRead, 0);
 }
 
-TEST(ReaderLoop, SurvivesABarThatAMessageHandlerDestroys) {
-  const test::TemporaryFolder folder;
-  Events events;
-  test::Recording<CWnd> dialog(events, "dialog");
-  auto bar = std::make_unique<test::Recording<CProgressCtrl>>(events, "bar", &dialog);
-  ScriptedReader reader{[&](std::string_view) {
-    bar.reset();
-    return LineOutcome::Imported();
-  }};
-  FileReport report;
-  ReadLines({.path = folder.File("text", "a\nb"), .bar = bar.get(), .disablesBar = true}, reader, report);
-  EXPECT_EQ(events, (Events{"bar: position 50", "bar: disable", "dialog: refresh", "dialog: refresh"}));
-}
-
 }  // namespace
 }  // namespace kestrin
