@@ -5,18 +5,10 @@
 #include "fuzz/agreement.h"
 #include "fuzz/subjects.h"
 #include "kestrin/traces/strict/strict_parser.h"
+#include "tests/support/source_of.h"
 
 namespace kestrin::fuzz {
 namespace {
-
-/// Gives the text in pieces of this size.
-StrictParse Parse(std::string_view text, std::size_t pieceSize) {
-  return ParseStrictly([=](char* bytes, std::size_t size) mutable {
-    const std::size_t count = text.copy(bytes, std::min(size, pieceSize));
-    text.remove_prefix(count);
-    return count;
-  });
-}
 
 std::string Told(const StrictParse& parse) {
   std::string told = std::to_string(static_cast<int>(parse.result)) + " " + parse.error + " " +
@@ -56,11 +48,12 @@ bool AgreesWithLineReader(StrictParse& parse, std::string_view text) {
 
 bool Check(std::string_view text) {
   MemoryMeter memory;
-  StrictParse whole = Parse(text, text.size());
+  StrictParse whole = ParseStrictly(test::SourceOf(text, text.size()));
   memory.Look();
   memory.RequireInProportion(text.size());
   RequireConsistent(whole, text);
-  Require(Told(whole) == Told(Parse(text, 1 + text.size() % 7)), "it does not matter how the bytes come");
+  Require(Told(whole) == Told(ParseStrictly(test::SourceOf(text, 1 + text.size() % 7))),
+          "it does not matter how the bytes come");
   return AgreesWithLineReader(whole, text);
 }
 

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -90,6 +91,13 @@ TEST(FaultyFile, WhatOpensButCannotBeReadRaisesAndWhatDoesNotOpenDoesNot) {
     EXPECT_EQ(session.GetReport().Of(ImportFile::kTraces).end, ReadingEnd::kNotOpened) << path;
     EXPECT_TRUE(session.GetTraces()->m_pNetArray->IsEmpty());
   }
+  rlimit handles{};
+  ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &handles), 0);
+  const rlimit none{.rlim_cur = 0, .rlim_max = handles.rlim_max};
+  ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &none), 0);
+  session.TraceFileParse(test::BoardFile("traces"));
+  ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &handles), 0);
+  EXPECT_EQ(session.GetReport().Of(ImportFile::kTraces).end, ReadingEnd::kNotOpened);
 }
 
 /// Cuts a file short when it is refreshed.
