@@ -14,25 +14,25 @@ std::uint64_t Records(const LIST& list) {
   return static_cast<std::uint64_t>(list->GetSize());
 }
 
-void Add(Tally& tally, const RecordList<CMTracesSEG>& segments) {
-  tally.records += 1 + Records(segments);
-  for (const auto* segment : *segments) {
+void Add(Tally& tally, const RecordArray<CMTracesSEG>& segments) {
+  tally.records += 1 + Records(&segments);
+  for (const auto* segment : segments) {
     tally.coordinates += segment->m_dValue1;
     tally.coordinates += segment->m_dValue2;
     tally.characters += Length(segment->m_sValue4) + Length(segment->m_sValue5);
   }
 }
 
-void Add(Tally& tally, const RecordList<CMTracesVER>& vertices) {
-  tally.records += 1 + Records(vertices);
-  for (const auto* vertex : *vertices) {
+void Add(Tally& tally, const RecordArray<CMTracesVER>& vertices) {
+  tally.records += 1 + Records(&vertices);
+  for (const auto* vertex : vertices) {
     tally.coordinates += vertex->m_dX;
     tally.coordinates += vertex->m_dY;
   }
 }
 
-void Add(Tally& tally, const NumberList& numbers) {
-  for (const double number : *numbers) tally.coordinates += number;
+void Add(Tally& tally, const NumberArray& numbers) {
+  for (const double number : numbers) tally.coordinates += number;
 }
 
 void Add(Tally& tally, const CMGeomDrawObj& object) {
@@ -43,10 +43,10 @@ void Add(Tally& tally, const CMGeomDrawObj& object) {
   };
   if (const auto* path = dynamic_cast<const CMGeomPath*>(&object)) {
     add(path->m_sLayer, path->m_dWidth, {});
-    Add(tally, path->m_pCoords);
+    Add(tally, *path->m_pCoords);
   } else if (const auto* polygon = dynamic_cast<const CMGeomPolygon*>(&object)) {
     add(polygon->m_sLayer, 0.0, {});
-    Add(tally, polygon->m_pCoords);
+    Add(tally, *polygon->m_pCoords);
   } else if (const auto* circle = dynamic_cast<const CMGeomCircle*>(&object)) {
     add(circle->m_sLayer, circle->m_dWidth, {circle->m_dX, circle->m_dY, circle->m_dSize});
   } else if (const auto* arc = dynamic_cast<const CMGeomArc*>(&object)) {
@@ -71,15 +71,15 @@ Tally CountTraces(const CMTraces& traces) {
   for (const auto* net : *traces.m_pNetArray) {
     tally.characters += Length(net->m_sName);
     tally.records += Records(net->m_pGuiArray);
-    for (const auto* wire : *net->m_pWirArray) Add(tally, wire->m_pSegArray);
-    for (const auto* incomplete : *net->m_pIncArray) Add(tally, incomplete->m_pSegArray);
-    for (const auto* antenna : *net->m_pAntWirArray) Add(tally, antenna->m_pSegArray);
+    for (const auto* wire : *net->m_pWirArray) Add(tally, *wire->m_pSegArray);
+    for (const auto* incomplete : *net->m_pIncArray) Add(tally, *incomplete->m_pSegArray);
+    for (const auto* antenna : *net->m_pAntWirArray) Add(tally, *antenna->m_pSegArray);
   }
   for (const auto* fill : *traces.m_pFilArray) {
     tally.records += Records(fill->m_pTtiArray);
-    Add(tally, fill->m_pVerArray);
-    for (const auto* area : *fill->m_pAreArray) Add(tally, area->m_pVerArray);
-    for (const auto* island : *fill->m_pIslArray) Add(tally, island->m_pVerArray);
+    Add(tally, *fill->m_pVerArray);
+    for (const auto* area : *fill->m_pAreArray) Add(tally, *area->m_pVerArray);
+    for (const auto* island : *fill->m_pIslArray) Add(tally, *island->m_pVerArray);
   }
   return tally;
 }
@@ -89,7 +89,7 @@ Tally CountGeometry(const CMGeom& geom) {
   tally.records = Records(geom.m_pStackup->m_pLayers);
   Add(tally, *geom.m_pBoard);
   tally.records += Records(geom.m_pBoard->m_pRoutingKeepouts);
-  Add(tally, geom.m_pBoard->m_pPlacementOutline);
+  Add(tally, *geom.m_pBoard->m_pPlacementOutline);
   for (const auto* pin : *geom.m_pPins) Add(tally, *pin);
   for (const auto* component : *geom.m_pComponents) {
     Add(tally, *component);
@@ -99,7 +99,7 @@ Tally CountGeometry(const CMGeom& geom) {
       tally.coordinates += pin->m_dX;
       tally.coordinates += pin->m_dY;
     }
-    for (const auto* outline : *component->m_pPlacementOutlines) Add(tally, outline->m_pCoords);
+    for (const auto* outline : *component->m_pPlacementOutlines) Add(tally, *outline->m_pCoords);
   }
   return tally;
 }

@@ -14,9 +14,9 @@ s|^( +[^/]* m_[a-z]*_?(Spare\|Unset\|Extra\|Reserved)[A-Za-z]*[0-9]?( = [^;]+)?;
 # Members that several geometries have.
 s|^( +CString m_sName;)$|\1  ///< its name|
 s|^( +CString m_sUnits;)$|\1  ///< the unit of its lengths|
-s|^( +.* m_pDrawObjs;)$|\1  ///< its drawing objects|
-s|^( +.* m_pTexts;)$|\1  ///< its texts|
-s|^( +.* m_pAdds;)$|\1  ///< the geometries that it adds|
-s|^( +.* m_pDrills;)$|\1  ///< plated holes|
-s|^( +.* m_pUnplatedDrills;)$|\1  ///< holes without plating|
-s|^( +.* m_p(Routing\|Trace\|Via)Keepouts;)$|\1  ///< one for each attribute line|
+s|^( +.* m_pDrawObjs = [^;]+;)$|\1  ///< its drawing objects|
+s|^( +.* m_pTexts = [^;]+;)$|\1  ///< its texts|
+s|^( +.* m_pAdds = [^;]+;)$|\1  ///< the geometries that it adds|
+s|^( +.* m_pDrills = [^;]+;)$|\1  ///< plated holes|
+s|^( +.* m_pUnplatedDrills = [^;]+;)$|\1  ///< holes without plating|
+s|^( +.* m_p(Routing\|Trace\|Via)Keepouts = [^;]+;)$|\1  ///< one for each attribute line|

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "fuzz/checks.h"
+#include "kestrin/geometry/append.h"
 #include "kestrin/platform/characters.h"
 
 namespace kestrin::fuzz {
@@ -105,8 +106,8 @@ bool IsPlainLine(std::string_view line) {
 }
 
 template <class RECORD>
-void MoveRecords(OwningArray<RECORD>& from, OwningArray<RECORD>& to) {
-  for (RECORD* record : from) to.Append(std::unique_ptr<RECORD>(record));
+void MoveRecords(RecordArray<RECORD>& from, RecordArray<RECORD>& to) {
+  to.Append(from);
   from.RemoveAll();
 }
 
@@ -118,7 +119,7 @@ bool IsPlain(std::string_view text) {
 }
 
 void RemoveDifferences(CMTraces& traces) {
-  OwningArray<CMTracesFIL> fills;
+  Owning<RecordArray<CMTracesFIL>> fills;
   fills.Swap(*traces.m_pFilArray);
   auto rest = std::make_unique<CMTracesFIL>();
   for (CMTracesFIL*& fill : fills) {
@@ -129,14 +130,14 @@ void RemoveDifferences(CMTraces& traces) {
     MoveRecords(*fill->m_pTtiArray, *rest->m_pTtiArray);
     // A fill from a FIL line has vertices of its own, one that stands for areas has none.
     if (!fill->m_pVerArray->IsEmpty()) {
-      traces.m_pFilArray->Append(std::unique_ptr<CMTracesFIL>(std::exchange(fill, nullptr)));
+      traces.m_pFilArray->Add(std::exchange(fill, nullptr));
     }
   }
   for (CMTracesTTI* record : *rest->m_pTtiArray) {
     record->m_sName1.Empty();
     record->m_sName2.Empty();
   }
-  traces.m_pFilArray->Append(std::move(rest));
+  Append(*traces.m_pFilArray, std::move(rest));
 }
 
 }  // namespace kestrin::fuzz

@@ -63,16 +63,6 @@ void WriteJson(JsonWriter& json, const T* pointer) {
   WriteJson(json, *pointer);
 }
 
-template <class T>
-void WriteJson(JsonWriter& json, const Owned<T>& owned) {
-  WriteJson(json, *owned);
-}
-
-template <class T>
-void WriteJson(JsonWriter& json, const Shared<T>& shared) {
-  WriteJson(json, static_cast<const T*>(shared));
-}
-
 /// A list of values, of strings or of records.
 template <class TYPE, class ARG_TYPE>
 void WriteJson(JsonWriter& json, const CArray<TYPE, ARG_TYPE>& list) {

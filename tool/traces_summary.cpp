@@ -32,7 +32,7 @@ struct NetCounts {
 };
 
 template <class RECORD>
-std::int64_t SegmentsOf(const RecordList<RECORD>& records) {
+std::int64_t SegmentsOf(const RecordArray<RECORD>* records) {
   std::int64_t count = 0;
   for (const RECORD* record : *records) count += record->m_pSegArray->GetSize();
   return count;
@@ -54,13 +54,13 @@ struct FillCounts {
 };
 
 template <class RECORD>
-std::int64_t VerticesOf(const RecordList<RECORD>& records) {
+std::int64_t VerticesOf(const RecordArray<RECORD>* records) {
   std::int64_t count = 0;
   for (const RECORD* record : *records) count += record->m_pVerArray->GetSize();
   return count;
 }
 
-FillCounts CountsOf(const RecordList<CMTracesFIL>& fills) {
+FillCounts CountsOf(const RecordArray<CMTracesFIL>* fills) {
   FillCounts counts{.vertices = VerticesOf(fills)};
   for (const CMTracesFIL* fill : *fills) {
     counts.vertices += VerticesOf(fill->m_pAreArray) + VerticesOf(fill->m_pArsArray) +

@@ -3,6 +3,7 @@
 
 #include "kestrin/geom/attribute_handlers.h"
 #include "kestrin/geom/bracketed_number.h"
+#include "kestrin/geometry/append.h"
 
 namespace kestrin::attribute {
 namespace {
@@ -48,7 +49,7 @@ LineOutcome PlacementKeepout(ReaderState& state) {
   auto keepout = state.records.Make<CMGeomKeepout>();
   keepout->m_sName = state.values[2];
   Append(*keepout->m_pCoords, points);
-  Board(state).m_pPlacementKeepouts->Append(std::move(keepout));
+  Append(*Board(state).m_pPlacementKeepouts, std::move(keepout));
   return LineOutcome::Imported();
 }
 
@@ -57,7 +58,7 @@ LineOutcome PlacementRegion(ReaderState& state) {
   if (!BoardIsOpen(state)) return LineOutcome::Imported();
   auto region = state.records.Make<CMGeomPlacementRegion>();
   Append(*region->m_pCoords, points);
-  Board(state).m_pPlacementRegions->Append(std::move(region));
+  Append(*Board(state).m_pPlacementRegions, std::move(region));
   return LineOutcome::Imported();
 }
 

@@ -3,6 +3,7 @@
 
 #include "kestrin/geom/attribute_handlers.h"
 #include "kestrin/geom/bracketed_number.h"
+#include "kestrin/geometry/append.h"
 #include "kestrin/text/ignoring_case.h"
 
 namespace kestrin::attribute {
@@ -44,7 +45,7 @@ LineOutcome PadstackOverride(ReaderState& state) {
   auto padstackOverride = state.records.Make<CMGeomOverride>();
   padstackOverride->m_sArg1 = state.values[2];
   padstackOverride->m_sArg2 = state.values[3];
-  Component(state).m_pPadstackOverrides->Append(std::move(padstackOverride));
+  Append(*Component(state).m_pPadstackOverrides, std::move(padstackOverride));
   return LineOutcome::Imported();
 }
 
@@ -54,7 +55,7 @@ LineOutcome PinDefinition(ReaderState& state) {
   const BracketedPoint point = state.TakePoint(3);
   pin->m_dX = point.x;
   pin->m_dY = point.y;
-  Component(state).m_pPinDefs->Append(std::move(pin));
+  Append(*Component(state).m_pPinDefs, std::move(pin));
   return LineOutcome::Imported();
 }
 

@@ -1,10 +1,12 @@
 #include "kestrin/geom/current_geometry.h"
 
+#include "kestrin/geometry/append.h"
+
 namespace kestrin {
 
 template <class RECORD>
-RECORD* CurrentGeometry::AppendNew(OwningArray<RECORD>& list) {
-  return list.Append(records_.Make<RECORD>());
+RECORD* CurrentGeometry::AppendNew(RecordArray<RECORD>& list) {
+  return Append(list, records_.Make<RECORD>());
 }
 
 template <class RECORD>
@@ -49,7 +51,7 @@ void CurrentGeometry::CreateBoard(std::string_view name) {
 void CurrentGeometry::CreateStackup(std::string_view name) {
   kind_ = GeometryKind::kStackup;
   stackup_ = model_.m_pStackup;
-  stackup_->m_pLayers->DeleteRecords();
+  DeleteRecords(*stackup_->m_pLayers);
   stackup_->m_sName = name;
 }
 

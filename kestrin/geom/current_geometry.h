@@ -64,8 +64,8 @@ class CurrentGeometry {
 
   /// Where what follows goes; null when it is lost.
   [[nodiscard]] CMGeomDrawObjArray* DrawObjs() const { return drawObjs_; }
-  [[nodiscard]] OwningArray<CMGeomText>* Texts() const { return texts_; }
-  [[nodiscard]] OwningArray<CMGeomAdd>* Adds() const { return adds_; }
+  [[nodiscard]] RecordArray<CMGeomText>* Texts() const { return texts_; }
+  [[nodiscard]] RecordArray<CMGeomAdd>* Adds() const { return adds_; }
 
   /// Calls visit with the record of the open geometry, if it has one. Returns whether it has.
   template <class VISIT>
@@ -92,7 +92,7 @@ class CurrentGeometry {
 
  private:
   template <class RECORD>
-  RECORD* AppendNew(OwningArray<RECORD>& list);
+  RECORD* AppendNew(RecordArray<RECORD>& list);
   template <class RECORD>
   RECORD* Open(GeometryKind kind, RECORD* record, std::string_view name);
 
@@ -108,8 +108,8 @@ class CurrentGeometry {
   CMGeomStackup* stackup_ = nullptr;
   CMGeomVia* via_ = nullptr;
   CMGeomDrawObjArray* drawObjs_ = nullptr;
-  OwningArray<CMGeomText>* texts_ = nullptr;
-  OwningArray<CMGeomAdd>* adds_ = nullptr;
+  RecordArray<CMGeomText>* texts_ = nullptr;
+  RecordArray<CMGeomAdd>* adds_ = nullptr;
 };
 
 }  // namespace kestrin

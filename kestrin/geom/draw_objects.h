@@ -28,24 +28,24 @@ class KESTRIN_EXPORT CMGeomDrawObj : public PooledRecord {
 };
 
 /// An open polyline drawn with a pen.
-class KESTRIN_EXPORT CMGeomPath : public CMGeomDrawObj {
+class KESTRIN_EXPORT CMGeomPath : public CMGeomDrawObj, private OwnedLists<1> {
  public:
   CMGeomPath() : CMGeomDrawObj("LINE") {}
   ~CMGeomPath() override;
 
-  CString m_sLayer;       ///< as the file names it
-  double m_dWidth = 0.0;  ///< of the pen
-  NumberList m_pCoords;   ///< flat
+  CString m_sLayer;                     ///< as the file names it
+  double m_dWidth = 0.0;                ///< of the pen
+  NumberArray* m_pCoords = MakeList();  ///< flat
 };
 
 /// A closed outline.
-class KESTRIN_EXPORT CMGeomPolygon : public CMGeomDrawObj {
+class KESTRIN_EXPORT CMGeomPolygon : public CMGeomDrawObj, private OwnedLists<1> {
  public:
   CMGeomPolygon() : CMGeomDrawObj("POLYGON") {}
   ~CMGeomPolygon() override;
 
-  CString m_sLayer;      ///< as the file names it
-  NumberList m_pCoords;  ///< flat
+  CString m_sLayer;                     ///< as the file names it
+  NumberArray* m_pCoords = MakeList();  ///< flat
 };
 
 /// An arc given by three pairs of coordinates.
@@ -82,7 +82,7 @@ class KESTRIN_EXPORT CMGeomCircle : public CMGeomDrawObj {
   double m_dWidth = 0.0;  ///< of the pen
 };
 
-/// Drawing objects in file order; they go with the array, null slots are skipped.
-class KESTRIN_EXPORT CMGeomDrawObjArray : public OwningArray<CMGeomDrawObj> {};
+/// Drawing objects in file order. The array deletes them when it is destroyed.
+class KESTRIN_EXPORT CMGeomDrawObjArray : public Owning<RecordArray<CMGeomDrawObj>> {};
 
 }  // namespace kestrin

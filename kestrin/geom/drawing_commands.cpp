@@ -3,6 +3,7 @@
 #include <memory>
 #include <utility>
 
+#include "kestrin/geometry/append.h"
 #include "kestrin/platform/numbers.h"
 #include "kestrin/text/trim.h"
 
@@ -23,7 +24,7 @@ LineOutcome AddDrawObj(ReaderState& state, std::string_view arguments,
     state.values.Cut(arguments, Commas::kEvery);
     auto object = state.records.Make<OBJECT>();
     read(state, *object);
-    target->Append(std::move(object));
+    Append(*target, std::move(object));
   }
   state.pending.Clear();
   return target != nullptr ? LineOutcome::Imported() : LineOutcome::Skipped(SkipCode::kNoOwner, kDrawObjRule);
@@ -144,7 +145,7 @@ LineOutcome Text(ReaderState& state, std::string_view arguments) {
       default: break;
     }
   });
-  target->Append(std::move(text));
+  Append(*target, std::move(text));
   return LineOutcome::Imported();
 }
 
@@ -161,7 +162,7 @@ LineOutcome Add(ReaderState& state, std::string_view arguments) {
   add->m_nArg4 = ToInt(values[5]);
   add->m_nArg5 = ToInt(values[6]);
   add->m_nArg6 = ToInt(values[7]);
-  target->Append(std::move(add));
+  Append(*target, std::move(add));
   return LineOutcome::Imported();
 }
 

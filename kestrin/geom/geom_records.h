@@ -7,6 +7,7 @@
 #include <cstdint>
 
 #include "kestrin/geom/number_list.h"
+#include "kestrin/geometry/ownership.h"
 #include "kestrin/geometry/pooled_record.h"
 #include "kestrin/platform/string.h"
 
@@ -25,28 +26,28 @@ class CMGeomAdd : public PooledRecord {
 };
 
 /// An area that something has to keep out of.
-class CMGeomKeepout : public PooledRecord {
+class CMGeomKeepout : public PooledRecord, private OwnedLists<1> {
  public:
-  CString m_sName;       ///< value 2 of its line
-  NumberList m_pCoords;  ///< flat
+  CString m_sName;                      ///< value 2 of its line
+  NumberArray* m_pCoords = MakeList();  ///< flat
 };
 
 /// The room that a component or generic part takes.
-class CMGeomPlacementOutline : public PooledRecord {
+class CMGeomPlacementOutline : public PooledRecord, private OwnedLists<1> {
  public:
-  CString m_sName;       ///< value 2 of its line
-  NumberList m_pCoords;  ///< flat
+  CString m_sName;                      ///< value 2 of its line
+  NumberArray* m_pCoords = MakeList();  ///< flat
 };
 
 /// An area for placing components.
-class CMGeomPlacementRegion : public PooledRecord {
+class CMGeomPlacementRegion : public PooledRecord, private OwnedLists<1> {
  public:
   CString m_sName;  ///< always empty: lines give no name
   std::int64_t m_nUnset1 = 0;
   std::int64_t m_nUnset2 = 0;
   std::int64_t m_nUnset3 = 0;
   CString m_sSpare;
-  NumberList m_pCoords;  ///< flat
+  NumberArray* m_pCoords = MakeList();  ///< flat
 };
 
 /// A drilled hole.

@@ -7,16 +7,12 @@
 #include <algorithm>
 #include <vector>
 
-#include "kestrin/geometry/ownership.h"
 #include "kestrin/platform/array.h"
 
 namespace kestrin {
 
 /// An array of numbers.
 using NumberArray = CArray<double, double>;
-
-/// A record's list of numbers: a pointer to CArray<double, double> for hosts.
-using NumberList = Owned<NumberArray>;
 
 /// Appends in one step, so that a list that is filled once takes no more memory than its numbers.
 inline void Append(NumberArray& list, const std::vector<double>& numbers) {

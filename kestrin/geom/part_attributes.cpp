@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "kestrin/geom/attribute_handlers.h"
+#include "kestrin/geometry/append.h"
 #include "kestrin/platform/numbers.h"
 
 namespace kestrin::attribute {
@@ -15,13 +16,13 @@ template <class LISTOF>
 LineOutcome AddDrill(ReaderState& state, LISTOF listOf) {
   const BracketedPoint point = state.TakePoint(3);
   state.geometry.VisitOpen([&](auto& record) {
-    OwningArray<CMGeomDrill>* list = listOf(record);
+    RecordArray<CMGeomDrill>* list = listOf(record);
     if (list == nullptr) return;
     auto drill = state.records.Make<CMGeomDrill>();
     drill->m_dSize = ToDouble(state.values[2]);
     drill->m_dX = point.x;
     drill->m_dY = point.y;
-    list->Append(std::move(drill));
+    Append(*list, std::move(drill));
   });
   return LineOutcome::Imported();
 }
@@ -31,12 +32,12 @@ template <class LISTOF>
 LineOutcome AddKeepout(ReaderState& state, LISTOF listOf) {
   const auto& points = state.TakePoints(3, kKeepoutScan);
   state.geometry.VisitOpen([&](auto& record) {
-    OwningArray<CMGeomKeepout>* list = listOf(record);
+    RecordArray<CMGeomKeepout>* list = listOf(record);
     if (list == nullptr) return;
     auto keepout = state.records.Make<CMGeomKeepout>();
     keepout->m_sName = state.values[2];
     Append(*keepout->m_pCoords, points);
-    list->Append(std::move(keepout));
+    Append(*list, std::move(keepout));
   });
   return LineOutcome::Imported();
 }
@@ -58,7 +59,7 @@ LineOutcome PlacementOutline(ReaderState& state) {
       auto outline = state.records.Make<CMGeomPlacementOutline>();
       outline->m_sName = state.values[2];
       Append(*outline->m_pCoords, points);
-      record.m_pPlacementOutlines->Append(std::move(outline));
+      Append(*record.m_pPlacementOutlines, std::move(outline));
     } else if constexpr (std::is_same_v<RECORD, CMGeomGenericPart>) {
       Append(*record.m_pPlacementOutline->m_pCoords, points);
     }
@@ -67,35 +68,35 @@ LineOutcome PlacementOutline(ReaderState& state) {
 }
 
 LineOutcome Drill(ReaderState& state) {
-  return AddDrill(state, [](auto& record) -> OwningArray<CMGeomDrill>* {
+  return AddDrill(state, [](auto& record) -> RecordArray<CMGeomDrill>* {
     if constexpr (requires { record.m_pDrills; }) return record.m_pDrills;
     return nullptr;
   });
 }
 
 LineOutcome UnplatedDrill(ReaderState& state) {
-  return AddDrill(state, [](auto& record) -> OwningArray<CMGeomDrill>* {
+  return AddDrill(state, [](auto& record) -> RecordArray<CMGeomDrill>* {
     if constexpr (requires { record.m_pUnplatedDrills; }) return record.m_pUnplatedDrills;
     return nullptr;
   });
 }
 
 LineOutcome RoutingKeepout(ReaderState& state) {
-  return AddKeepout(state, [](auto& record) -> OwningArray<CMGeomKeepout>* {
+  return AddKeepout(state, [](auto& record) -> RecordArray<CMGeomKeepout>* {
     if constexpr (requires { record.m_pRoutingKeepouts; }) return record.m_pRoutingKeepouts;
     return nullptr;
   });
 }
 
 LineOutcome TraceKeepout(ReaderState& state) {
-  return AddKeepout(state, [](auto& record) -> OwningArray<CMGeomKeepout>* {
+  return AddKeepout(state, [](auto& record) -> RecordArray<CMGeomKeepout>* {
     if constexpr (requires { record.m_pTraceKeepouts; }) return record.m_pTraceKeepouts;
     return nullptr;
   });
 }
 
 LineOutcome ViaKeepout(ReaderState& state) {
-  return AddKeepout(state, [](auto& record) -> OwningArray<CMGeomKeepout>* {
+  return AddKeepout(state, [](auto& record) -> RecordArray<CMGeomKeepout>* {
     if constexpr (requires { record.m_pViaKeepouts; }) return record.m_pViaKeepouts;
     return nullptr;
   });

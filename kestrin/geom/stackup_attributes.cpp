@@ -2,6 +2,7 @@
 #include <utility>
 
 #include "kestrin/geom/attribute_handlers.h"
+#include "kestrin/geometry/append.h"
 
 namespace kestrin::attribute {
 
@@ -14,7 +15,7 @@ LineOutcome LayerDefinition(ReaderState& state, std::string_view name) {
     const bool hasBracket = value.find_first_of("[]") != std::string_view::npos;
     if (!value.empty() && !hasBracket) layer->m_pValues->Add(value);
   }
-  state.geometry.LastStackup()->m_pLayers->Append(std::move(layer));
+  Append(*state.geometry.LastStackup()->m_pLayers, std::move(layer));
   return LineOutcome::Imported();
 }
 

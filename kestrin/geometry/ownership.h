@@ -1,111 +1,109 @@
 #pragma once
 
 /// @file
-/// Who owns a list or a record, said by its type. Hosts see every holder here as a pointer that is never null
-/// unless its description says so.
+/// Who owns the lists of a record. Hosts see each list through a plain pointer and delete nothing.
 
+#include <array>
 #include <cstddef>
+#include <cstdint>
 #include <memory>
-#include <utility>
+#include <new>
+#include <stdexcept>
 
 #include "kestrin/platform/array.h"
 
 namespace kestrin {
 
-/// An array of record pointers that deletes its records when it goes, in index order; null slots are skipped.
-/// ARRAY is the array that hosts see. Only destruction and DeleteRecords delete: removing and clearing drop
-/// pointers as ever.
+/// A list of records: the framework's array of pointers to them.
+template <class RECORD>
+using RecordArray = CArray<RECORD*, RECORD*>;
+
+/// Deletes every record of a list, in index order, and empties it. Null slots are skipped.
+template <class ARRAY>
+void DeleteRecords(ARRAY& list) {
+  // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the one place that deletes the records of lists
+  for (auto* record : list) delete record;
+  list.RemoveAll();
+}
+
+/// An array of record pointers that deletes its records when it is destroyed. Removing a record from the
+/// array or clearing the array does not delete anything.
 template <class ARRAY>
 class Owning : public ARRAY {
  public:
   Owning() = default;
   Owning(const Owning&) = delete;
   Owning& operator=(const Owning&) = delete;
-  ~Owning() override { DeleteRecords(); }
+  ~Owning() override { DeleteRecords(*this); }
+};
 
-  /// Deletes every record and empties the list.
-  void DeleteRecords() {
-    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the one place that owns records
-    for (auto* record : *this) delete record;
-    this->RemoveAll();
+/// The lists that a record owns, kept inside the record. Each is made where the pointer to it is declared:
+///
+///     class Net : private OwnedLists<2> {
+///      public:
+///       RecordArray<Pin>* m_pPins = MakeList();
+///       RecordArray<Property>* m_pProperties = MakeList();
+///     };
+///
+/// The lists and their records are destroyed with the record, in the order in which the lists were made. The
+/// record cannot be copied.
+template <std::size_t COUNT>
+class OwnedLists {
+ public:
+  OwnedLists(const OwnedLists&) = delete;
+  OwnedLists& operator=(const OwnedLists&) = delete;
+
+ protected:
+  OwnedLists() = default;
+  ~OwnedLists() {
+    for (std::size_t i = 0; i < made_; ++i) std::destroy_at(At(i));
   }
 
-  using ARRAY::Append;
+  /// Becomes a new list of the type that a pointer is declared with.
+  class NewList {
+   public:
+    /// Makes the list.
+    template <class LIST>
+    operator LIST*() const {
+      return owner_.template Make<LIST>();
+    }
 
-  /// Hands a record to the list, at its end, and returns it.
+   private:
+    friend class OwnedLists;
+    explicit NewList(OwnedLists& owner) : owner_(owner) {}
+    OwnedLists& owner_;
+  };
+  /// A list for the pointer that this initialises.
+  [[nodiscard]] NewList MakeList() { return NewList(*this); }
+
+ private:
+  template <class LIST>
+  struct Owner {
+    using Type = LIST;
+  };
+  /// A list of records owns them.
   template <class RECORD>
-  RECORD* Append(std::unique_ptr<RECORD> record) {
-    this->Add(record.get());
-    return record.release();
+  struct Owner<RecordArray<RECORD>> {
+    using Type = Owning<RecordArray<RECORD>>;
+  };
+
+  struct alignas(CObject) Place {
+    std::array<std::byte, sizeof(CArray<void*>)> bytes;  // every list is of this size
+  };
+
+  template <class LIST>
+  LIST* Make() {
+    using ListType = typename Owner<LIST>::Type;
+    static_assert(sizeof(ListType) == sizeof(Place) && alignof(ListType) == alignof(Place));
+    if (made_ == COUNT) throw std::logic_error("a record class makes more lists than it has room for");
+    return std::construct_at(reinterpret_cast<ListType*>(&places_[made_++]));
+  }
+  [[nodiscard]] CObject* At(std::size_t index) noexcept {
+    return std::launder(reinterpret_cast<CObject*>(&places_[index]));
   }
 
-  /// Exchanges the records of two lists, without touching them.
-  void Swap(Owning& other) noexcept {
-    std::swap(this->m_pData, other.m_pData);
-    std::swap(this->m_nSize, other.m_nSize);
-    std::swap(this->m_nMaxSize, other.m_nMaxSize);
-    std::swap(this->m_nGrowBy, other.m_nGrowBy);
-  }
+  std::array<Place, COUNT> places_;
+  std::uint8_t made_ = 0;
 };
-
-/// Holds an object that belongs to one record alone, and is used like a pointer to it. The object lives
-/// inside.
-template <class T>
-class Owned {
- public:
-  Owned() = default;
-  Owned(const Owned&) = delete;
-  Owned& operator=(const Owned&) = delete;
-
-  ///@{
-  /// The object; it stays the holder's.
-  T* operator->() const noexcept { return &object_; }
-  T& operator*() const noexcept { return object_; }
-  operator T*() const noexcept { return &object_; }
-  ///@}
-
- private:
-  mutable T object_;  // a pointer member's target can be changed through a const record, so can this
-};
-
-/// Holds an object that copies of its record share, and is used like a pointer to it. The object goes with
-/// the last holder. May be null.
-template <class T>
-class Shared {
- public:
-  Shared() = default;
-  /// Holds nothing.
-  Shared(std::nullptr_t) {}
-
-  /// Holds a new object, made from the arguments.
-  template <class... Arguments>
-  [[nodiscard]] static Shared Make(Arguments&&... arguments) {
-    Shared made;
-    made.object_ = std::make_shared<T>(std::forward<Arguments>(arguments)...);
-    return made;
-  }
-
-  ///@{
-  /// The object, null when nothing is held; it stays the holders'.
-  T* operator->() const noexcept { return object_.get(); }
-  T& operator*() const noexcept { return *object_; }
-  operator T*() const noexcept { return object_.get(); }
-  ///@}
-
- private:
-  std::shared_ptr<T> object_;
-};
-
-/// A framework array of records that it owns.
-template <class RECORD>
-using OwningArray = Owning<CArray<RECORD*, RECORD*>>;
-
-/// A record's list of other records, which it owns: a pointer to CArray<RECORD*, RECORD*> for hosts.
-template <class RECORD>
-using RecordList = Owned<OwningArray<RECORD>>;
-
-/// The same for a record whose copies share the list.
-template <class RECORD>
-using SharedRecordList = Shared<OwningArray<RECORD>>;
 
 }  // namespace kestrin

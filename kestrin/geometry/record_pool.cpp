@@ -25,8 +25,8 @@ constexpr std::size_t kSmallestSlab = kSlabSize - kHeapWords;
 
 }  // namespace
 
-/// What stands before the records of a slab.
-struct alignas(32) RecordPool::Slab {
+/// The header of a slab, before its records.
+struct RecordPool::Slab {
   /// Begins a block of that size.
   explicit Slab(std::size_t size) : first(this), blockSize(size) {}
   /// Continues a block.
@@ -45,7 +45,10 @@ struct alignas(32) RecordPool::Slab {
     return std::launder(reinterpret_cast<Slab*>(static_cast<std::byte*>(record) - offset));
   }
   [[nodiscard]] std::byte* Begin() noexcept { return reinterpret_cast<std::byte*>(this); }
-  [[nodiscard]] std::byte* Records() noexcept { return Begin() + sizeof(Slab); }
+  [[nodiscard]] std::byte* Records() noexcept {
+    static_assert(sizeof(Slab) % kStep == kPlace);
+    return Begin() + sizeof(Slab);
+  }
 
   /// Lets go of a block, of which this is the first slab.
   void LetGo(std::size_t count) noexcept {
@@ -89,14 +92,14 @@ void RecordPool::CloseBlock() noexcept {
   if (block_ != nullptr) block_->LetGo(Slab::kHeldByPool - std::exchange(made_, 0));
 }
 
-void* PooledRecord::operator new(std::size_t size) {
-  auto* const block = RecordPool::Slab::MakeBlock(sizeof(RecordPool::Slab) + size);
-  block->LetGo(RecordPool::Slab::kHeldByPool - 1);
-  return block->Records();
+void* PooledRecord::operator new(std::size_t size) { return ::operator new(RecordPool::RoomFor(size)); }
+
+void* PooledRecord::operator new(std::size_t size, const std::nothrow_t& tag) noexcept {
+  return ::operator new(RecordPool::RoomFor(size), tag);
 }
 
 void PooledRecord::operator delete(void* record, std::size_t size) noexcept {
-  if (record == nullptr) return;
+  if (!RecordPool::Made(record)) return ::operator delete(record);
   MarkUnused(record, size);
   RecordPool::Slab::Of(record)->first->LetGo(1);
 }

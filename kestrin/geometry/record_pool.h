@@ -4,6 +4,7 @@
 /// Where readers make their records.
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <utility>
 
@@ -12,8 +13,8 @@
 
 namespace kestrin {
 
-/// Makes pooled records, in the order of the calls side by side. The records outlive the pool. A pool is used
-/// by one thread at a time; its records may go on any thread meanwhile.
+/// An arena: makes records side by side, in the order of the calls. The records outlive the pool. A pool is
+/// used by one thread at a time; meanwhile its records may be deleted on any thread.
 class RecordPool {
  public:
   RecordPool() = default;
@@ -23,7 +24,7 @@ class RecordPool {
 
   template <class RECORD, class... Arguments>
   [[nodiscard]] std::unique_ptr<RECORD> Make(Arguments&&... arguments) {
-    static_assert(alignof(RECORD) <= kAlignment && sizeof(RECORD) <= kLargestRecord);
+    static_assert(alignof(RECORD) <= kPlace && sizeof(RECORD) <= kLargestRecord);
     return std::unique_ptr<RECORD>(new (*this) RECORD(std::forward<Arguments>(arguments)...));
   }
 
@@ -32,7 +33,7 @@ class RecordPool {
   struct Slab;
 
   [[nodiscard]] void* Allocate(std::size_t size) {
-    const std::size_t room = (size + kAlignment - 1) / kAlignment * kAlignment;
+    const std::size_t room = RoomFor(size);
     if (static_cast<std::size_t>(end_ - next_) < room) OpenSlab();
     ++made_;
     MarkUsed(next_, size);
@@ -43,7 +44,18 @@ class RecordPool {
   void BeginSlab(Slab& slab);
   void CloseBlock() noexcept;
 
-  static constexpr std::size_t kAlignment = alignof(double);
+  /// The heap aligns to 16 bytes. A pool's records are 8 bytes past such an address, so that the address of a
+  /// record tells which of the two it came from.
+  static constexpr std::size_t kStep = 16;
+  static constexpr std::size_t kPlace = 8;
+  static_assert(__STDCPP_DEFAULT_NEW_ALIGNMENT__ % kStep == 0);
+  [[nodiscard]] static constexpr std::size_t RoomFor(std::size_t size) {
+    return (size + kStep - 1) / kStep * kStep;
+  }
+  [[nodiscard]] static bool Made(const void* record) noexcept {
+    return reinterpret_cast<std::uintptr_t>(record) % kStep == kPlace;
+  }
+
   static constexpr std::size_t kLargestRecord = 4096;
 
   Slab* block_ = nullptr;      // the first slab of the block that records are made in

@@ -47,15 +47,15 @@ class KESTRIN_EXPORT CMCompsRefLoc : public PooledRecord {
 };
 
 /// A component.
-class KESTRIN_EXPORT CMCompsInfo : public PooledRecord {
+class KESTRIN_EXPORT CMCompsInfo : public PooledRecord, private OwnedLists<2> {
  public:
-  CString m_sExtra1;                        ///< not filled
-  tagMCOMPDATA m_Data;                      ///< the values of its line
-  CString m_sRefLocFirst;                   ///< the first value of its last REFLOC property with values
-  RecordList<CMCompsRefLoc> m_pRefLocs;     ///< the groups of its REFLOC properties
-  CString m_sExtra2;                        ///< not filled
-  RecordList<tagMCOMPCOMMENT> m_pComments;  ///< its other properties, in file order
-  int m_nExtra = 0;                         ///< not filled
+  CString m_sExtra1;       ///< not filled
+  tagMCOMPDATA m_Data;     ///< the values of its line
+  CString m_sRefLocFirst;  ///< the first value of its last REFLOC property with values
+  RecordArray<CMCompsRefLoc>* m_pRefLocs = MakeList();     ///< the groups of its REFLOC properties
+  CString m_sExtra2;                                       ///< not filled
+  RecordArray<tagMCOMPCOMMENT>* m_pComments = MakeList();  ///< its other properties, in file order
+  int m_nExtra = 0;                                        ///< not filled
 };
 
 /// A placement of a board on the panel: a P_ADDP record, by the places of its values.
@@ -75,14 +75,14 @@ class KESTRIN_EXPORT CMCompsPanel : public PooledRecord {
 };
 
 /// The root of a Neutral file's components.
-class KESTRIN_EXPORT CMComps {
+class KESTRIN_EXPORT CMComps : private OwnedLists<2> {
  public:
-  CString m_sUnits;                    ///< the unit word of the file
-  int m_nReadFlag = 0;                 ///< 1 once a reading has begun
-  double m_dBoardValue3 = 0.0;         ///< value 3 of the BOARD record, behind its last ":"
-  double m_dBoardValue4 = 0.0;         ///< value 4, likewise
-  RecordList<CMCompsInfo> m_pInfos;    ///< the components of the selected board, in file order
-  RecordList<CMCompsPanel> m_pPanels;  ///< all placements, in file order
+  CString m_sUnits;                                   ///< the unit word of the file
+  int m_nReadFlag = 0;                                ///< 1 once a reading has begun
+  double m_dBoardValue3 = 0.0;                        ///< value 3 of the BOARD record, behind its last ":"
+  double m_dBoardValue4 = 0.0;                        ///< value 4, likewise
+  RecordArray<CMCompsInfo>* m_pInfos = MakeList();    ///< the components of the selected board, in file order
+  RecordArray<CMCompsPanel>* m_pPanels = MakeList();  ///< all placements, in file order
 };
 
 }  // namespace kestrin

@@ -3,6 +3,7 @@
 #include <memory>
 #include <utility>
 
+#include "kestrin/geometry/append.h"
 #include "kestrin/platform/numbers.h"
 #include "kestrin/text/fields.h"
 
@@ -40,7 +41,7 @@ void SetGroupValue(CMCompsRefLoc& group, int place, std::string_view value) {
 
 /// A first value, then up to three groups of ten; there is a first group even for an empty text.
 void AddReferenceLocations(CMCompsInfo& component, RecordPool& records, std::string_view text) {
-  CMCompsRefLoc* group = component.m_pRefLocs->Append(records.Make<CMCompsRefLoc>());
+  CMCompsRefLoc* group = Append(*component.m_pRefLocs, records.Make<CMCompsRefLoc>());
   std::size_t position = 0;
   const auto first = NextToken(text, ',', position);
   if (!first) return;
@@ -48,7 +49,7 @@ void AddReferenceLocations(CMCompsInfo& component, RecordPool& records, std::str
   for (int i = 0; i < kGroups * kGroupSize; ++i) {
     const auto value = NextToken(text, ',', position);
     if (!value) return;
-    if (i > 0 && i % kGroupSize == 0) group = component.m_pRefLocs->Append(records.Make<CMCompsRefLoc>());
+    if (i > 0 && i % kGroupSize == 0) group = Append(*component.m_pRefLocs, records.Make<CMCompsRefLoc>());
     SetGroupValue(*group, i % kGroupSize + 1, *value);
   }
 }
@@ -63,7 +64,7 @@ void AddProperty(CMCompsInfo& component, RecordPool& records, std::string_view i
   auto comment = records.Make<tagMCOMPCOMMENT>();
   comment->m_sName = name;
   comment->m_sValue = value;
-  component.m_pComments->Append(std::move(comment));
+  Append(*component.m_pComments, std::move(comment));
 }
 
 }  // namespace kestrin

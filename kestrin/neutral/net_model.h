@@ -25,17 +25,17 @@ class KESTRIN_EXPORT CMNetProperty {
 };
 
 /// A net.
-class KESTRIN_EXPORT CMNetInfo : public PooledRecord {
+class KESTRIN_EXPORT CMNetInfo : public PooledRecord, private OwnedLists<2> {
  public:
-  CString m_sName;                          ///< without apostrophes and trailing white space
-  RecordList<CMRefPin> m_pPins;             ///< in file order
-  RecordList<CMNetProperty> m_pProperties;  ///< always empty
+  CString m_sName;                                         ///< without apostrophes and trailing white space
+  RecordArray<CMRefPin>* m_pPins = MakeList();             ///< in file order
+  RecordArray<CMNetProperty>* m_pProperties = MakeList();  ///< always empty
 };
 
 /// The root of a Neutral file's nets.
-class KESTRIN_EXPORT CMNetList {
+class KESTRIN_EXPORT CMNetList : private OwnedLists<1> {
  public:
-  RecordList<CMNetInfo> m_pNets;  ///< in file order
+  RecordArray<CMNetInfo>* m_pNets = MakeList();  ///< in file order
 };
 
 }  // namespace kestrin

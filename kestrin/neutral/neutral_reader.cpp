@@ -6,6 +6,7 @@
 #include <memory>
 #include <utility>
 
+#include "kestrin/geometry/append.h"
 #include "kestrin/neutral/component_properties.h"
 #include "kestrin/platform/numbers.h"
 #include "kestrin/text/fields.h"
@@ -110,7 +111,7 @@ LineOutcome NeutralReader::AddPlacement() {
   placement->m_nValue6 = ToInt(Value(6));
   placement->m_nValue7 = ToInt(Value(7));
   placement->m_nValue8 = ToInt(Value(8));
-  chooser_.AddPlacement(*components_.m_pPanels->Append(std::move(placement)));
+  chooser_.AddPlacement(*Append(*components_.m_pPanels, std::move(placement)));
   return LineOutcome::Imported();
 }
 
@@ -135,7 +136,7 @@ LineOutcome NeutralReader::AddNet() {
   std::erase(scratch_, '\'');
   auto net = records_.Make<CMNetInfo>();
   net->m_sName = TrimmedRight(scratch_);
-  net_ = nets_.m_pNets->Append(std::move(net));
+  net_ = Append(*nets_.m_pNets, std::move(net));
   return LineOutcome::Imported();
 }
 
@@ -146,7 +147,7 @@ LineOutcome NeutralReader::AddPin() {
   auto pin = records_.Make<CMRefPin>();
   if (hyphen != std::string_view::npos) pin->m_sRef = name.substr(0, hyphen);
   pin->m_sPin = name.substr(hyphen + 1);  // npos + 1 is 0
-  net_->m_pPins->Append(std::move(pin));
+  Append(*net_->m_pPins, std::move(pin));
   return LineOutcome::Imported();
 }
 
@@ -170,7 +171,7 @@ LineOutcome NeutralReader::AddComponent() {
   data.m_dValue6 = ToDouble(Value(6));
   data.m_nValue7 = ToInt(Value(7));
   data.m_nValue8 = ToInt(Value(8));
-  component_ = components_.m_pInfos->Append(std::move(component));
+  component_ = Append(*components_.m_pInfos, std::move(component));
   return LineOutcome::Imported();
 }
 

@@ -68,6 +68,8 @@ class CArray : public CObject {
   std::int64_t Append(const CArray& source);
   /// Makes this array a copy of another; of itself, nothing.
   void Copy(const CArray& source);
+  /// Exchanges the elements, the memory and the growth steps of two arrays.
+  void Swap(CArray& other) noexcept;
 
   /// Inserts copies of an element before an index, or beyond the end with a gap of zero elements.
   void InsertAt(std::int64_t index, ARG_TYPE element, std::int64_t count = 1);
@@ -177,6 +179,14 @@ void CArray<TYPE, ARG_TYPE>::Copy(const CArray& source) {
   if (this == &source) return;
   SetSize(source.m_nSize);
   std::copy_n(source.m_pData, source.m_nSize, m_pData);
+}
+
+template <class TYPE, class ARG_TYPE>
+void CArray<TYPE, ARG_TYPE>::Swap(CArray& other) noexcept {
+  std::swap(m_pData, other.m_pData);
+  std::swap(m_nSize, other.m_nSize);
+  std::swap(m_nMaxSize, other.m_nMaxSize);
+  std::swap(m_nGrowBy, other.m_nGrowBy);
 }
 
 template <class TYPE, class ARG_TYPE>

@@ -37,19 +37,20 @@ class HostWindows {
   WatchedWindow<CProgressCtrl> bars_[4];
 };
 
+/// Makes a root the session's.
+template <class ROOT>
+void Replace(std::shared_ptr<ROOT>& owner, ROOT*& pointer, const std::shared_ptr<ROOT>& root) {
+  pointer = root.get();
+  owner = root;
+}
+
 }  // namespace
 
 CPC_KESTRIN_GET::CPC_KESTRIN_GET() = default;
 CPC_KESTRIN_GET::CPC_KESTRIN_GET(const CPC_KESTRIN_GET&) = default;
 CPC_KESTRIN_GET& CPC_KESTRIN_GET::operator=(const CPC_KESTRIN_GET&) = default;
 
-CPC_KESTRIN_GET::~CPC_KESTRIN_GET() {
-  m_pGeom = nullptr;
-  m_pComps = nullptr;
-  m_pNetList = nullptr;
-  m_pTraces = nullptr;
-  m_pTech = nullptr;
-}
+CPC_KESTRIN_GET::~CPC_KESTRIN_GET() = default;
 
 void CPC_KESTRIN_GET::vSetTechFilePath(CString path) { m_sTechFilePath = path; }
 void CPC_KESTRIN_GET::vSetNeutralFilePath(CString path) { m_sNeutralFilePath = path; }
@@ -122,34 +123,34 @@ void CPC_KESTRIN_GET::RefreshHost() const {
 }
 
 void CPC_KESTRIN_GET::TechFileParse(CString path) {
-  const auto tech = Shared<CMTech>::Make();
+  const auto tech = std::make_shared<CMTech>();
   TechReader reader(*tech);
-  m_pTech = tech;
+  Replace(tech_, m_pTech, tech);
   ReadLines({.path = path, .bar = m_pTechProgress, .disablesBar = true}, reader,
             report_.Filled(ImportFile::kTech));
 }
 
 void CPC_KESTRIN_GET::NeutralFileParse(CString path) {
-  const auto components = Shared<CMComps>::Make();
-  const auto nets = Shared<CMNetList>::Make();
+  const auto components = std::make_shared<CMComps>();
+  const auto nets = std::make_shared<CMNetList>();
   NeutralReader reader(*components, *nets, report_.boardSelection);
-  m_pComps = components;
-  m_pNetList = nets;
+  Replace(comps_, m_pComps, components);
+  Replace(netList_, m_pNetList, nets);
   ReadLines({.path = path, .bar = m_pNeutralProgress}, reader, report_.Filled(ImportFile::kNeutral));
 }
 
 void CPC_KESTRIN_GET::GeomFileParse(CString path) {
-  const auto geom = Shared<CMGeom>::Make();
+  const auto geom = std::make_shared<CMGeom>();
   GeomReader reader(*geom);
-  m_pGeom = geom;
+  Replace(geom_, m_pGeom, geom);
   ReadLines({.path = path, .bar = m_pGeomProgress, .pumpsMessages = true}, reader,
             report_.Filled(ImportFile::kGeometry));
 }
 
 void CPC_KESTRIN_GET::TraceFileParse(CString path) {
-  const auto traces = Shared<CMTraces>::Make();
+  const auto traces = std::make_shared<CMTraces>();
   TracesReader reader(*traces);
-  m_pTraces = traces;
+  Replace(traces_, m_pTraces, traces);
   ReadLines({.path = path, .bar = m_pTraceProgress, .pumpsMessages = true}, reader,
             report_.Filled(ImportFile::kTraces));
 }

@@ -3,7 +3,8 @@
 /// @file
 /// The import session: the class through which a host imports an export set.
 
-#include "kestrin/geometry/ownership.h"
+#include <memory>
+
 #include "kestrin/platform/export.h"
 #include "kestrin/platform/string.h"
 #include "kestrin/platform/string_array.h"
@@ -33,6 +34,13 @@ class CMTraces;
 /// that is too short for its record, CFileException on a read error, memory exhaustion) and of the host's own
 /// message handlers pass through; what was read before them stays in the roots.
 class KESTRIN_EXPORT CPC_KESTRIN_GET {
+  // The owners of the roots, which copies share. Members are destroyed last first.
+  std::shared_ptr<CMTech> tech_;
+  std::shared_ptr<CMTraces> traces_;
+  std::shared_ptr<CMNetList> netList_;
+  std::shared_ptr<CMComps> comps_;
+  std::shared_ptr<CMGeom> geom_;
+
  public:
   CPC_KESTRIN_GET();
   CPC_KESTRIN_GET(const CPC_KESTRIN_GET&);
@@ -98,12 +106,12 @@ class KESTRIN_EXPORT CPC_KESTRIN_GET {
 
   CWnd* m_pStatusWnd = nullptr;  ///< the host's; its text says which file is being read
   ///@{
-  /// A root, null before its file was first read.
-  Shared<CMGeom> m_pGeom;
-  Shared<CMComps> m_pComps;
-  Shared<CMNetList> m_pNetList;
-  Shared<CMTraces> m_pTraces;
-  Shared<CMTech> m_pTech;
+  /// A root, null before its file was first read. The session stays its owner whatever a host sets these to.
+  CMGeom* m_pGeom = nullptr;
+  CMComps* m_pComps = nullptr;
+  CMNetList* m_pNetList = nullptr;
+  CMTraces* m_pTraces = nullptr;
+  CMTech* m_pTech = nullptr;
   ///@}
 
   ///@{

@@ -18,19 +18,10 @@ CMTechPin::~CMTechPin() = default;
 CMTechStackUpOrder::~CMTechStackUpOrder() = default;
 CMTechVia::~CMTechVia() = default;
 
-CMTech::CMTech()
-    : m_pPinArray(decltype(m_pPinArray)::Make()),
-      m_pStackupArray(decltype(m_pStackupArray)::Make()),
-      m_pViaArray(decltype(m_pViaArray)::Make()) {}
-
+CMTech::CMTech() = default;
 CMTech::CMTech(const CMTech&) = default;
 CMTech& CMTech::operator=(const CMTech&) = default;
-
-CMTech::~CMTech() {
-  m_pStackupArray = nullptr;
-  m_pViaArray = nullptr;
-  m_pPinArray = nullptr;
-}
+CMTech::~CMTech() = default;
 
 int CMTech::GetPhysicalLayerNumber(CString physicalLayerName) const {
   const CMTechStackUpOrder* layer = FindLayer(*m_pStackupArray, physicalLayerName);

@@ -3,6 +3,8 @@
 /// @file
 /// What a Tech file says: the board's physical layer stack-up and its via rules.
 
+#include <memory>
+
 #include "kestrin/geometry/ex_ptr_array.h"
 #include "kestrin/geometry/ownership.h"
 #include "kestrin/platform/export.h"
@@ -56,6 +58,14 @@ class KESTRIN_EXPORT CMTechViaArray : public CExPtrArray<CMTechVia*> {};
 /// The root of a Tech file. Copies share the arrays; arrays and records go with the last copy. The pointers
 /// to the arrays are never null.
 class KESTRIN_EXPORT CMTech {
+  /// What copies share. Members are destroyed last first: the physical layers, the via rules, the pins.
+  struct Contents {
+    Owning<CMTechPinArray> pins;
+    Owning<CMTechViaArray> vias;
+    Owning<CMTechStackupArray> stackups;
+  };
+  std::shared_ptr<Contents> contents_ = std::make_shared<Contents>();
+
  public:
   CMTech();
   CMTech(const CMTech&);
@@ -69,9 +79,9 @@ class KESTRIN_EXPORT CMTech {
   /// are when there is none.
   void GetLogicalLayerNamesForPhysicalLayerName(CString physicalLayerName, CStringArray& names) const;
 
-  Shared<Owning<CMTechPinArray>> m_pPinArray;          ///< always empty
-  Shared<Owning<CMTechStackupArray>> m_pStackupArray;  ///< a record per physical layer, in file order
-  Shared<Owning<CMTechViaArray>> m_pViaArray;          ///< a record per via rule, in file order
+  CMTechPinArray* m_pPinArray = &contents_->pins;              ///< always empty
+  CMTechStackupArray* m_pStackupArray = &contents_->stackups;  ///< a record per physical layer, in file order
+  CMTechViaArray* m_pViaArray = &contents_->vias;              ///< a record per via rule, in file order
 };
 
 }  // namespace kestrin

@@ -4,6 +4,7 @@
 #include <memory>
 #include <utility>
 
+#include "kestrin/geometry/append.h"
 #include "kestrin/platform/numbers.h"
 #include "kestrin/text/comment.h"
 #include "kestrin/text/fields.h"
@@ -53,7 +54,7 @@ void TechReader::AddLayer(std::string_view line) {
       default: layer->m_arrLogicalLayerNames.Add(argument); break;
     }
   });
-  model_.m_pStackupArray->Append(std::move(layer));
+  Append(*model_.m_pStackupArray, std::move(layer));
 }
 
 void TechReader::AddViaRule(std::string_view line) {
@@ -65,7 +66,7 @@ void TechReader::AddViaRule(std::string_view line) {
       default: via->m_sArgLast = argument; break;
     }
   });
-  model_.m_pViaArray->Append(std::move(via));
+  Append(*model_.m_pViaArray, std::move(via));
 }
 
 template <class Visit>

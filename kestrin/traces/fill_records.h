@@ -34,7 +34,7 @@ class KESTRIN_EXPORT CMTracesTTI : public PooledRecord {
 };
 
 /// What an ARE and an ARS line have in common: all of it. A line has 6, 8 or 13 values.
-class KESTRIN_EXPORT CMTracesArea : public PooledRecord {
+class KESTRIN_EXPORT CMTracesArea : public PooledRecord, private OwnedLists<2> {
  public:
   CString m_sName1;  ///< without its quotes
   CString m_sName2;  ///< without its quotes
@@ -42,13 +42,13 @@ class KESTRIN_EXPORT CMTracesArea : public PooledRecord {
   int m_nValue4 = 0;
   double m_dValue5 = 0.0;
   int m_nValue6 = 0;
-  int m_nLastValue = 0;                 ///< value 8 of 8, value 13 of 13
-  int m_nValue8 = 0;                    ///< 13 values
-  int m_nValue9 = 0;                    ///< 13 values
-  double m_dValue10 = 0.0;              ///< 13 values
-  double m_dValue11 = 0.0;              ///< 13 values
-  RecordList<CMTracesVER> m_pVerArray;  ///< the vertices of the area
-  RecordList<CMTracesTTI> m_pTtiArray;  ///< always empty: TTI lines belong to the fill
+  int m_nLastValue = 0;                                ///< value 8 of 8, value 13 of 13
+  int m_nValue8 = 0;                                   ///< 13 values
+  int m_nValue9 = 0;                                   ///< 13 values
+  double m_dValue10 = 0.0;                             ///< 13 values
+  double m_dValue11 = 0.0;                             ///< 13 values
+  RecordArray<CMTracesVER>* m_pVerArray = MakeList();  ///< the vertices of the area
+  RecordArray<CMTracesTTI>* m_pTtiArray = MakeList();  ///< always empty: TTI lines belong to the fill
 };
 
 /// An ARE line: an area of a fill.
@@ -58,14 +58,14 @@ class KESTRIN_EXPORT CMTracesARE : public CMTracesArea {};
 class KESTRIN_EXPORT CMTracesARS : public CMTracesArea {};
 
 /// An ISL line: an island of a fill.
-class KESTRIN_EXPORT CMTracesISL : public PooledRecord {
+class KESTRIN_EXPORT CMTracesISL : public PooledRecord, private OwnedLists<1> {
  public:
   int m_nValue1 = 0;
-  RecordList<CMTracesVER> m_pVerArray;  ///< the vertices of the island
+  RecordArray<CMTracesVER>* m_pVerArray = MakeList();  ///< the vertices of the island
 };
 
 /// An ISS line: an island of a fill, kept apart from its ISL lines.
-class KESTRIN_EXPORT CMTracesISS : public PooledRecord {
+class KESTRIN_EXPORT CMTracesISS : public PooledRecord, private OwnedLists<1> {
  public:
   CMTracesISS() = default;
   CMTracesISS(const CMTracesISS&) = delete;
@@ -73,14 +73,17 @@ class KESTRIN_EXPORT CMTracesISS : public PooledRecord {
   virtual ~CMTracesISS();
 
   int m_nValue1 = 0;
-  RecordList<CMTracesVER> m_pVerArray;  ///< the vertices of the island
+  RecordArray<CMTracesVER>* m_pVerArray = MakeList();  ///< the vertices of the island
 };
 
 /// A FIL line, in its short form (16 values) or its long form (21 values), or a fill that stands for areas
 /// without one: that has the names of the first such area and, from the session's reader, its m_dValue5 as
 /// m_dValue9 and 1 as m_nValue7.
-class KESTRIN_EXPORT CMTracesFIL : public PooledRecord {
+class KESTRIN_EXPORT CMTracesFIL : public PooledRecord, private OwnedLists<6> {
  public:
+  /// An empty fill. The ARS list is made last because hosts expect its records to be deleted last.
+  CMTracesFIL() { m_pArsArray = MakeList(); }
+
   CString m_sName1;  ///< without its quotes
   CString m_sName2;  ///< without its quotes
   CString m_sValue3;
@@ -93,19 +96,19 @@ class KESTRIN_EXPORT CMTracesFIL : public PooledRecord {
   int m_nValue10 = 0;
   int m_nValue11 = 0;
   int m_nValue12 = 0;
-  CString m_sTail1;                     ///< value 14 of 16, value 19 of 21
-  CString m_sTail2;                     ///< value 15 of 16, value 20 of 21
-  CString m_sTail3;                     ///< value 16 of 16, value 21 of 21
-  int m_nExt1 = 0;                      ///< long form: value 14
-  int m_nExt2 = 0;                      ///< long form: value 15
-  double m_dExt3 = 0.0;                 ///< long form: value 16
-  double m_dExt4 = 0.0;                 ///< long form: value 17
-  RecordList<CMTracesVER> m_pVerArray;  ///< the fill's own vertices
-  RecordList<CMTracesARE> m_pAreArray;  ///< its ARE lines
-  RecordList<CMTracesARS> m_pArsArray;  ///< its ARS lines
-  RecordList<CMTracesISL> m_pIslArray;  ///< its ISL lines
-  RecordList<CMTracesISS> m_pIssArray;  ///< its ISS lines
-  RecordList<CMTracesTTI> m_pTtiArray;  ///< its TTI lines
+  CString m_sTail1;                                    ///< value 14 of 16, value 19 of 21
+  CString m_sTail2;                                    ///< value 15 of 16, value 20 of 21
+  CString m_sTail3;                                    ///< value 16 of 16, value 21 of 21
+  int m_nExt1 = 0;                                     ///< long form: value 14
+  int m_nExt2 = 0;                                     ///< long form: value 15
+  double m_dExt3 = 0.0;                                ///< long form: value 16
+  double m_dExt4 = 0.0;                                ///< long form: value 17
+  RecordArray<CMTracesVER>* m_pVerArray = MakeList();  ///< the fill's own vertices
+  RecordArray<CMTracesARE>* m_pAreArray = MakeList();  ///< its ARE lines
+  RecordArray<CMTracesARS>* m_pArsArray = nullptr;     ///< its ARS lines
+  RecordArray<CMTracesISL>* m_pIslArray = MakeList();  ///< its ISL lines
+  RecordArray<CMTracesISS>* m_pIssArray = MakeList();  ///< its ISS lines
+  RecordArray<CMTracesTTI>* m_pTtiArray = MakeList();  ///< its TTI lines
 };
 
 }  // namespace kestrin

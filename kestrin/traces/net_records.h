@@ -23,18 +23,18 @@ class KESTRIN_EXPORT CMTracesSEG : public PooledRecord {
 };
 
 /// A WIR line, or an ANT line with five values.
-class KESTRIN_EXPORT CMTracesWIRANT : public PooledRecord {
+class KESTRIN_EXPORT CMTracesWIRANT : public PooledRecord, private OwnedLists<1> {
  public:
   int m_nValue1 = 0;
   double m_dValue2 = 0.0;
   double m_dValue3 = 0.0;
   double m_dValue4 = 0.0;
   double m_dValue5 = 0.0;
-  RecordList<CMTracesSEG> m_pSegArray;  ///< its SEG lines
+  RecordArray<CMTracesSEG>* m_pSegArray = MakeList();  ///< its SEG lines
 };
 
 /// An INC line (an incomplete connection), or an ANT line with seven values.
-class KESTRIN_EXPORT CMTracesINCANT : public PooledRecord {
+class KESTRIN_EXPORT CMTracesINCANT : public PooledRecord, private OwnedLists<1> {
  public:
   int m_nValue1 = 0;
   double m_dValue2 = 0.0;
@@ -42,8 +42,8 @@ class KESTRIN_EXPORT CMTracesINCANT : public PooledRecord {
   int m_nValue4 = 0;
   double m_dValue5 = 0.0;
   double m_dValue6 = 0.0;
-  int m_nValue7 = 0;                    ///< truncated toward zero when it is written with a fraction
-  RecordList<CMTracesSEG> m_pSegArray;  ///< its SEG lines
+  int m_nValue7 = 0;  ///< truncated toward zero when it is written with a fraction
+  RecordArray<CMTracesSEG>* m_pSegArray = MakeList();  ///< its SEG lines
 };
 
 /// A GUI or a CHG line.
@@ -59,15 +59,15 @@ class KESTRIN_EXPORT CMTracesGUICHG : public PooledRecord {
 
 /// A net header line and the records that follow it up to the next. Headers of the same name stay nets of
 /// their own.
-class KESTRIN_EXPORT CMTracesNET : public PooledRecord {
+class KESTRIN_EXPORT CMTracesNET : public PooledRecord, private OwnedLists<6> {
  public:
-  CString m_sName;                            ///< without its quotes
-  RecordList<CMTracesWIRANT> m_pWirArray;     ///< WIR lines
-  RecordList<CMTracesINCANT> m_pIncArray;     ///< INC lines
-  RecordList<CMTracesWIRANT> m_pAntWirArray;  ///< ANT lines with five values
-  RecordList<CMTracesINCANT> m_pAntIncArray;  ///< ANT lines with seven values
-  RecordList<CMTracesGUICHG> m_pGuiArray;     ///< GUI lines
-  RecordList<CMTracesGUICHG> m_pChgArray;     ///< CHG lines
+  CString m_sName;                                           ///< without its quotes
+  RecordArray<CMTracesWIRANT>* m_pWirArray = MakeList();     ///< WIR lines
+  RecordArray<CMTracesINCANT>* m_pIncArray = MakeList();     ///< INC lines
+  RecordArray<CMTracesWIRANT>* m_pAntWirArray = MakeList();  ///< ANT lines with five values
+  RecordArray<CMTracesINCANT>* m_pAntIncArray = MakeList();  ///< ANT lines with seven values
+  RecordArray<CMTracesGUICHG>* m_pGuiArray = MakeList();     ///< GUI lines
+  RecordArray<CMTracesGUICHG>* m_pChgArray = MakeList();     ///< CHG lines
 };
 
 }  // namespace kestrin

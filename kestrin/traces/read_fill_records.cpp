@@ -4,6 +4,7 @@
 #include <memory>
 #include <utility>
 
+#include "kestrin/geometry/append.h"
 #include "kestrin/traces/record_values.h"
 #include "kestrin/traces/traces_reader.h"
 
@@ -72,8 +73,8 @@ void Read(LineFields& values, CMTracesTTI& record) {
 bool TracesReader::AddFil() {
   auto fill = records_.Make<CMTracesFIL>();
   Read(values_, *fill);
-  fill_ = model_.m_pFilArray->Append(std::move(fill));
-  vertices_ = &fill_->m_pVerArray;
+  fill_ = Append(*model_.m_pFilArray, std::move(fill));
+  vertices_ = fill_->m_pVerArray;
   return true;
 }
 
@@ -91,7 +92,7 @@ bool TracesReader::AddTti() {
   if (fill_ == nullptr) return false;
   record->m_sName1 = fill_->m_sName1;
   record->m_sName2 = fill_->m_sName2;
-  fill_->m_pTtiArray->Append(std::move(record));
+  Append(*fill_->m_pTtiArray, std::move(record));
   return true;
 }
 
@@ -100,17 +101,17 @@ bool TracesReader::AddVer() {
   vertex->m_dX = values_.Double(1);
   vertex->m_dY = values_.Double(2);
   if (vertices_ == nullptr) return false;
-  (*vertices_)->Append(std::move(vertex));
+  Append(*vertices_, std::move(vertex));
   return true;
 }
 
 /// An area goes to the current fill, whatever the names of both are.
 template <class AREA>
-bool TracesReader::AddArea(RecordList<AREA> CMTracesFIL::*list) {
+bool TracesReader::AddArea(RecordArray<AREA>* CMTracesFIL::*list) {
   auto area = records_.Make<AREA>();
   Read(values_, *area);
   if (fill_ == nullptr) AddFillFor(*area);
-  vertices_ = &(fill_->*list)->Append(std::move(area))->m_pVerArray;
+  vertices_ = Append(*(fill_->*list), std::move(area))->m_pVerArray;
   return true;
 }
 
@@ -121,15 +122,15 @@ void TracesReader::AddFillFor(const CMTracesArea& area) {
   fill->m_sName2 = area.m_sName2;
   fill->m_nValue7 = 1;
   fill->m_dValue9 = area.m_dValue5;
-  fill_ = model_.m_pFilArray->Append(std::move(fill));
+  fill_ = Append(*model_.m_pFilArray, std::move(fill));
 }
 
 template <class ISLAND>
-bool TracesReader::AddIsland(RecordList<ISLAND> CMTracesFIL::*list) {
+bool TracesReader::AddIsland(RecordArray<ISLAND>* CMTracesFIL::*list) {
   auto island = records_.Make<ISLAND>();
   island->m_nValue1 = values_.Int(1);
   if (fill_ == nullptr) return false;
-  vertices_ = &(fill_->*list)->Append(std::move(island))->m_pVerArray;
+  vertices_ = Append(*(fill_->*list), std::move(island))->m_pVerArray;
   return true;
 }
 

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <utility>
 
+#include "kestrin/geometry/append.h"
 #include "kestrin/platform/characters.h"
 #include "kestrin/platform/numbers.h"
 #include "kestrin/traces/record_values.h"
@@ -63,7 +64,7 @@ void Read(LineFields& values, CMTracesSEG& record) {
 void TracesReader::AddNet() {
   auto net = records_.Make<CMTracesNET>();
   net->m_sName = WithoutApostrophes(values_.Text(2));
-  net_ = model_.m_pNetArray->Append(std::move(net));
+  net_ = Append(*model_.m_pNetArray, std::move(net));
   fill_ = nullptr;
 }
 
@@ -71,7 +72,7 @@ bool TracesReader::AddWir() {
   constexpr std::size_t kComplete = 5;
   if (CountValues(values_) >= kComplete) return AddWithSegments(&CMTracesNET::m_pWirArray);
   if (net_ == nullptr) return false;
-  net_->m_pWirArray->Append(records_.Make<CMTracesWIRANT>());
+  Append(*net_->m_pWirArray, records_.Make<CMTracesWIRANT>());
   return true;
 }
 
@@ -90,25 +91,25 @@ bool TracesReader::AddSeg() {
   auto segment = records_.Make<CMTracesSEG>();
   Read(values_, *segment);
   if (segments_ == nullptr) return false;
-  (*segments_)->Append(std::move(segment));
+  Append(*segments_, std::move(segment));
   return true;
 }
 
 /// The SEG lines that follow go to the record.
 template <class RECORD>
-bool TracesReader::AddWithSegments(RecordList<RECORD> CMTracesNET::*list) {
+bool TracesReader::AddWithSegments(RecordArray<RECORD>* CMTracesNET::*list) {
   auto record = records_.Make<RECORD>();
   Read(values_, *record);
   if (net_ == nullptr) return false;
-  segments_ = &(net_->*list)->Append(std::move(record))->m_pSegArray;
+  segments_ = Append(*(net_->*list), std::move(record))->m_pSegArray;
   return true;
 }
 
-bool TracesReader::AddGuiOrChg(RecordList<CMTracesGUICHG> CMTracesNET::*list) {
+bool TracesReader::AddGuiOrChg(RecordArray<CMTracesGUICHG>* CMTracesNET::*list) {
   auto record = records_.Make<CMTracesGUICHG>();
   Read(values_, *record);
   if (net_ == nullptr) return false;
-  (net_->*list)->Append(std::move(record));
+  Append(*(net_->*list), std::move(record));
   return true;
 }
 

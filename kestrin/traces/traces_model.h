@@ -46,7 +46,7 @@ class KESTRIN_EXPORT CMTracesTTT : public PooledRecord {
 };
 
 /// The root of a Traces file.
-class KESTRIN_EXPORT CMTraces {
+class KESTRIN_EXPORT CMTraces : private OwnedLists<5> {
  public:
   std::int64_t m_nReserved = 0;  ///< means nothing
   CString m_sUnits;              ///< the unit that the file names last
@@ -72,11 +72,11 @@ class KESTRIN_EXPORT CMTraces {
   int m_nStLongValue7 = 0;  ///< -1 once such a line was read
   int m_nStLongValue8 = 0;  ///< -1 once such a line was read
 
-  RecordList<CMTracesXRF> m_pXrfArray;  ///< XRF lines
-  RecordList<CMTracesTET> m_pTetArray;  ///< TET lines
-  RecordList<CMTracesTTT> m_pTttArray;  ///< TTT lines
-  RecordList<CMTracesNET> m_pNetArray;  ///< net headers, with what belongs to them
-  RecordList<CMTracesFIL> m_pFilArray;  ///< fills, with what belongs to them
+  RecordArray<CMTracesXRF>* m_pXrfArray = MakeList();  ///< XRF lines
+  RecordArray<CMTracesTET>* m_pTetArray = MakeList();  ///< TET lines
+  RecordArray<CMTracesTTT>* m_pTttArray = MakeList();  ///< TTT lines
+  RecordArray<CMTracesNET>* m_pNetArray = MakeList();  ///< net headers, with what belongs to them
+  RecordArray<CMTracesFIL>* m_pFilArray = MakeList();  ///< fills, with what belongs to them
 };
 
 }  // namespace kestrin

@@ -7,6 +7,7 @@
 #include <memory>
 #include <utility>
 
+#include "kestrin/geometry/append.h"
 #include "kestrin/platform/characters.h"
 #include "kestrin/text/trim.h"
 #include "kestrin/traces/record_values.h"
@@ -151,7 +152,7 @@ bool TracesReader::AddXrf() {
   record->m_nValue1 = values_.Int(1);
   record->m_sValue2A = values_.Text(2);
   record->m_sValue2B = values_.Text(2);
-  model_.m_pXrfArray->Append(std::move(record));
+  Append(*model_.m_pXrfArray, std::move(record));
   return true;
 }
 
@@ -162,7 +163,7 @@ bool TracesReader::AddTet() {
   record->m_dValue3 = values_.Double(3);
   record->m_dValue4 = values_.Double(4);
   record->m_dValue5 = values_.Double(5);
-  model_.m_pTetArray->Append(std::move(record));
+  Append(*model_.m_pTetArray, std::move(record));
   return true;
 }
 
@@ -173,7 +174,7 @@ bool TracesReader::AddTtt() {
   record->m_nValue3 = values_.Int(3);
   record->m_nValue4 = values_.Int(4);
   record->m_nValue5 = values_.Int(5);
-  model_.m_pTttArray->Append(std::move(record));
+  Append(*model_.m_pTttArray, std::move(record));
   return true;
 }
 

@@ -54,12 +54,12 @@ class TracesReader {
   bool AddVer();
 
   template <class RECORD>
-  bool AddWithSegments(RecordList<RECORD> CMTracesNET::*list);
-  bool AddGuiOrChg(RecordList<CMTracesGUICHG> CMTracesNET::*list);
+  bool AddWithSegments(RecordArray<RECORD>* CMTracesNET::*list);
+  bool AddGuiOrChg(RecordArray<CMTracesGUICHG>* CMTracesNET::*list);
   template <class AREA>
-  bool AddArea(RecordList<AREA> CMTracesFIL::*list);
+  bool AddArea(RecordArray<AREA>* CMTracesFIL::*list);
   template <class ISLAND>
-  bool AddIsland(RecordList<ISLAND> CMTracesFIL::*list);
+  bool AddIsland(RecordArray<ISLAND>* CMTracesFIL::*list);
   void AddFillFor(const CMTracesArea& area);
 
   CMTraces& model_;
@@ -72,8 +72,8 @@ class TracesReader {
   // else ever closes.
   CMTracesNET* net_ = nullptr;
   CMTracesFIL* fill_ = nullptr;
-  const RecordList<CMTracesVER>* vertices_ = nullptr;
-  const RecordList<CMTracesSEG>* segments_ = nullptr;
+  RecordArray<CMTracesVER>* vertices_ = nullptr;
+  RecordArray<CMTracesSEG>* segments_ = nullptr;
 };
 
 }  // namespace kestrin

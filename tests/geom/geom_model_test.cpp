@@ -34,9 +34,9 @@ TEST(GeomModel, DrawingObjectsGoWithTheirArray) {
   {
     CMGeomDrawObjArray array;
     CArray<CMGeomDrawObj*, CMGeomDrawObj*>* seenByHosts = &array;
-    array.Append(std::make_unique<Counted>(deleted));
+    array.Add(std::make_unique<Counted>(deleted).release());
     seenByHosts->Add(nullptr);
-    array.Append(std::make_unique<Counted>(deleted));
+    array.Add(std::make_unique<Counted>(deleted).release());
   }
   EXPECT_EQ(deleted, 2);
 }

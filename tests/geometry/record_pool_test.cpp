@@ -1,11 +1,17 @@
 #include "kestrin/geometry/record_pool.h"
 
 #include <gtest/gtest.h>
+#include <malloc.h>
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <cstdio>
+#include <memory>
+#include <new>
 #include <random>
+#include <stdexcept>
 #include <thread>
 #include <vector>
 
@@ -62,6 +68,49 @@ TEST(RecordPool, TheSanitizerSeesWhoTouchesARecordThatHasEnded) {
   EXPECT_DEATH(std::printf("%d", kept.get()[2].number), "use-after-poison");  // never made
 }
 #endif
+
+struct alignas(16) Aligned16 : Numbered {
+  using Numbered::Numbered;
+};
+struct alignas(128) Aligned128 : Numbered {
+  using Numbered::Numbered;
+};
+struct Failing : Numbered {
+  Failing() : Numbered(0) { throw std::runtime_error("constructor"); }
+};
+
+/// Makes a record in each way that a language has, and deletes it.
+template <class RECORD>
+void MakeAsHostsDo() {
+  const auto isAligned = [](const RECORD& record) {
+    return reinterpret_cast<std::uintptr_t>(&record) % alignof(RECORD) == 0 && record.number == 3;
+  };
+  const std::unique_ptr<RECORD> plain(new RECORD(3));  // NOLINT(modernize-make-unique): this very operator
+  EXPECT_TRUE(isAligned(*plain));
+  const std::unique_ptr<RECORD> nothrow(new (std::nothrow) RECORD(3));
+  EXPECT_TRUE(isAligned(*nothrow));
+  const auto shared = std::make_shared<RECORD>(3);
+  EXPECT_TRUE(isAligned(*shared));
+  alignas(RECORD) std::array<std::byte, sizeof(RECORD)> memory;
+  RECORD* const placed = new (memory.data()) RECORD(3);
+  EXPECT_TRUE(isAligned(*placed));
+  std::destroy_at(placed);
+}
+
+TEST(PooledRecord, HostsMakeItInEveryWayOfTheLanguage) {
+  MakeAsHostsDo<Numbered>();
+  MakeAsHostsDo<Aligned16>();
+  MakeAsHostsDo<Aligned128>();
+  EXPECT_THROW(std::make_unique<Failing>(), std::runtime_error);
+  EXPECT_THROW(std::unique_ptr<Failing>(new (std::nothrow) Failing), std::runtime_error);
+  RecordPool pool;
+  EXPECT_THROW(static_cast<void>(pool.Make<Failing>()), std::runtime_error);
+}
+
+TEST(PooledRecord, TakesTheMemoryThatItNeedsWhenAHostMakesIt) {
+  const auto record = std::make_unique<Numbered>(1);
+  EXPECT_LE(malloc_usable_size(record.get()), 2 * sizeof(Numbered));
+}
 
 TEST(RecordPool, MakesRecordsSideBySide) {
   RecordPool pool;

@@ -25,7 +25,7 @@ struct TracesText {
 
   /// A list as " name{first; second}", an empty one as nothing.
   template <class RECORD>
-  static std::string List(std::string_view name, const RecordList<RECORD>& records) {
+  static std::string List(std::string_view name, const RecordArray<RECORD>* records) {
     std::string text;
     for (const RECORD* record : *records) text += (text.empty() ? "" : "; ") + Of(*record);
     return text.empty() ? "" : " " + std::string(name) + "{" + text + "}";

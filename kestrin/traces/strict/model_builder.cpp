@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "kestrin/geometry/append.h"
 #include "kestrin/platform/characters.h"
 #include "kestrin/platform/numbers.h"
 
@@ -20,8 +21,8 @@ void ModelBuilder::DropOpen() {
   net_.reset();
   fill_.reset();
   areas_ = {};
-  segments_.DeleteRecords();
-  vertices_.DeleteRecords();
+  DeleteRecords(segments_);
+  DeleteRecords(vertices_);
 }
 
 void ModelBuilder::Start(std::string_view units) {
@@ -52,7 +53,7 @@ void ModelBuilder::AddXrf(int value1, std::string_view value2) {
   record->m_nValue1 = value1;
   record->m_sValue2A = value2;
   record->m_sValue2B = value2;
-  root_->m_pXrfArray->Append(std::move(record));
+  Append(*root_->m_pXrfArray, std::move(record));
 }
 
 void ModelBuilder::AddTet(int value1, std::string_view value2, double value3, double value4, double value5) {
@@ -62,7 +63,7 @@ void ModelBuilder::AddTet(int value1, std::string_view value2, double value3, do
   record->m_dValue3 = value3;
   record->m_dValue4 = value4;
   record->m_dValue5 = value5;
-  root_->m_pTetArray->Append(std::move(record));
+  Append(*root_->m_pTetArray, std::move(record));
 }
 
 void ModelBuilder::AddTtt(int value1, double value2, int value3, int value4, int value5) {
@@ -72,7 +73,7 @@ void ModelBuilder::AddTtt(int value1, double value2, int value3, int value4, int
   record->m_nValue3 = value3;
   record->m_nValue4 = value4;
   record->m_nValue5 = value5;
-  root_->m_pTttArray->Append(std::move(record));
+  Append(*root_->m_pTttArray, std::move(record));
 }
 
 void ModelBuilder::OpenNet(std::string_view name) {
@@ -92,7 +93,7 @@ void ModelBuilder::AddSegment(std::string_view value1, std::string_view value2, 
     record->m_sValue4 = value4;
   }
   record->m_sValue5 = value5;
-  segments_.Append(std::move(record));
+  Append(segments_, std::move(record));
 }
 
 void ModelBuilder::AddWire(ListOf<CMTracesNET, CMTracesWIRANT> list, int value1, double value2, double value3,
@@ -104,7 +105,7 @@ void ModelBuilder::AddWire(ListOf<CMTracesNET, CMTracesWIRANT> list, int value1,
   record->m_dValue4 = value4;
   record->m_dValue5 = value5;
   record->m_pSegArray->Swap(segments_);
-  ((*net_).*list)->Append(std::move(record));
+  Append(*((*net_).*list), std::move(record));
 }
 
 void ModelBuilder::AddIncomplete(ListOf<CMTracesNET, CMTracesINCANT> list, int value1, double value2,
@@ -118,7 +119,7 @@ void ModelBuilder::AddIncomplete(ListOf<CMTracesNET, CMTracesINCANT> list, int v
   record->m_dValue6 = value6;
   record->m_nValue7 = value7;
   record->m_pSegArray->Swap(segments_);
-  ((*net_).*list)->Append(std::move(record));
+  Append(*((*net_).*list), std::move(record));
 }
 
 void ModelBuilder::AddGuiOrChg(ListOf<CMTracesNET, CMTracesGUICHG> list, double value1, double value2,
@@ -130,16 +131,16 @@ void ModelBuilder::AddGuiOrChg(ListOf<CMTracesNET, CMTracesGUICHG> list, double 
   record->m_dValue4 = value4;
   record->m_dValue5 = value5;
   record->m_nValue6 = value6;
-  ((*net_).*list)->Append(std::move(record));
+  Append(*((*net_).*list), std::move(record));
 }
 
-void ModelBuilder::CloseNet() { root_->m_pNetArray->Append(std::move(net_)); }
+void ModelBuilder::CloseNet() { Append(*root_->m_pNetArray, std::move(net_)); }
 
 void ModelBuilder::AddVertex(double x, double y) {
   auto vertex = records_.Make<CMTracesVER>();
   vertex->m_dX = x;
   vertex->m_dY = y;
-  vertices_.Append(std::move(vertex));
+  Append(vertices_, std::move(vertex));
 }
 
 void ModelBuilder::OpenFill(std::string_view name1, std::string_view name2, std::string_view value3,
@@ -187,10 +188,10 @@ void ModelBuilder::AddTti(double value1, double value2, std::string_view value3,
   record->m_dValue5 = value5;
   record->m_dValue6 = value6;
   record->m_nValue7 = value7;
-  fill_->m_pTtiArray->Append(std::move(record));
+  Append(*fill_->m_pTtiArray, std::move(record));
 }
 
-void ModelBuilder::CloseFill() { root_->m_pFilArray->Append(std::move(fill_)); }
+void ModelBuilder::CloseFill() { Append(*root_->m_pFilArray, std::move(fill_)); }
 
 void ModelBuilder::StartArea(CMTracesArea& area, std::string_view name1, std::string_view name2) {
   area.m_sName1 = lastAreaName1_ = Unquoted(name1);
@@ -212,9 +213,9 @@ void ModelBuilder::SetAreaTail(double value5, int value6, int last, int value8, 
 void ModelBuilder::CloseLooseArea() {
   auto area = TakeArea<CMTracesARE>();
   if (looseFill_ == nullptr || !HasNamesOf(*looseFill_, *area)) {
-    looseFill_ = root_->m_pFilArray->Append(MakeFillFor(*area));
+    looseFill_ = Append(*root_->m_pFilArray, MakeFillFor(*area));
   }
-  looseFill_->m_pAreArray->Append(std::move(area));
+  Append(*looseFill_->m_pAreArray, std::move(area));
 }
 
 bool ModelBuilder::HasNamesOf(const CMTracesFIL& fill, const CMTracesArea& area) {

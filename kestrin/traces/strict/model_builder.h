@@ -8,6 +8,7 @@
 #include <tuple>
 #include <utility>
 
+#include "kestrin/geometry/append.h"
 #include "kestrin/geometry/record_pool.h"
 #include "kestrin/traces/traces_model.h"
 
@@ -21,7 +22,7 @@ class ModelBuilder {
   using Record = std::unique_ptr<RECORD>;
   /// A list of records that another record has.
   template <class OWNER, class RECORD>
-  using ListOf = RecordList<RECORD> OWNER::*;
+  using ListOf = RecordArray<RECORD>* OWNER::*;
 
   /// The model, without what is open; null before the units line.
   [[nodiscard]] Record<CMTraces> Take() { return std::move(root_); }
@@ -109,8 +110,8 @@ class ModelBuilder {
   Record<CMTracesFIL> fill_;
   std::tuple<Record<CMTracesARE>, Record<CMTracesARS>> areas_;
   CMTracesArea* area_ = nullptr;  // the one in areas_
-  OwningArray<CMTracesSEG> segments_;
-  OwningArray<CMTracesVER> vertices_;
+  Owning<RecordArray<CMTracesSEG>> segments_;
+  Owning<RecordArray<CMTracesVER>> vertices_;
 };
 
 template <class ISLAND>
@@ -118,7 +119,7 @@ void ModelBuilder::AddIsland(ListOf<CMTracesFIL, ISLAND> list, int value1) {
   auto island = records_.Make<ISLAND>();
   island->m_nValue1 = value1;
   island->m_pVerArray->Swap(vertices_);
-  ((*fill_).*list)->Append(std::move(island));
+  Append(*((*fill_).*list), std::move(island));
 }
 
 template <class AREA>
@@ -139,7 +140,7 @@ void ModelBuilder::CloseArea(ListOf<CMTracesFIL, AREA> list) {
     CloseFill();
     fill_ = std::move(next);
   }
-  ((*fill_).*list)->Append(std::move(area));
+  Append(*((*fill_).*list), std::move(area));
 }
 
 template <class AREA>
