@@ -1,21 +1,25 @@
 #pragma once
 
 /// @file
-/// The models as JSON: an object a record, its members in declaration order.
+/// The models as JSON: each record is an object of its fields.
 
-#include "kestrin/geom/geom_model.h"
-#include "kestrin/neutral/component_model.h"
-#include "kestrin/neutral/net_model.h"
-#include "kestrin/tech/tech_model.h"
-#include "kestrin/traces/traces_model.h"
+#include "kestrin/geom/geom_fields.h"
+#include "kestrin/neutral/neutral_fields.h"
+#include "kestrin/tech/tech_fields.h"
+#include "kestrin/traces/traces_fields.h"
 #include "tool/json_writer.h"
 
 namespace kestrin::tool {
 
-void WriteJson(JsonWriter& json, const CMTech& tech);
-void WriteJson(JsonWriter& json, const CMComps& components);
-void WriteJson(JsonWriter& json, const CMNetList& nets);
-void WriteJson(JsonWriter& json, const CMTraces& traces);
-void WriteJson(JsonWriter& json, const CMGeom& geom);
+template <class Record>
+concept HasFields = requires(const Record& record) {
+  ForEachField(record, [](const char*, const auto&) {});
+};
+
+template <HasFields Record>
+void WriteJson(JsonWriter& json, const Record& record) {
+  JsonObject object(json);
+  ForEachField(record, [&](const char* name, const auto& value) { object.Member(name, value); });
+}
 
 }  // namespace kestrin::tool
