@@ -6,7 +6,7 @@ set -eu
 cd "$(dirname "$0")"
 
 scripts/install-packages.sh $(cat scripts/build-packages scripts/check-packages)
-clang-format-14 --dry-run --Werror $(find kestrin tool tests bench fuzz examples -name '*.h' -o -name '*.cpp')
+clang-format-14 --dry-run --Werror $(find kestrin tool support tests bench fuzz examples -name '*.h' -o -name '*.cpp')
 mkdir -p build
 doxygen
 for preset in release sanitize fuzz thread; do

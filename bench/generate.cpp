@@ -9,13 +9,13 @@
 #include <string>
 #include <string_view>
 
-#include "bench/generators.h"
+#include "support/generators/generators.h"
 
 namespace {
 
 int Usage() {
   std::string kinds;
-  for (const auto& file : kestrin::bench::kGeneratedFiles) kinds.append(" ").append(file.kind);
+  for (const auto& file : kestrin::test::kGeneratedFiles) kinds.append(" ").append(file.kind);
   std::fprintf(stderr,
                "usage: kestrin_generate KIND SIZE-IN-BYTES > file\n"
                "       kestrin_generate board FOLDER SIZE-IN-BYTES\nkinds:%s\n",
@@ -33,13 +33,13 @@ std::optional<std::uint64_t> Size(std::string_view digits) {
 int WriteBoard(const std::string& folder, std::uint64_t size) {
   std::error_code error;  // a folder that is not there is met again below
   std::filesystem::create_directories(folder, error);
-  if (kestrin::bench::GenerateBoard(folder, size)) return 0;
+  if (kestrin::test::GenerateBoard(folder, size)) return 0;
   std::fprintf(stderr, "%s: cannot be written\n", folder.c_str());
   return 1;
 }
 
 int WriteFile(std::string_view kind, std::uint64_t size) {
-  for (const auto& file : kestrin::bench::kGeneratedFiles) {
+  for (const auto& file : kestrin::test::kGeneratedFiles) {
     if (file.kind != kind) continue;
     std::ios::sync_with_stdio(false);
     file.generate(std::cout, size);

@@ -31,32 +31,32 @@ InputSize SizeOf(const std::string& path) {
 
 }  // namespace
 
-void Inputs::AddFile(const GeneratedFile& file, std::uint64_t size) {
+void Inputs::AddFile(const test::GeneratedFile& file, std::uint64_t size) {
   Prepared& added = Add(file, std::string(file.kind), size);
   added.bytes = ContentOf(added.input.path);
   added.input.bytes = added.bytes;
 }
 
-void Inputs::AddLargeFile(const GeneratedFile& file, std::uint64_t megabytes) {
+void Inputs::AddLargeFile(const test::GeneratedFile& file, std::uint64_t megabytes) {
   Add(file, std::string(file.kind) + " " + std::to_string(megabytes) + " MB", megabytes * 1'000'000);
 }
 
 void Inputs::AddBoard(std::uint64_t size) {
   const std::string folder = folder_.Path();
-  if (!GenerateBoard(folder, size)) throw std::runtime_error(folder + ": cannot be written");
+  if (!test::GenerateBoard(folder, size)) throw std::runtime_error(folder + ": cannot be written");
   Prepared& board = inputs_.emplace_back();
   board.kind = kBoard;
   board.input.path = folder;
-  for (const GeneratedFile& file : kGeneratedFiles) {
+  for (const test::GeneratedFile& file : test::kGeneratedFiles) {
     const InputSize added = SizeOf(folder + "/board." + std::string(file.kind));
     board.size.bytes += added.bytes;
     board.size.lines += added.lines;
   }
 }
 
-Prepared& Inputs::Add(const GeneratedFile& file, const std::string& kind, std::uint64_t size) {
+Prepared& Inputs::Add(const test::GeneratedFile& file, const std::string& kind, std::uint64_t size) {
   const std::string path = folder_.Path(kind);
-  if (!WriteGenerated(file, path, size)) throw std::runtime_error(path + ": cannot be written");
+  if (!test::WriteGenerated(file, path, size)) throw std::runtime_error(path + ": cannot be written");
   Prepared& added = inputs_.emplace_back();
   added.kind = kind;
   added.input.path = path;

@@ -7,10 +7,10 @@
 #include <list>
 #include <string>
 
-#include "bench/generators.h"
 #include "bench/measuring/work.h"
 #include "bench/report/results.h"
-#include "tests/support/temporary_folder.h"
+#include "support/generators/generators.h"
+#include "support/temporary_folder.h"
 
 namespace kestrin::bench {
 
@@ -27,9 +27,9 @@ struct Prepared {
 class Inputs {
  public:
   /// A file of a kind, also in memory.
-  void AddFile(const GeneratedFile& file, std::uint64_t size);
+  void AddFile(const test::GeneratedFile& file, std::uint64_t size);
   /// A file that is not held in memory too; its size is part of the kind's name.
-  void AddLargeFile(const GeneratedFile& file, std::uint64_t megabytes);
+  void AddLargeFile(const test::GeneratedFile& file, std::uint64_t megabytes);
   /// The four files of a board.
   void AddBoard(std::uint64_t size);
 
@@ -37,7 +37,7 @@ class Inputs {
   [[nodiscard]] const std::list<Prepared>& All() const { return inputs_; }
 
  private:
-  Prepared& Add(const GeneratedFile& file, const std::string& kind, std::uint64_t size);
+  Prepared& Add(const test::GeneratedFile& file, const std::string& kind, std::uint64_t size);
 
   test::TemporaryFolder folder_;
   std::list<Prepared> inputs_;

@@ -16,12 +16,12 @@
 #include <string_view>
 #include <vector>
 
-#include "bench/generators.h"
 #include "bench/inputs.h"
 #include "bench/measuring/cost.h"
 #include "bench/report/results.h"
 #include "bench/report/tables.h"
 #include "bench/works.h"
+#include "support/generators/generators.h"
 
 namespace kestrin::bench {
 namespace {
@@ -93,7 +93,7 @@ Results ResultsFor(const Inputs& inputs) {
 void MeasureGrowth() {
   Inputs inputs;
   for (const std::string_view kind : {"traces", "geometry", "neutral"}) {
-    for (const GeneratedFile& file : kGeneratedFiles) {
+    for (const test::GeneratedFile& file : test::kGeneratedFiles) {
       if (file.kind != kind) continue;
       for (const unsigned megabytes : {10U, 100U, 1000U}) inputs.AddLargeFile(file, megabytes);
     }
@@ -113,7 +113,7 @@ void MeasureGrowth() {
 bool MeasureAll(const Options& options) {
   Inputs inputs;
   for (const std::string_view kind : {"traces", "geometry", "neutral", "tech"}) {
-    for (const GeneratedFile& file : kGeneratedFiles) {
+    for (const test::GeneratedFile& file : test::kGeneratedFiles) {
       if (file.kind == kind) inputs.AddFile(file, options.size);
     }
   }

@@ -14,7 +14,7 @@
 #include "kestrin/platform/exceptions.h"
 #include "kestrin/session/import_report.h"
 #include "kestrin/text/line_outcome.h"
-#include "tests/support/model_dump.h"
+#include "support/model_dump.h"
 
 namespace kestrin::fuzz {
 

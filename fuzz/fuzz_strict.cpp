@@ -5,7 +5,7 @@
 #include "fuzz/agreement.h"
 #include "fuzz/subjects.h"
 #include "kestrin/traces/strict/strict_parser.h"
-#include "tests/support/source_of.h"
+#include "support/source_of.h"
 
 namespace kestrin::fuzz {
 namespace {

@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "kestrin/platform/messages.h"
-#include "tests/support/model_dump.h"
+#include "support/model_dump.h"
 #include "tests/support/sample_board.h"
 
 namespace kestrin {

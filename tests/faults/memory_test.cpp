@@ -11,12 +11,12 @@
 #include "kestrin/session/dialog.h"
 #include "kestrin/traces/mp_traces_parser.h"
 #include "kestrin/traces/strict/strict_parser.h"
+#include "support/model_dump.h"
+#include "support/source_of.h"
+#include "support/temporary_folder.h"
 #include "tests/faults/faults.h"
 #include "tests/support/content_of.h"
-#include "tests/support/model_dump.h"
 #include "tests/support/sample_board.h"
-#include "tests/support/source_of.h"
-#include "tests/support/temporary_folder.h"
 
 namespace kestrin {
 namespace {

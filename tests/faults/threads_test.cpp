@@ -11,11 +11,11 @@
 #include "kestrin/platform/message_box.h"
 #include "kestrin/platform/messages.h"
 #include "kestrin/traces/strict/strict_parser.h"
+#include "support/model_dump.h"
+#include "support/source_of.h"
 #include "tests/support/content_of.h"
-#include "tests/support/model_dump.h"
 #include "tests/support/recording_dialog.h"
 #include "tests/support/sample_board.h"
-#include "tests/support/source_of.h"
 
 namespace kestrin {
 namespace {

@@ -7,7 +7,7 @@
 
 #include "kestrin/platform/exceptions.h"
 #include "kestrin/session/line_count.h"
-#include "tests/support/temporary_folder.h"
+#include "support/temporary_folder.h"
 
 namespace kestrin {
 namespace {

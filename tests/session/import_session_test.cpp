@@ -13,8 +13,8 @@
 #include "kestrin/platform/messages.h"
 #include "kestrin/tech/tech_model.h"
 #include "kestrin/traces/traces_model.h"
+#include "support/temporary_folder.h"
 #include "tests/support/recording_dialog.h"
-#include "tests/support/temporary_folder.h"
 
 namespace kestrin {
 namespace {

@@ -7,8 +7,8 @@
 #include <string>
 
 #include "kestrin/platform/messages.h"
+#include "support/temporary_folder.h"
 #include "tests/support/recording_dialog.h"
-#include "tests/support/temporary_folder.h"
 
 namespace kestrin {
 namespace {

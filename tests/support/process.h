@@ -8,7 +8,7 @@
 #include <sstream>
 #include <string>
 
-#include "tests/support/temporary_folder.h"
+#include "support/temporary_folder.h"
 
 namespace kestrin::test {
 

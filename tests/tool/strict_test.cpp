@@ -3,8 +3,8 @@
 
 #include <string>
 
+#include "support/temporary_folder.h"
 #include "tests/support/process.h"
-#include "tests/support/temporary_folder.h"
 
 namespace kestrin {
 namespace {

@@ -7,7 +7,7 @@
 #include <type_traits>
 
 #include "kestrin/traces/traces_model.h"
-#include "tests/support/temporary_folder.h"
+#include "support/temporary_folder.h"
 #include "tests/traces/described_traces.h"
 
 namespace kestrin {

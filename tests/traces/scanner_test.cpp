@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "kestrin/platform/string.h"
-#include "tests/support/source_of.h"
+#include "support/source_of.h"
 
 namespace kestrin {
 namespace {

@@ -6,11 +6,11 @@
 #include <string>
 #include <vector>
 
-#include "bench/generators.h"
 #include "kestrin/traces/traces_reader.h"
+#include "support/generators/generators.h"
+#include "support/source_of.h"
 #include "tests/support/content_of.h"
 #include "tests/support/feed.h"
-#include "tests/support/source_of.h"
 #include "tests/traces/described_traces.h"
 
 namespace kestrin {
@@ -188,7 +188,7 @@ std::string LineReaders(const std::string& text) {
 
 TEST(StrictParser, MakesTheModelThatTheLineReaderMakes) {
   std::ostringstream generated;
-  bench::GenerateTraces(generated, 300'000);
+  test::GenerateTraces(generated, 300'000);
   for (const std::string& text : {test::ContentOf(KESTRIN_EXAMPLES "/board/board.traces"), generated.str()}) {
     ExpectAccepted(text, LineReaders(text));
   }

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "kestrin/traces/strict/strict_parser.h"
-#include "tests/support/source_of.h"
+#include "support/source_of.h"
 #include "tests/traces/described_traces.h"
 
 namespace kestrin {

@@ -3,9 +3,9 @@
 #include <random>
 #include <string>
 
-#include "bench/generators.h"
+#include "support/generators/generators.h"
 
-namespace kestrin::bench {
+namespace kestrin::test {
 namespace {
 
 /// Writes lines and knows how many bytes they were. What a line is made of is given as parts, each of them
@@ -89,4 +89,4 @@ void GenerateNeutral(std::ostream& out, std::uint64_t size) {
     WriteComponent(lines, random, component);
 }
 
-}  // namespace kestrin::bench
+}  // namespace kestrin::test

@@ -1,8 +1,8 @@
 #include <fstream>
 
-#include "bench/generators.h"
+#include "support/generators/generators.h"
 
-namespace kestrin::bench {
+namespace kestrin::test {
 namespace {
 
 /// What a file has of a board's bytes.
@@ -30,4 +30,4 @@ bool GenerateBoard(const std::string& folder, std::uint64_t size) {
   return true;
 }
 
-}  // namespace kestrin::bench
+}  // namespace kestrin::test

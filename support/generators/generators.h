@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-namespace kestrin::bench {
+namespace kestrin::test {
 
 /// A Geometry file: a board, its stack-up, padstacks, and components with paths, polygons, arcs, circles,
 /// texts and attributes, with points in the line and pending ones. A list of points has up to 400 of them.
@@ -46,4 +46,4 @@ inline constexpr GeneratedFile kGeneratedFiles[] = {
 /// they cannot be written.
 [[nodiscard]] bool GenerateBoard(const std::string& folder, std::uint64_t size);
 
-}  // namespace kestrin::bench
+}  // namespace kestrin::test

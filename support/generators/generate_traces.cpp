@@ -2,9 +2,9 @@
 #include <random>
 #include <string>
 
-#include "bench/generators.h"
+#include "support/generators/generators.h"
 
-namespace kestrin::bench {
+namespace kestrin::test {
 namespace {
 
 /// Writes one Traces file. Coordinates are counted in ten-thousandths of a millimetre.
@@ -133,4 +133,4 @@ class TracesGenerator {
 
 void GenerateTraces(std::ostream& out, std::uint64_t size) { TracesGenerator(out, size).Generate(); }
 
-}  // namespace kestrin::bench
+}  // namespace kestrin::test

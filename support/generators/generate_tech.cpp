@@ -2,9 +2,9 @@
 #include <ostream>
 #include <string>
 
-#include "bench/generators.h"
+#include "support/generators/generators.h"
 
-namespace kestrin::bench {
+namespace kestrin::test {
 namespace {
 
 std::string Layer(std::uint64_t number) {
@@ -41,4 +41,4 @@ void GenerateTech(std::ostream& out, std::uint64_t size) {
   while (written < size) write(ViaRule(++vias, layers));
 }
 
-}  // namespace kestrin::bench
+}  // namespace kestrin::test

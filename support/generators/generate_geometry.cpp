@@ -2,9 +2,9 @@
 #include <random>
 #include <string>
 
-#include "bench/generators.h"
+#include "support/generators/generators.h"
 
-namespace kestrin::bench {
+namespace kestrin::test {
 namespace {
 
 class GeometryWriter {
@@ -117,4 +117,4 @@ void GenerateGeometry(std::ostream& out, std::uint64_t size) {
   GeometryWriter(out, static_cast<std::int64_t>(size)).Write();
 }
 
-}  // namespace kestrin::bench
+}  // namespace kestrin::test
