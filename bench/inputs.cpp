@@ -5,63 +5,47 @@
 #include <stdexcept>
 
 #include "bench/works.h"
-#include "bench/yardsticks/newlines.h"
+#include "bench/yardsticks/floors.h"
+#include "support/generators/generators.h"
 
 namespace kestrin::bench {
 namespace {
 
+/// In memory of exactly the file's size that is never let go, so that the heap stays as a fresh program has
+/// it.
 std::string ContentOf(const std::string& path) {
   std::string bytes(std::filesystem::file_size(path), '\0');
   std::ifstream(path, std::ios::binary).read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   return bytes;
 }
 
-InputSize SizeOf(const std::string& path) {
+/// Adds the size of a file to an input's.
+void AddSize(Input& input, const std::string& path) {
   constexpr std::size_t kBlockSize = std::size_t{1} << 16;
   std::string block(kBlockSize, '\0');
-  InputSize size;
   std::ifstream file(path, std::ios::binary);
   while (file.read(block.data(), kBlockSize), file.gcount() > 0) {
     const auto count = static_cast<std::size_t>(file.gcount());
-    size.bytes += count;
-    size.lines += CountNewlines({block.data(), count});
+    input.size += count;
+    input.lines += CountNewlines({block.data(), count});
   }
-  return size;
 }
 
 }  // namespace
 
-void Inputs::AddFile(const test::GeneratedFile& file, std::uint64_t size) {
-  Prepared& added = Add(file, std::string(file.kind), size);
-  added.bytes = ContentOf(added.input.path);
-  added.input.bytes = added.bytes;
-}
-
-void Inputs::AddLargeFile(const test::GeneratedFile& file, std::uint64_t megabytes) {
-  Add(file, std::string(file.kind) + " " + std::to_string(megabytes) + " MB", megabytes * 1'000'000);
-}
-
-void Inputs::AddBoard(std::uint64_t size) {
-  const std::string folder = folder_.Path();
-  if (!test::GenerateBoard(folder, size)) throw std::runtime_error(folder + ": cannot be written");
-  Prepared& board = inputs_.emplace_back();
-  board.kind = kBoard;
-  board.input.path = folder;
+Inputs::Inputs(std::uint64_t size) {
   for (const test::GeneratedFile& file : test::kGeneratedFiles) {
-    const InputSize added = SizeOf(folder + "/board." + std::string(file.kind));
-    board.size.bytes += added.bytes;
-    board.size.lines += added.lines;
+    const std::string path = folder_.Path(file.kind);
+    if (!test::WriteGenerated(file, path, size)) throw std::runtime_error(path + ": cannot be written");
+    inputs_.push_back({std::string(file.kind), path, ContentOf(path)});
+    AddSize(inputs_.back(), path);
   }
-}
-
-Prepared& Inputs::Add(const test::GeneratedFile& file, const std::string& kind, std::uint64_t size) {
-  const std::string path = folder_.Path(kind);
-  if (!test::WriteGenerated(file, path, size)) throw std::runtime_error(path + ": cannot be written");
-  Prepared& added = inputs_.emplace_back();
-  added.kind = kind;
-  added.input.path = path;
-  added.size = SizeOf(path);
-  return added;
+  inputs_.push_back({std::string(kBoard), folder_.Path(), {}});
+  Input& board = inputs_.back();
+  if (!test::GenerateBoard(board.path, size)) throw std::runtime_error(board.path + ": cannot be written");
+  for (const test::GeneratedFile& file : test::kGeneratedFiles) {
+    AddSize(board, board.path + "/board." + std::string(file.kind));
+  }
 }
 
 }  // namespace kestrin::bench

@@ -6,7 +6,6 @@
 #include <span>
 #include <string_view>
 
-#include "bench/measuring/cost.h"
 #include "bench/measuring/work.h"
 
 namespace kestrin::bench {
@@ -16,11 +15,9 @@ namespace kestrin::bench {
 inline constexpr std::string_view kNewlines = "newlines";
 inline constexpr std::string_view kFields = "fields";
 inline constexpr std::string_view kReaderFromMemory = "reader, from memory";
-inline constexpr std::string_view kReaderInUsedHeap = "reader, from memory, used heap";
 inline constexpr std::string_view kStrictReader = "strict reader, from memory";
 inline constexpr std::string_view kReader = "reader, from the file";
 inline constexpr std::string_view kPlainC = "plain C, from the file";
-inline constexpr std::string_view kPlainCpp = "plain C++, from the file";
 inline constexpr std::string_view kImport = "import";
 inline constexpr std::string_view kImportWithDialog = "import with progress shown";
 ///@}
@@ -33,19 +30,17 @@ struct NamedWork {
   std::string_view kind;
   std::string_view name;
   Work run;
-  Heap heap = Heap::kFresh;
 };
 
-/// Newlines, fields and the reader from memory take the same bytes in memory; the reader from the file, plain
-/// C and plain C++ each take the same file from the page cache, in the way that is usual for them.
+/// Newlines, fields and the readers from memory take the same bytes; the reader from the file and plain C
+/// take the same file from the page cache.
 [[nodiscard]] std::span<const NamedWork> AllWorks();
 
-/// Whether a work builds no model.
-[[nodiscard]] constexpr bool BuildsNothing(const NamedWork& work) {
-  return work.name == kNewlines || work.name == kFields;
+[[nodiscard]] constexpr bool BuildsModel(const NamedWork& work) {
+  return work.name != kNewlines && work.name != kFields;
 }
 
-/// Whether all works of a kind that build a model build the same. Says what they build where they do not.
-[[nodiscard]] bool BuildTheSame(std::string_view kind, const Input& input);
+/// Whether all works that build a model of the input build the same. Says what they build where they do not.
+[[nodiscard]] bool BuildTheSame(const Input& input);
 
 }  // namespace kestrin::bench

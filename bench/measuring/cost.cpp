@@ -4,7 +4,6 @@
 #include <sys/resource.h>
 
 #include <ctime>
-#include <limits>
 
 #include "bench/measuring/allocations.h"
 #include "bench/measuring/run_apart.h"
@@ -32,18 +31,10 @@ double SystemSeconds(const rusage& usage) {
 /// The greatest resident memory so far. A process begins with that of the one that it is a copy of.
 std::uint64_t PeakBytes(const rusage& usage) { return static_cast<std::uint64_t>(usage.ru_maxrss) * 1024; }
 
-/// Leaves memory in the heap, which gives none of it back to the system.
-void UseHeap(Work work, const Input& input) {
-  mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
-  mallopt(M_MMAP_MAX, 0);
-  (void)work(input);
-}
-
 }  // namespace
 
-Cost Measure(Work work, const Input& input, Heap heap) {
+Cost Measure(Work work, const Input& input) {
   return RunApart([&] {
-    if (heap == Heap::kUsed) UseHeap(work, input);
     Cost cost;
     const rusage before = Usage();
     const std::uint64_t allocationsBefore = AllocationCount();
@@ -55,12 +46,9 @@ Cost Measure(Work work, const Input& input, Heap heap) {
     cost.systemSeconds = SystemSeconds(after) - SystemSeconds(before);
     cost.allocations = AllocationCount() - allocationsBefore;
     cost.peakBytes = PeakBytes(after) - PeakBytes(before);
-    const double destructionStart = ProcessorSeconds();
     built.reset();
-    const double destructionEnd = ProcessorSeconds();
-    cost.destructionSeconds = destructionEnd - destructionStart;
-    malloc_trim(0);  // joins free chunks, which freeing does at once or puts off, and gives back what it can
-    cost.leftSeconds = ProcessorSeconds() - destructionEnd;
+    malloc_trim(0);  // joins free chunks, which freeing does at once or puts off
+    cost.destructionSeconds = ProcessorSeconds() - end;
     return cost;
   });
 }

@@ -14,9 +14,9 @@ namespace kestrin::bench {
 
 /// Runs a function in a copy of this process and returns what it returns. So every work has a fresh heap:
 /// none profits or suffers from the memory that another one left, and its peak of memory is its own.
-template <class FUNCTION>
-[[nodiscard]] std::invoke_result_t<FUNCTION> RunApart(FUNCTION function) {
-  using Result = std::invoke_result_t<FUNCTION>;
+template <class Function>
+[[nodiscard]] std::invoke_result_t<Function> RunApart(Function function) {
+  using Result = std::invoke_result_t<Function>;
   static_assert(std::is_trivially_copyable_v<Result>);
   std::array<int, 2> ends{};
   if (pipe(ends.data()) != 0) throw std::runtime_error("no pipe");

@@ -1,20 +1,18 @@
 #pragma once
 
 /// @file
-/// What is measured: works, each of which makes something out of the same input.
+/// What is measured: works, each of which makes something of the same input.
 
 #include <cstdint>
 #include <memory>
 #include <string>
-#include <string_view>
 
 namespace kestrin::bench {
 
 /// What is counted in a model, to see that two works have built the same.
 struct Tally {
   std::uint64_t records = 0;
-  std::uint64_t characters = 0;  ///< of some of its texts
-  double coordinates = 0.0;      ///< the sum of some of its numbers, in file order
+  double coordinates = 0.0;  ///< the sum of some of its numbers, in file order
 
   friend bool operator==(const Tally&, const Tally&) = default;
 };
@@ -27,13 +25,17 @@ class Built {
   Built& operator=(const Built&) = delete;
   virtual ~Built() = default;
 
-  [[nodiscard]] virtual Tally Count() const = 0;
+  /// Nothing where there is no other work to compare with.
+  [[nodiscard]] virtual Tally Count() const { return {}; }
 };
 
-/// What a work reads: a file, or the same bytes in memory.
+/// What a work reads: a file and the same bytes in memory, or the folder of a board.
 struct Input {
+  std::string kind;
   std::string path;
-  std::string_view bytes;
+  std::string bytes;
+  std::uint64_t size = 0;
+  std::uint64_t lines = 0;
 };
 
 /// Null for a work that builds nothing.

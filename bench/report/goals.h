@@ -3,39 +3,42 @@
 /// @file
 /// The goals that the readers are held to.
 
-#include <optional>
-#include <span>
-#include <string_view>
-
-#include "bench/report/results.h"
+#include "bench/report/medians.h"
+#include "bench/works.h"
 
 namespace kestrin::bench {
 
-/// A figure of a kind of input; nothing where what it is made of was not run.
-using Figure = std::optional<double> (*)(const Results& results, std::string_view kind);
-
-// How many times a work takes the other's time.
-std::optional<double> ReaderToNewlines(const Results& results, std::string_view kind);
-std::optional<double> ReaderToFields(const Results& results, std::string_view kind);
-std::optional<double> ReaderInUsedHeapToFields(const Results& results, std::string_view kind);
-std::optional<double> PlainCToReader(const Results& results, std::string_view kind);
-std::optional<double> PlainCppToReader(const Results& results, std::string_view kind);
-std::optional<double> StrictReaderToReader(const Results& results, std::string_view kind);
-
-enum class Bound : std::uint8_t { kAtMost, kAtLeast };
-
-struct Goal {
-  std::string_view kind;
-  std::string_view text;
-  Figure figure;
-  Bound bound;
-  double value;
+struct Term {
+  std::string_view work;
+  const char* figure;
 };
 
-[[nodiscard]] std::span<const Goal> AllGoals();
+/// A figure of a kind of input, or a quotient of two, and what it should be.
+struct Goal {
+  std::string_view kind;
+  const char* text;
+  Term dividend;
+  std::optional<Term> divisor;
+  const char* bound;
+};
 
-[[nodiscard]] inline bool IsReached(const Goal& goal, double figure) {
-  return goal.bound == Bound::kAtMost ? figure <= goal.value : figure >= goal.value;
-}
+inline constexpr Term kReading{kReader, kTime};
+inline constexpr Term kReadingFromMemory{kReaderFromMemory, kTime};
+
+inline constexpr Goal kGoals[] = {
+    {"traces", "reader ÷ fields", kReadingFromMemory, Term{kFields, kTime}, "≤ 1.20"},
+    {"traces", "plain C ÷ reader", {kPlainC, kTime}, kReading, "≥ 3.50"},
+    {"traces", "strict reader ÷ reader", {kStrictReader, kTime}, kReadingFromMemory, "≤ 2.00"},
+    {"traces", "destroying the model ÷ building it", {kReader, kDestroying}, kReading, "≤ 0.25"},
+    {"traces", kPeak, {kReader, kPeak}, std::nullopt, "≤ 2.50"},
+    {"geometry", "reader ÷ fields", kReadingFromMemory, Term{kFields, kTime}, "≤ 1.30"},
+    {"geometry", "plain C ÷ reader", {kPlainC, kTime}, kReading, "≥ 3.00"},
+    {"geometry", "destroying the model ÷ building it", {kReader, kDestroying}, kReading, "≤ 0.25"},
+    {"geometry", kPeak, {kReader, kPeak}, std::nullopt, "≤ 1.50"},
+    {"neutral", "reader ÷ fields", kReadingFromMemory, Term{kFields, kTime}, "≤ 1.00"},
+    {"neutral", "destroying the model ÷ building it", {kReader, kDestroying}, kReading, "≤ 0.25"},
+    {"neutral", kPeak, {kReader, kPeak}, std::nullopt, "≤ 1.50"},
+    {kBoard, "destroying the model ÷ building it", {kImport, kDestroying}, Term{kImport, kTime}, "≤ 0.25"},
+};
 
 }  // namespace kestrin::bench

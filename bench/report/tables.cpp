@@ -4,26 +4,17 @@
 #include <cstdio>
 #include <ctime>
 #include <fstream>
-#include <string>
 #include <thread>
-#include <utility>
 
 #include "bench/report/goals.h"
-#include "bench/works.h"
 
 namespace kestrin::bench {
 namespace {
-
-constexpr const char* kNothing = "–";
 
 std::string Fixed(double value, int digits) {
   std::array<char, 64> text{};
   std::snprintf(text.data(), text.size(), "%.*f", digits, value);
   return text.data();
-}
-
-std::string Fixed(std::optional<double> value, int digits) {
-  return value ? Fixed(*value, digits) : kNothing;
 }
 
 std::string Today() {
@@ -49,116 +40,55 @@ std::string Compiler() {
 #endif
 }
 
+struct Column {
+  const char* figure;
+  int digits;
+  bool ofModels;  // where nothing is built, it is nothing
+};
+
+constexpr Column kColumns[] = {{kTime, 1, false},       {kSystemTime, 1, false}, {kSpeed, 0, false},
+                               {kAllocations, 0, true}, {kPeak, 2, true},        {kDestroying, 1, true}};
+
 }  // namespace
 
-void WriteCircumstances(std::ostream& out) {
+void WriteCircumstances(std::ostream& out, const Inputs& inputs) {
   out << Today() << ", " << Processor() << ", " << std::thread::hardware_concurrency() << " processors, "
-      << Compiler() << ".\n\n";
-}
-
-void WriteInputs(std::ostream& out, const Results& results) {
-  out << "Inputs:";
+      << Compiler() << ".\n\nInputs:";
   const char* separator = " ";
-  for (const auto& [kind, size] : results.Sizes()) {
-    out << separator << kind << " " << Fixed(static_cast<double>(size.bytes) / 1e6, 1) << " MB, "
-        << size.lines << " lines";
+  for (const Input& input : inputs.All()) {
+    out << separator << input.kind << " " << Fixed(static_cast<double>(input.size) / 1e6, 1) << " MB, "
+        << input.lines << " lines";
     separator = "; ";
   }
   out << ".\n\n";
 }
 
-void WriteCosts(std::ostream& out, const Results& results) {
-  out << "| Input | Work | ns/line | of it system | MB/s | allocations per 1,000 lines | peak ÷ file | "
-         "destroying, ns/line | left to the heap, ns/line | destroying ÷ building |\n"
-         "|---|---|--:|--:|--:|--:|--:|--:|--:|--:|\n";
+void WriteFigures(std::ostream& out, const Medians& medians) {
+  out << "| Input | Work |";
+  for (const Column& column : kColumns) out << " " << column.figure << " |";
+  out << "\n|---|---|--:|--:|--:|--:|--:|--:|\n";
   for (const NamedWork& work : AllWorks()) {
-    const std::optional<Cost> cost = results.Medians(work.kind, work.name);
-    if (!cost) continue;
-    const InputSize size = results.SizeOf(work.kind);
-    const auto bytes = static_cast<double>(size.bytes);
-    const double thousandLines = static_cast<double>(size.lines) / 1000.0;
-    const auto perLine = [&](double seconds) { return Fixed(seconds * 1e6 / thousandLines, 1); };
-    const bool builds = !BuildsNothing(work);
-    const bool frees = builds && work.name != kPlainC;
-    const bool hasPeak = builds && work.heap == Heap::kFresh;
-    const std::string cells[] = {
-        std::string(work.kind),
-        std::string(work.name),
-        perLine(cost->seconds),
-        perLine(cost->systemSeconds),
-        Fixed(bytes / cost->seconds / 1e6, 0),
-        builds ? Fixed(static_cast<double>(cost->allocations) / thousandLines, 0) : kNothing,
-        hasPeak ? Fixed(static_cast<double>(cost->peakBytes) / bytes, 2) : kNothing,
-        frees ? perLine(cost->destructionSeconds) : kNothing,
-        frees ? perLine(cost->leftSeconds) : kNothing,
-        frees ? Fixed(cost->destructionSeconds / cost->seconds, 2) : kNothing,
-    };
-    for (const std::string& cell : cells) out << "| " << cell << " ";
-    out << "|\n";
-  }
-  out << "\n";
-}
-
-void WriteRatios(std::ostream& out, const Results& results) {
-  struct Column {
-    const char* title;
-    Figure figure;
-    int digits;
-  };
-  constexpr Column kColumns[] = {
-      {"reader ÷ newlines", &ReaderToNewlines, 1},           {"reader ÷ fields", &ReaderToFields, 2},
-      {"the same, used heap", &ReaderInUsedHeapToFields, 2}, {"plain C ÷ reader", &PlainCToReader, 2},
-      {"plain C++ ÷ reader", &PlainCppToReader, 2},          {"strict ÷ reader", &StrictReaderToReader, 2},
-  };
-  out << "| File |";
-  for (const Column& column : kColumns) out << " " << column.title << " |";
-  out << "\n|---|";
-  for (std::size_t i = 0; i < std::size(kColumns); ++i) out << "--:|";
-  out << "\n";
-  for (const auto& [kind, size] : results.Sizes()) {
-    if (kind == kBoard) continue;
-    out << "| " << kind << " |";
+    if (!medians.Find(work.kind, work.name, kTime)) continue;
+    out << "| " << work.kind << " | " << work.name << " |";
     for (const Column& column : kColumns) {
-      out << " " << Fixed(column.figure(results, kind), column.digits) << " |";
+      const bool isShown = BuildsModel(work) || !column.ofModels;
+      const double value = medians.Find(work.kind, work.name, column.figure).value_or(0.0);
+      out << " " << (isShown ? Fixed(value, column.digits) : "–") << " |";
     }
     out << "\n";
   }
   out << "\n";
 }
 
-void WriteGoals(std::ostream& out, const Results& results) {
-  out << "| Input | Figure | measured | goal | reached |\n|---|---|--:|--:|---|\n";
-  for (const Goal& goal : AllGoals()) {
-    const std::optional<double> figure = goal.figure(results, goal.kind);
-    if (!figure) continue;
-    const int digits = goal.value >= 100 ? 0 : 2;
-    out << "| " << goal.kind << " | " << goal.text << " | " << Fixed(*figure, digits) << " | "
-        << (goal.bound == Bound::kAtMost ? "≤ " : "≥ ") << Fixed(goal.value, digits) << " | "
-        << (IsReached(goal, *figure) ? "yes" : "no") << " |\n";
-  }
-  out << "\n";
-}
-
-void WriteGrowth(std::ostream& out, const Results& results) {
-  constexpr double kMostGrowth = 1.15;
-  out << "| File | Lines | MB | ns/line | of it system | peak ÷ file | times the smallest | goal | reached "
-         "|\n"
-         "|---|--:|--:|--:|--:|--:|--:|--:|---|\n";
-  std::string file;
-  double smallest = 0.0;
-  for (const auto& [kind, size] : results.Sizes()) {
-    const std::optional<Cost> cost = results.Medians(kind, kReader);
-    if (!cost) continue;
-    const auto lines = static_cast<double>(size.lines);
-    const auto bytes = static_cast<double>(size.bytes);
-    const double perLine = cost->seconds * 1e9 / lines;
-    const std::string thisFile = kind.substr(0, kind.find(' '));
-    if (std::exchange(file, thisFile) != thisFile) smallest = perLine;
-    const double growth = perLine / smallest;
-    out << "| " << file << " | " << size.lines << " | " << Fixed(bytes / 1e6, 0) << " | " << Fixed(perLine, 1)
-        << " | " << Fixed(cost->systemSeconds * 1e9 / lines, 1) << " | "
-        << Fixed(static_cast<double>(cost->peakBytes) / bytes, 2) << " | " << Fixed(growth, 2) << " | ≤ "
-        << Fixed(kMostGrowth, 2) << " | " << (growth <= kMostGrowth ? "yes" : "no") << " |\n";
+void WriteGoals(std::ostream& out, const Medians& medians) {
+  out << "| Input | Figure | measured | goal |\n|---|---|--:|--:|\n";
+  for (const Goal& goal : kGoals) {
+    const auto dividend = medians.Find(goal.kind, goal.dividend.work, goal.dividend.figure);
+    const auto divisor =
+        goal.divisor ? medians.Find(goal.kind, goal.divisor->work, goal.divisor->figure) : 1.0;
+    if (!dividend || !divisor) continue;
+    out << "| " << goal.kind << " | " << goal.text << " | " << Fixed(*dividend / *divisor, 2) << " | "
+        << goal.bound << " |\n";
   }
   out << "\n";
 }

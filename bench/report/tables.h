@@ -5,26 +5,18 @@
 
 #include <ostream>
 
-#include "bench/report/results.h"
+#include "bench/inputs.h"
+#include "bench/report/medians.h"
 
 namespace kestrin::bench {
 
-/// The day, the processor and the compiler.
-void WriteCircumstances(std::ostream& out);
+/// The day, the processor, the compiler and the sizes of what was read.
+void WriteCircumstances(std::ostream& out, const Inputs& inputs);
 
-/// The sizes of what was read.
-void WriteInputs(std::ostream& out, const Results& results);
+/// Every work with its figures.
+void WriteFigures(std::ostream& out, const Medians& medians);
 
-/// Every work with its costs.
-void WriteCosts(std::ostream& out, const Results& results);
-
-/// The readers beside the yardsticks.
-void WriteRatios(std::ostream& out, const Results& results);
-
-/// Every goal with what was measured and whether it is reached.
-void WriteGoals(std::ostream& out, const Results& results);
-
-/// The reader at every size of a file, beside the smallest.
-void WriteGrowth(std::ostream& out, const Results& results);
+/// Every goal with what was measured.
+void WriteGoals(std::ostream& out, const Medians& medians);
 
 }  // namespace kestrin::bench

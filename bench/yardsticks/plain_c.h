@@ -1,10 +1,10 @@
 #pragma once
 
 /// @file
-/// The yardstick "plain C": a reader as an ordinary C programmer writes it, with fgets into a buffer that is
-/// cut in place, atof and atoi, one malloc for a record and arrays of pointers that double. Texts stand
-/// inside the records, in arrays that are long enough for the files that are generated, so that they take no
-/// malloc of their own. Nothing is freed: the process ends with the reading.
+/// The yardstick "plain C": a reader as an ordinary C programmer writes it. It reads with fgets into a
+/// buffer, cuts it in place, converts with atof and atoi, takes one calloc for each record and doubles its
+/// arrays of pointers. Texts are arrays inside their records, long enough for generated files. Nothing is
+/// freed: the process ends after reading.
 
 #include <cstddef>
 #include <cstdio>
@@ -21,53 +21,36 @@ constexpr std::size_t kLineSize = 65'536;
 using Text = char[kTextSize];
 
 /// An array of pointers to records.
-template <class RECORD>
+template <class Record>
 struct List {
-  RECORD** items;
-  std::size_t count;
-  std::size_t capacity;
+  [[nodiscard]] Record** begin() const { return items; }
+  [[nodiscard]] Record** end() const { return items + count; }
+
+  Record** items;
+  std::size_t count, capacity;
 };
 
 /// A new record of zeros at the end of a list.
-template <class RECORD>
-RECORD* Append(List<RECORD>* list) {
+template <class Record>
+Record* Append(List<Record>* list) {
   if (list->count == list->capacity) {
     list->capacity = list->capacity == 0 ? 8 : 2 * list->capacity;
-    list->items = static_cast<RECORD**>(std::realloc(list->items, list->capacity * sizeof(RECORD*)));
+    list->items = static_cast<Record**>(std::realloc(list->items, list->capacity * sizeof(Record*)));
   }
-  auto* record = static_cast<RECORD*>(std::calloc(1, sizeof(RECORD)));
+  auto* record = static_cast<Record*>(std::calloc(1, sizeof(Record)));
   list->items[list->count++] = record;
   return record;
 }
 
-/// Copies a text, as far as there is room, into a record of zeros.
+/// Copies a text into a record of zeros, as far as there is room.
 inline void Keep(Text& room, const char* text) {
   const std::size_t length = std::strlen(text);
   std::memcpy(room, text, length < kTextSize ? length : kTextSize - 1);
 }
 
-/// Keeps a text that may stand between quotes without them.
-inline void KeepUnquoted(Text& room, const char* text, char quote) {
-  if (*text == quote) ++text;
-  Keep(room, text);
-  const std::size_t length = std::strlen(room);
-  if (length > 0 && room[length - 1] == quote) room[length - 1] = '\0';
-}
-
-/// Cuts a line at separators in place. Returns how many fields it has, of which as many as there is room for
-/// are given.
-inline int Cut(char* line, const char* separators, char** fields, int room) {
-  int count = 0;
-  for (char* field = std::strtok(line, separators); field != nullptr && count < room;
-       field = std::strtok(nullptr, separators)) {
-    fields[count++] = field;
-  }
-  return count;
-}
-
 /// Feeds every line of a file to a function.
-template <class FUNCTION>
-void ForEachLine(const char* path, FUNCTION function) {
+template <class Function>
+void ForEachLine(const char* path, Function function) {
   static char line[kLineSize];
   std::FILE* file = std::fopen(path, "r");
   if (file == nullptr) return;
@@ -75,10 +58,7 @@ void ForEachLine(const char* path, FUNCTION function) {
   std::fclose(file);
 }
 
-// A work for every kind of file.
 std::unique_ptr<Built> ReadTraces(const Input& input);
 std::unique_ptr<Built> ReadGeometry(const Input& input);
-std::unique_ptr<Built> ReadNeutral(const Input& input);
-std::unique_ptr<Built> ReadTech(const Input& input);
 
 }  // namespace kestrin::bench::plain_c

@@ -6,9 +6,11 @@ namespace kestrin::bench::plain_c {
 namespace {
 
 struct Numbers {
+  [[nodiscard]] const double* begin() const { return items; }
+  [[nodiscard]] const double* end() const { return items + count; }
+
   double* items;
-  std::size_t count;
-  std::size_t capacity;
+  std::size_t count, capacity;
 };
 
 void Append(Numbers* numbers, double number) {
@@ -30,11 +32,8 @@ struct DrawObject {
   Numbers coordinates;
 };
 struct GeometryText {
-  Text layer, text;
-  double x, y, size;
-  Text justification;
-  double angle, value8, value9;
-  Text value10;
+  Text layer, text, justification, font;
+  double position[3], values[3];
 };
 struct Outline {
   Text name;
@@ -49,7 +48,8 @@ struct Layer {
   Text values[8];
   int valueCount;
 };
-/// A board, a component or a pin: each uses the members that it needs.
+/// A board, a component or a pin: each uses the members that it needs. The stack-up has a name and units
+/// only.
 struct Geometry {
   Text name, units;
   List<DrawObject> drawObjects;
@@ -61,13 +61,9 @@ struct Geometry {
   Text layoutType;
   List<PinDefinition> pinDefinitions;
 };
-struct Stackup {
-  Text name, units;
-  List<Layer> layers;
-};
 struct Model {
-  Geometry board;
-  Stackup stackup;
+  Geometry board, stackup;
+  List<Layer> layers;
   List<Geometry> components, pins;
 };
 
@@ -75,7 +71,7 @@ constexpr int kMostFields = 4096;
 
 struct Reader {
   Model* model;
-  Geometry* geometry;  // null while the stack-up is open
+  Geometry* geometry;
   Numbers pending;
   char* fields[kMostFields];  // of the current line
   int count;
@@ -108,7 +104,7 @@ double Bracketed(const char* field) { return atof(*field == '[' ? field + 1 : fi
 void ReadPoints(Reader* reader, int first, Numbers* numbers) {
   for (int i = first; i < reader->count; ++i) Append(numbers, Bracketed(reader->fields[i]));
   if (first < reader->count) return;
-  for (std::size_t i = 0; i < reader->pending.count; ++i) Append(numbers, reader->pending.items[i]);
+  for (const double number : reader->pending) Append(numbers, number);
   reader->pending.count = 0;
 }
 
@@ -126,37 +122,27 @@ void ReadPinDefinition(Reader* reader) {
 }
 
 void ReadLayer(Reader* reader) {
-  Layer* layer = Append(&reader->model->stackup.layers);
+  Layer* layer = Append(&reader->model->layers);
   Keep(layer->definition, reader->fields[0]);
   for (int i = 1; i < reader->count && i <= 8; ++i)
     Keep(layer->values[layer->valueCount++], reader->fields[i]);
 }
 
+bool Is(const char* word, const char* name) { return strcmp(word, name) == 0; }
+
 void ReadAttribute(Reader* reader) {
+  Geometry* geometry = reader->geometry;
   const char* name = reader->fields[0];
-  if (reader->geometry == nullptr) {
-    if (strstr(name, "LAYER_DEFINITION") != nullptr) ReadLayer(reader);
-    return;
-  }
-  if (strcmp(name, "COMPONENT_PIN_DEFINITION") == 0) {
-    if (reader->count >= 4) ReadPinDefinition(reader);
-  } else if (strcmp(name, "COMPONENT_HEIGHT") == 0) {
-    reader->geometry->height = Bracketed(reader->fields[1]);
-  } else if (strcmp(name, "COMPONENT_LAYOUT_TYPE") == 0) {
-    Keep(reader->geometry->layoutType, reader->fields[1]);
-  } else if (strcmp(name, "COMPONENT_PLACEMENT_OUTLINE") == 0) {
-    ReadOutline(reader, &reader->geometry->placementOutlines);
-  } else if (strcmp(name, "TERMINAL_DRILL_SIZE") == 0) {
-    reader->geometry->drillSize = Bracketed(reader->fields[1]);
-  } else if (strcmp(name, "ROUTING_KEEPOUT") == 0) {
-    ReadOutline(reader, &reader->geometry->keepouts);
-  } else if (strcmp(name, "BOARD_ROUTING_LAYERS") == 0) {
-    reader->geometry->routingLayers = atoi(reader->fields[1] + 1);
-  } else if (strcmp(name, "BOARD_PLACEMENT_OUTLINE") == 0) {
-    ReadPoints(reader, 1, &reader->geometry->placementOutline);
-  } else if (strcmp(name, "BOARD_ROUTING_OUTLINE") == 0) {
-    ReadPoints(reader, 1, &reader->geometry->routingOutline);
-  }
+  if (Is(name, "COMPONENT_PIN_DEFINITION") && reader->count >= 4) return ReadPinDefinition(reader);
+  if (Is(name, "COMPONENT_HEIGHT")) geometry->height = Bracketed(reader->fields[1]);
+  if (Is(name, "COMPONENT_LAYOUT_TYPE")) return Keep(geometry->layoutType, reader->fields[1]);
+  if (Is(name, "COMPONENT_PLACEMENT_OUTLINE")) return ReadOutline(reader, &geometry->placementOutlines);
+  if (Is(name, "TERMINAL_DRILL_SIZE")) geometry->drillSize = Bracketed(reader->fields[1]);
+  if (Is(name, "ROUTING_KEEPOUT")) return ReadOutline(reader, &geometry->keepouts);
+  if (Is(name, "BOARD_ROUTING_LAYERS")) geometry->routingLayers = atoi(reader->fields[1] + 1);
+  if (Is(name, "BOARD_PLACEMENT_OUTLINE")) return ReadPoints(reader, 1, &geometry->placementOutline);
+  if (Is(name, "BOARD_ROUTING_OUTLINE")) return ReadPoints(reader, 1, &geometry->routingOutline);
+  if (strstr(name, "LAYER_DEFINITION") != nullptr) return ReadLayer(reader);
 }
 
 DrawObject* AddDrawObject(Reader* reader, DrawObjectType type) {
@@ -172,10 +158,7 @@ void ReadPath(Reader* reader) {
   ReadPoints(reader, 2, &path->coordinates);
 }
 
-void ReadPolygon(Reader* reader) {
-  DrawObject* polygon = AddDrawObject(reader, kPolygon);
-  ReadPoints(reader, 1, &polygon->coordinates);
-}
+void ReadPolygon(Reader* reader) { ReadPoints(reader, 1, &AddDrawObject(reader, kPolygon)->coordinates); }
 
 void ReadCircle(Reader* reader) {
   DrawObject* circle = AddDrawObject(reader, kCircle);
@@ -187,7 +170,7 @@ void ReadArc(Reader* reader) {
   DrawObject* arc = AddDrawObject(reader, kArc);
   for (int i = 0; i < 6; ++i) arc->points[i] = atof(reader->fields[i + 1]);
   arc->width = atof(reader->fields[7]);
-  arc->mode = strcmp(reader->fields[8], "@center") == 0 ? 2 : 1;
+  arc->mode = Is(reader->fields[8], "@center") ? 2 : 1;
 }
 
 void ReadText(Reader* reader) {
@@ -195,33 +178,22 @@ void ReadText(Reader* reader) {
   GeometryText* text = Append(&reader->geometry->texts);
   Keep(text->layer, reader->fields[0]);
   Keep(text->text, reader->fields[1]);
-  text->x = atof(reader->fields[2]);
-  text->y = atof(reader->fields[3]);
-  text->size = atof(reader->fields[4]);
   Keep(text->justification, reader->fields[5]);
-  text->angle = atoi(reader->fields[6]);
-  text->value8 = atof(reader->fields[7]);
-  text->value9 = atof(reader->fields[8]);
-  Keep(text->value10, reader->fields[9]);
+  for (int i = 0; i < 3; ++i) text->position[i] = atof(reader->fields[2 + i]);
+  for (int i = 0; i < 3; ++i) text->values[i] = atof(reader->fields[6 + i]);
+  Keep(text->font, reader->fields[9]);
 }
 
 void ReadPage(Reader* reader) {
   char* units = reader->fields[reader->count - 1] + 1;
   for (char* c = units; *c != '\0'; ++c) *c = static_cast<char>(toupper(static_cast<unsigned char>(*c)));
-  Keep(reader->geometry == nullptr ? reader->model->stackup.units : reader->geometry->units, units);
+  Keep(reader->geometry->units, units);
 }
 
 void Open(Reader* reader, Geometry* geometry) {
   reader->geometry = geometry;
   Keep(geometry->name, reader->fields[0]);
 }
-
-void OpenStackup(Reader* reader) {
-  reader->geometry = nullptr;
-  Keep(reader->model->stackup.name, reader->fields[0]);
-}
-
-bool Is(const char* word, const char* name) { return strcmp(word, name) == 0; }
 
 /// The chain begins with what is most frequent.
 void ReadLine(Reader* reader, char* line) {
@@ -236,11 +208,10 @@ void ReadLine(Reader* reader, char* line) {
   if (Is(line, "$$create_component")) return Open(reader, Append(&reader->model->components));
   if (Is(line, "$$create_pin")) return Open(reader, Append(&reader->model->pins));
   if (Is(line, "$$create_board")) return Open(reader, &reader->model->board);
-  if (Is(line, "$$create_stackup")) return OpenStackup(reader);
+  if (Is(line, "$$create_stackup")) return Open(reader, &reader->model->stackup);
   if (Is(line, "$$page")) return ReadPage(reader);
   if (Is(line, "$$initial")) reader->pending.count = 0;
   if (Is(line, "$$initial") || Is(line, "$$terminal")) return ReadPoints(reader, 0, &reader->pending);
-  if (reader->geometry == nullptr) return;
   if (Is(line, "$$path")) return ReadPath(reader);
   if (Is(line, "$$polygon")) return ReadPolygon(reader);
   if (Is(line, "$$circle")) return ReadCircle(reader);
@@ -248,40 +219,24 @@ void ReadLine(Reader* reader, char* line) {
   if (Is(line, "$$text")) return ReadText(reader);
 }
 
-void Add(Tally* tally, const Numbers& numbers) {
-  for (std::size_t i = 0; i < numbers.count; ++i) tally->coordinates += numbers.items[i];
-}
-
-void Add(Tally* tally, const Geometry& geometry) {
-  tally->records += 1 + geometry.drawObjects.count + geometry.texts.count + geometry.keepouts.count +
-                    geometry.placementOutlines.count + geometry.pinDefinitions.count;
-  tally->characters += strlen(geometry.name) + strlen(geometry.units);
-  for (std::size_t i = 0; i < geometry.drawObjects.count; ++i) {
-    const DrawObject* object = geometry.drawObjects.items[i];
-    tally->characters += strlen(object->layer);
-    tally->coordinates += object->width;
-    Add(tally, object->coordinates);
-    for (const double point : object->points) tally->coordinates += point;
-  }
-  for (std::size_t i = 0; i < geometry.pinDefinitions.count; ++i) {
-    tally->characters += strlen(geometry.pinDefinitions.items[i]->name);
-    tally->coordinates += geometry.pinDefinitions.items[i]->x;
-    tally->coordinates += geometry.pinDefinitions.items[i]->y;
-  }
-  for (std::size_t i = 0; i < geometry.placementOutlines.count; ++i) {
-    Add(tally, geometry.placementOutlines.items[i]->coordinates);
-  }
-}
-
 struct BuiltGeometry final : Built {
   [[nodiscard]] Tally Count() const override {
     Tally tally;
-    tally.records = model.stackup.layers.count;
+    tally.records = model.layers.count;
     Add(&tally, model.board);
-    Add(&tally, model.board.placementOutline);
-    for (std::size_t i = 0; i < model.pins.count; ++i) Add(&tally, *model.pins.items[i]);
-    for (std::size_t i = 0; i < model.components.count; ++i) Add(&tally, *model.components.items[i]);
+    for (const Geometry* pin : model.pins) Add(&tally, *pin);
+    for (const Geometry* component : model.components) Add(&tally, *component);
     return tally;
+  }
+
+  static void Add(Tally* tally, const Geometry& geometry) {
+    tally->records += 1 + geometry.drawObjects.count + geometry.texts.count + geometry.keepouts.count +
+                      geometry.placementOutlines.count + geometry.pinDefinitions.count;
+    for (const DrawObject* object : geometry.drawObjects) {
+      for (const double number : object->coordinates) tally->coordinates += number;
+      for (const double number : object->points) tally->coordinates += number;
+    }
+    for (const PinDefinition* pin : geometry.pinDefinitions) tally->coordinates += pin->x + pin->y;
   }
 
   Model model{};
@@ -294,6 +249,7 @@ std::unique_ptr<Built> ReadGeometry(const Input& input) {
   auto built = std::make_unique<BuiltGeometry>();
   reader = {};
   reader.model = &built->model;
+  reader.geometry = &built->model.board;
   ForEachLine(input.path.c_str(), [&](char* line) { ReadLine(&reader, line); });
   return built;
 }

@@ -4,87 +4,61 @@ namespace kestrin::bench::plain_c {
 namespace {
 
 struct Xrf {
-  int value1;
-  Text value2;
+  int number;
+  Text name;
 };
 struct Ttt {
-  int value1;
-  double value2;
-  int value3, value4, value5;
+  double values[5];
 };
 struct Segment {
-  double x, y;
-  int value3;
-  double value4;
-  Text value4Text, value5;
+  double x, y, layer, width;
+  Text padstack, value5;
 };
+/// A wire, an antenna or an incomplete connection.
 struct Wire {
-  int value1;
-  double value2, value3, value4, value5;
-  List<Segment> segments;
-};
-struct Incomplete {
-  int value1;
-  double value2, value3;
-  int value4;
-  double value5, value6;
-  int value7;
+  double values[7];
   List<Segment> segments;
 };
 struct Guide {
-  double value1, value2;
-  int value3;
-  double value4, value5;
-  int value6;
+  double values[6];
 };
 struct Net {
   Text name;
-  List<Wire> wires, antennas;
-  List<Incomplete> incompletes;
+  List<Wire> wires, antennas, incompletes;
   List<Guide> guides;
 };
 struct Vertex {
   double x, y;
 };
 struct Tie {
-  Text name1, name2;
-  double value1, value2;
-  Text value3;
+  Text names[2], type;
+  double values[2];
 };
 struct Area {
-  Text name1, name2, value3;
-  int value4;
-  double value5;
-  int value6;
+  Text names[2], type;
+  double values[3];
   List<Vertex> vertices;
 };
 struct Island {
-  int value1;
+  int number;
   List<Vertex> vertices;
 };
 struct Fill {
-  Text name1, name2, value3;
-  int value4, value5, value6, value7, value8;
-  double value9;
-  int value10, value11, value12;
-  Text tail1, tail2, tail3;
+  Text names[2], type, tail[3];
+  double values[9];
   List<Vertex> vertices;
   List<Area> areas;
   List<Island> islands;
   List<Tie> ties;
 };
-
 struct Traces {
   Text units;
-  double st1, st2;
-  int st3, st4;
+  double st[4];
   List<Xrf> xrfs;
   List<Ttt> ttts;
   List<Net> nets;
   List<Fill> fills;
 };
-
-constexpr int kMostValues = 32;
 
 /// Where the records that follow belong.
 struct Reader {
@@ -95,217 +69,142 @@ struct Reader {
   List<Vertex>* vertices;
 };
 
-void ReadVertex(Reader* reader, char** values) {
-  Vertex* vertex = Append(reader->vertices);
-  vertex->x = atof(values[1]);
-  vertex->y = atof(values[2]);
+/// Keeps a text without the apostrophes around it.
+void KeepUnquoted(Text& room, const char* text) {
+  Keep(room, *text == '\'' ? text + 1 : text);
+  const std::size_t length = strlen(room);
+  if (length > 0 && room[length - 1] == '\'') room[length - 1] = '\0';
 }
 
-void ReadSegment(Reader* reader, char** values, int count) {
+void Convert(double* numbers, char** values, int count) {
+  for (int i = 0; i < count; ++i) numbers[i] = atof(values[i]);
+}
+
+void ReadVertex(Reader* reader, char** v) { *Append(reader->vertices) = {atof(v[1]), atof(v[2])}; }
+
+void ReadSegment(Reader* reader, char** v) {
   Segment* segment = Append(reader->segments);
-  segment->x = atof(values[1]);
-  segment->y = atof(values[2]);
-  segment->value3 = atoi(values[3]);
-  segment->value4 = -1.0;
-  if (strspn(values[4], "0123456789") == strlen(values[4])) {
-    segment->value4 = atof(values[4]);
+  segment->x = atof(v[1]);
+  segment->y = atof(v[2]);
+  segment->layer = atoi(v[3]);
+  segment->width = -1.0;
+  if (strspn(v[4], "0123456789") == strlen(v[4])) {
+    segment->width = atof(v[4]);
   } else {
-    Keep(segment->value4Text, values[4]);
+    Keep(segment->padstack, v[4]);
   }
-  if (count >= 5) Keep(segment->value5, values[5]);
+  if (v[5] != nullptr) Keep(segment->value5, v[5]);
 }
 
-void ReadWire(Reader* reader, List<Wire>* list, char** values) {
+void AppendWire(Reader* reader, List<Wire>* list, char** v, int count) {
   Wire* wire = Append(list);
-  wire->value1 = atoi(values[1]);
-  wire->value2 = atof(values[2]);
-  wire->value3 = atof(values[3]);
-  wire->value4 = atof(values[4]);
-  wire->value5 = atof(values[5]);
+  Convert(wire->values, v + 1, count);
   reader->segments = &wire->segments;
 }
+void ReadWire(Reader* reader, char** v) { AppendWire(reader, &reader->net->wires, v, 5); }
+void ReadAntenna(Reader* reader, char** v) { AppendWire(reader, &reader->net->antennas, v, 5); }
+void ReadIncomplete(Reader* reader, char** v) { AppendWire(reader, &reader->net->incompletes, v, 7); }
+void ReadGuide(Reader* reader, char** v) { Convert(Append(&reader->net->guides)->values, v + 1, 6); }
 
-void ReadIncomplete(Reader* reader, char** values) {
-  Incomplete* incomplete = Append(&reader->net->incompletes);
-  incomplete->value1 = atoi(values[1]);
-  incomplete->value2 = atof(values[2]);
-  incomplete->value3 = atof(values[3]);
-  incomplete->value4 = atoi(values[4]);
-  incomplete->value5 = atof(values[5]);
-  incomplete->value6 = atof(values[6]);
-  incomplete->value7 = static_cast<int>(atof(values[7]));
-  reader->segments = &incomplete->segments;
-}
-
-void ReadGuide(Reader* reader, char** values) {
-  Guide* guide = Append(&reader->net->guides);
-  guide->value1 = atof(values[1]);
-  guide->value2 = atof(values[2]);
-  guide->value3 = atoi(values[3]);
-  guide->value4 = atof(values[4]);
-  guide->value5 = atof(values[5]);
-  guide->value6 = atoi(values[6]);
-}
-
-void ReadFill(Reader* reader, char** values) {
+void ReadFill(Reader* reader, char** v) {
   Fill* fill = Append(&reader->traces->fills);
-  KeepUnquoted(fill->name1, values[1], '\'');
-  KeepUnquoted(fill->name2, values[2], '\'');
-  Keep(fill->value3, values[3]);
-  fill->value4 = atoi(values[4]);
-  fill->value5 = atoi(values[5]);
-  fill->value6 = atoi(values[6]);
-  fill->value7 = atoi(values[7]);
-  fill->value8 = atoi(values[8]);
-  fill->value9 = atof(values[9]);
-  fill->value10 = atoi(values[10]);
-  fill->value11 = atoi(values[11]);
-  fill->value12 = atoi(values[12]);
-  Keep(fill->tail1, values[14]);
-  Keep(fill->tail2, values[15]);
-  Keep(fill->tail3, values[16]);
+  for (int i = 0; i < 2; ++i) KeepUnquoted(fill->names[i], v[1 + i]);
+  Keep(fill->type, v[3]);
+  Convert(fill->values, v + 4, 9);
+  for (int i = 0; i < 3; ++i) Keep(fill->tail[i], v[14 + i]);
   reader->fill = fill;
   reader->vertices = &fill->vertices;
 }
 
-void ReadArea(Reader* reader, char** values) {
+void ReadArea(Reader* reader, char** v) {
   Area* area = Append(&reader->fill->areas);
-  KeepUnquoted(area->name1, values[1], '\'');
-  KeepUnquoted(area->name2, values[2], '\'');
-  Keep(area->value3, values[3]);
-  area->value4 = atoi(values[4]);
-  area->value5 = atof(values[5]);
-  area->value6 = atoi(values[6]);
+  for (int i = 0; i < 2; ++i) KeepUnquoted(area->names[i], v[1 + i]);
+  Keep(area->type, v[3]);
+  Convert(area->values, v + 4, 3);
   reader->vertices = &area->vertices;
 }
 
-void ReadIsland(Reader* reader, char** values) {
+void ReadIsland(Reader* reader, char** v) {
   Island* island = Append(&reader->fill->islands);
-  island->value1 = atoi(values[1]);
+  island->number = atoi(v[1]);
   reader->vertices = &island->vertices;
 }
 
-void ReadTie(Reader* reader, char** values) {
+void ReadTie(Reader* reader, char** v) {
   Tie* tie = Append(&reader->fill->ties);
-  Keep(tie->name1, reader->fill->name1);
-  Keep(tie->name2, reader->fill->name2);
-  tie->value1 = atof(values[1]);
-  tie->value2 = atof(values[2]);
-  Keep(tie->value3, values[3]);
+  for (int i = 0; i < 2; ++i) Keep(tie->names[i], reader->fill->names[i]);
+  Convert(tie->values, v + 1, 2);
+  Keep(tie->type, v[3]);
 }
 
-void ReadNet(Reader* reader, char** values) {
+void ReadNet(Reader* reader, char** v) {
+  if (strcmp(v[1], "NET") != 0) return;  // a comment
   reader->net = Append(&reader->traces->nets);
-  KeepUnquoted(reader->net->name, values[2], '\'');
-  reader->fill = nullptr;
+  KeepUnquoted(reader->net->name, v[2]);
 }
 
-void ReadXrf(Reader* reader, char** values) {
+void ReadXrf(Reader* reader, char** v) {
   Xrf* xrf = Append(&reader->traces->xrfs);
-  xrf->value1 = atoi(values[1]);
-  Keep(xrf->value2, values[2]);
+  xrf->number = atoi(v[1]);
+  Keep(xrf->name, v[2]);
 }
 
-void ReadTtt(Reader* reader, char** values) {
-  Ttt* ttt = Append(&reader->traces->ttts);
-  ttt->value1 = atoi(values[1]);
-  ttt->value2 = atof(values[2]);
-  ttt->value3 = atoi(values[3]);
-  ttt->value4 = atoi(values[4]);
-  ttt->value5 = atoi(values[5]);
-}
+void ReadTtt(Reader* reader, char** v) { Convert(Append(&reader->traces->ttts)->values, v + 1, 5); }
+void ReadUnits(Reader* reader, char** v) { Keep(reader->traces->units, v[1]); }
+void ReadSt(Reader* reader, char** v) { Convert(reader->traces->st, v + 1, 4); }
 
-void ReadSt(Traces* traces, char** values) {
-  traces->st1 = atof(values[1]);
-  traces->st2 = atof(values[2]);
-  traces->st3 = atoi(values[3]);
-  traces->st4 = atoi(values[4]);
-}
+constexpr struct Row {
+  const char* code;
+  int least;  // values after the code
+  void (*read)(Reader* reader, char** values);
+} kRows[] = {
+    // what is most frequent comes first
+    {"VER", 2, ReadVertex}, {"SEG", 4, ReadSegment}, {"WIR", 5, ReadWire},  {"ISL", 1, ReadIsland},
+    {"#", 2, ReadNet},      {"ANT", 5, ReadAntenna}, {"GUI", 6, ReadGuide}, {"INC", 7, ReadIncomplete},
+    {"FIL", 16, ReadFill},  {"ARE", 6, ReadArea},    {"TTI", 3, ReadTie},   {"XRF", 2, ReadXrf},
+    {"TTT", 5, ReadTtt},    {"UNITS", 1, ReadUnits}, {"ST", 4, ReadSt},
+};
 
-bool Is(const char* code, const char* name) { return strcmp(code, name) == 0; }
-
-/// Counts are those behind the code. The chain begins with what is most frequent.
+/// The value after the last one is null.
 void ReadLine(Reader* reader, char* line) {
-  char* values[kMostValues];
-  const int count = Cut(line, " \r\n", values, kMostValues) - 1;
-  if (count < 1) return;
-  const char* code = values[0];
-  if (Is(code, "VER")) {
-    if (count >= 2 && reader->vertices != nullptr) ReadVertex(reader, values);
-  } else if (Is(code, "SEG")) {
-    if (count >= 4 && reader->segments != nullptr) ReadSegment(reader, values, count);
-  } else if (Is(code, "WIR")) {
-    if (count >= 5 && reader->net != nullptr) ReadWire(reader, &reader->net->wires, values);
-  } else if (Is(code, "ISL")) {
-    if (reader->fill != nullptr) ReadIsland(reader, values);
-  } else if (Is(code, "#")) {
-    if (count >= 2 && Is(values[1], "NET")) ReadNet(reader, values);
-  } else if (Is(code, "INC")) {
-    if (count == 7 && reader->net != nullptr) ReadIncomplete(reader, values);
-  } else if (Is(code, "ANT")) {
-    if (count == 5 && reader->net != nullptr) ReadWire(reader, &reader->net->antennas, values);
-  } else if (Is(code, "GUI")) {
-    if (count >= 6 && reader->net != nullptr) ReadGuide(reader, values);
-  } else if (Is(code, "FIL")) {
-    if (count == 16) ReadFill(reader, values);
-  } else if (Is(code, "ARE")) {
-    if (count == 6 && reader->fill != nullptr) ReadArea(reader, values);
-  } else if (Is(code, "TTI")) {
-    if (count == 3 && reader->fill != nullptr) ReadTie(reader, values);
-  } else if (Is(code, "XRF")) {
-    if (count >= 2) ReadXrf(reader, values);
-  } else if (Is(code, "TTT")) {
-    if (count >= 5) ReadTtt(reader, values);
-  } else if (Is(code, "UNITS")) {
-    Keep(reader->traces->units, values[1]);
-  } else if (Is(code, "ST")) {
-    if (count == 4) ReadSt(reader->traces, values);
+  constexpr int kMostValues = 32;
+  char* values[kMostValues + 1];
+  int count = 0;
+  for (char* v = strtok(line, " \r\n"); v != nullptr && count < kMostValues; v = strtok(nullptr, " \r\n")) {
+    values[count++] = v;
   }
-}
-
-void Add(Tally* tally, const List<Segment>& segments) {
-  tally->records += 1 + segments.count;
-  for (std::size_t i = 0; i < segments.count; ++i) {
-    const Segment* segment = segments.items[i];
-    tally->coordinates += segment->x;
-    tally->coordinates += segment->y;
-    tally->characters += strlen(segment->value4Text) + strlen(segment->value5);
+  values[count] = nullptr;
+  for (const Row& row : kRows) {
+    if (count == 0 || strcmp(values[0], row.code) != 0) continue;
+    if (count > row.least) row.read(reader, values);
+    return;
   }
-}
-
-void Add(Tally* tally, const List<Vertex>& vertices) {
-  tally->records += 1 + vertices.count;
-  for (std::size_t i = 0; i < vertices.count; ++i) {
-    tally->coordinates += vertices.items[i]->x;
-    tally->coordinates += vertices.items[i]->y;
-  }
-}
-
-template <class RECORD, class MEMBER>
-void AddAll(Tally* tally, const List<RECORD>& list, MEMBER member) {
-  for (std::size_t i = 0; i < list.count; ++i) Add(tally, list.items[i]->*member);
 }
 
 struct BuiltTraces final : Built {
   [[nodiscard]] Tally Count() const override {
     Tally tally;
     tally.records = traces.xrfs.count + traces.ttts.count + traces.nets.count;
-    for (std::size_t i = 0; i < traces.nets.count; ++i) {
-      const Net* net = traces.nets.items[i];
-      tally.characters += strlen(net->name);
+    for (const Net* net : traces.nets) {
       tally.records += net->guides.count;
-      AddAll(&tally, net->wires, &Wire::segments);
-      AddAll(&tally, net->incompletes, &Incomplete::segments);
-      AddAll(&tally, net->antennas, &Wire::segments);
+      for (const List<Wire>& wires : {net->wires, net->incompletes, net->antennas}) {
+        for (const Wire* wire : wires) Add(&tally, wire->segments);
+      }
     }
-    for (std::size_t i = 0; i < traces.fills.count; ++i) {
-      const Fill* fill = traces.fills.items[i];
+    for (const Fill* fill : traces.fills) {
       tally.records += fill->ties.count;
       Add(&tally, fill->vertices);
-      AddAll(&tally, fill->areas, &Area::vertices);
-      AddAll(&tally, fill->islands, &Island::vertices);
+      for (const Area* area : fill->areas) Add(&tally, area->vertices);
+      for (const Island* island : fill->islands) Add(&tally, island->vertices);
     }
     return tally;
+  }
+
+  /// Of something with points: it and them.
+  template <class Point>
+  static void Add(Tally* tally, const List<Point>& points) {
+    tally->records += 1 + points.count;
+    for (const Point* point : points) tally->coordinates += point->x + point->y;
   }
 
   Traces traces{};
@@ -314,8 +213,12 @@ struct BuiltTraces final : Built {
 }  // namespace
 
 std::unique_ptr<Built> ReadTraces(const Input& input) {
+  // Records without an owner go where nobody counts them.
+  Net net{};
+  Fill fill{};
+  List<Segment> segments{};
   auto built = std::make_unique<BuiltTraces>();
-  Reader reader{&built->traces, nullptr, nullptr, nullptr, nullptr};
+  Reader reader{&built->traces, &net, &fill, &segments, &fill.vertices};
   ForEachLine(input.path.c_str(), [&](char* line) { ReadLine(&reader, line); });
   return built;
 }

@@ -1,9 +1,14 @@
-#include "bench/kestrin_works.h"
+#pragma once
 
-#include <algorithm>
+/// @file
+/// The product's own readers as works.
+
 #include <cstring>
 #include <stdexcept>
+#include <string_view>
 
+#include "bench/measuring/work.h"
+#include "bench/tallies.h"
 #include "kestrin/geom/geom_reader.h"
 #include "kestrin/neutral/neutral_reader.h"
 #include "kestrin/platform/stdio_file.h"
@@ -11,9 +16,9 @@
 #include "kestrin/tech/tech_reader.h"
 #include "kestrin/traces/strict/strict_parser.h"
 #include "kestrin/traces/traces_reader.h"
+#include "support/source_of.h"
 
 namespace kestrin::bench {
-namespace {
 
 struct BuiltTraces final : Built {
   [[nodiscard]] TracesReader Reader() { return TracesReader(traces); }
@@ -31,7 +36,6 @@ struct BuiltGeometry final : Built {
 
 struct BuiltNeutral final : Built {
   [[nodiscard]] NeutralReader Reader() { return {components, nets, selection}; }
-  [[nodiscard]] Tally Count() const override { return CountNeutral(components, nets); }
 
   CMComps components;
   CMNetList nets;
@@ -40,7 +44,6 @@ struct BuiltNeutral final : Built {
 
 struct BuiltTech final : Built {
   [[nodiscard]] TechReader Reader() { return TechReader(tech); }
-  [[nodiscard]] Tally Count() const override { return CountTech(tech); }
 
   CMTech tech;
 };
@@ -52,24 +55,20 @@ struct BuiltStrictly final : Built {
 };
 
 struct BuiltBoard final : Built {
-  [[nodiscard]] Tally Count() const override {
-    Tally sum;
-    for (const Tally& tally :
-         {CountTech(*session.GetTech()), CountGeometry(*session.GetGeom()),
-          CountNeutral(*session.GetComps(), *session.GetNetList()), CountTraces(*session.GetTraces())}) {
-      sum.records += tally.records;
-      sum.characters += tally.characters;
-      sum.coordinates += tally.coordinates;
-    }
-    return sum;
+  explicit BuiltBoard(const std::string& folder) {
+    session.vSetTechFilePath(folder + "/board.tech");
+    session.vSetNeutralFilePath(folder + "/board.neutral");
+    session.vSetGeomFilePath(folder + "/board.geometry");
+    session.vSetTraceFilePath(folder + "/board.traces");
   }
 
   CPC_KESTRIN_GET session;
 };
 
-template <class BUILT>
+/// A reader, fed from memory.
+template <class Model>
 std::unique_ptr<Built> ReadFromMemory(const Input& input) {
-  auto built = std::make_unique<BUILT>();
+  auto built = std::make_unique<Model>();
   auto reader = built->Reader();
   const char* position = input.bytes.data();
   const char* const end = position + input.bytes.size();
@@ -82,9 +81,10 @@ std::unique_ptr<Built> ReadFromMemory(const Input& input) {
   return built;
 }
 
-template <class BUILT>
+/// A reader, fed from its file.
+template <class Model>
 std::unique_ptr<Built> ReadFromFile(const Input& input) {
-  auto built = std::make_unique<BUILT>();
+  auto built = std::make_unique<Model>();
   auto reader = built->Reader();
   CStdioFile file;
   if (file.Open(input.path.c_str()) == 0) throw std::runtime_error("no file");
@@ -92,55 +92,29 @@ std::unique_ptr<Built> ReadFromFile(const Input& input) {
   return built;
 }
 
-void SetPaths(CPC_KESTRIN_GET& session, const std::string& folder) {
-  session.vSetTechFilePath(folder + "/board.tech");
-  session.vSetNeutralFilePath(folder + "/board.neutral");
-  session.vSetGeomFilePath(folder + "/board.geometry");
-  session.vSetTraceFilePath(folder + "/board.traces");
-}
-
-}  // namespace
-
-std::unique_ptr<Built> ReadTracesFromMemory(const Input& input) { return ReadFromMemory<BuiltTraces>(input); }
-std::unique_ptr<Built> ReadTracesFromFile(const Input& input) { return ReadFromFile<BuiltTraces>(input); }
-std::unique_ptr<Built> ReadGeometryFromMemory(const Input& input) {
-  return ReadFromMemory<BuiltGeometry>(input);
-}
-std::unique_ptr<Built> ReadGeometryFromFile(const Input& input) { return ReadFromFile<BuiltGeometry>(input); }
-std::unique_ptr<Built> ReadNeutralFromMemory(const Input& input) {
-  return ReadFromMemory<BuiltNeutral>(input);
-}
-std::unique_ptr<Built> ReadNeutralFromFile(const Input& input) { return ReadFromFile<BuiltNeutral>(input); }
-std::unique_ptr<Built> ReadTechFromMemory(const Input& input) { return ReadFromMemory<BuiltTech>(input); }
-std::unique_ptr<Built> ReadTechFromFile(const Input& input) { return ReadFromFile<BuiltTech>(input); }
-
-std::unique_ptr<Built> ReadTracesStrictly(const Input& input) {
+/// The strict reader of the Traces file.
+inline std::unique_ptr<Built> ReadTracesStrictly(const Input& input) {
   auto built = std::make_unique<BuiltStrictly>();
-  std::string_view rest = input.bytes;
-  built->parse = ParseStrictly([&](char* bytes, std::size_t size) {
-    const std::size_t count = rest.copy(bytes, size);
-    rest.remove_prefix(count);
-    return count;
-  });
+  built->parse = ParseStrictly(test::SourceOf(input.bytes, input.bytes.size()));
   return built;
 }
 
-std::unique_ptr<Built> ImportBoard(const Input& input) {
-  auto built = std::make_unique<BuiltBoard>();
-  SetPaths(built->session, input.path);
+/// A session's import of the board in a folder, without a dialog.
+inline std::unique_ptr<Built> ImportBoard(const Input& input) {
+  auto built = std::make_unique<BuiltBoard>(input.path);
   built->session.vParse();
   return built;
 }
 
-std::unique_ptr<Built> ImportBoardWithDialog(const Input& input) {
+/// The same with a dialog that shows progress.
+inline std::unique_ptr<Built> ImportBoardWithDialog(const Input& input) {
   const CWnd dialog;
   CWnd status(&dialog);
   CProgressCtrl geometry(&dialog);
   CProgressCtrl neutral(&dialog);
   CProgressCtrl traces(&dialog);
   CProgressCtrl tech(&dialog);
-  auto built = std::make_unique<BuiltBoard>();
-  SetPaths(built->session, input.path);
+  auto built = std::make_unique<BuiltBoard>(input.path);
   built->session.m_pStatusWnd = &status;
   built->session.SetProgressPtr(&geometry, &neutral, &traces, &tech);
   built->session.vParse();

@@ -1,0 +1,15 @@
+#pragma once
+
+/// @file
+/// What the models hold, counted as the plain readers count theirs.
+
+#include "bench/measuring/work.h"
+#include "kestrin/geom/geom_model.h"
+#include "kestrin/traces/traces_model.h"
+
+namespace kestrin::bench {
+
+[[nodiscard]] Tally CountTraces(const CMTraces& traces);
+[[nodiscard]] Tally CountGeometry(const CMGeom& geom);
+
+}  // namespace kestrin::bench
