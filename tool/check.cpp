@@ -6,11 +6,11 @@
 #include <string>
 #include <vector>
 
+#include "tool/exit_status.h"
 #include "tool/import.h"
 #include "tool/json_writer.h"
 #include "tool/output.h"
 #include "tool/readable_text.h"
-#include "tool/usage_error.h"
 
 namespace kestrin::tool {
 namespace {

@@ -1,9 +1,9 @@
 #include "tool/dump.h"
 
+#include "tool/exit_status.h"
 #include "tool/import.h"
 #include "tool/model_json.h"
 #include "tool/output.h"
-#include "tool/usage_error.h"
 
 namespace kestrin::tool {
 namespace {

@@ -5,6 +5,7 @@
 #include "kestrin/version.h"
 #include "tool/check.h"
 #include "tool/dump.h"
+#include "tool/exit_status.h"
 #include "tool/export_set.h"
 #include "tool/output.h"
 #include "tool/summary.h"

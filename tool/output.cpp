@@ -2,8 +2,8 @@
 
 #include <cstdio>
 
+#include "tool/exit_status.h"
 #include "tool/readable_text.h"
-#include "tool/usage_error.h"
 
 namespace kestrin::tool {
 

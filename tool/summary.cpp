@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <string>
 
+#include "tool/exit_status.h"
 #include "tool/geom_summary.h"
 #include "tool/import.h"
 #include "tool/neutral_summary.h"
@@ -11,7 +12,6 @@
 #include "tool/tech_summary.h"
 #include "tool/text_table.h"
 #include "tool/traces_summary.h"
-#include "tool/usage_error.h"
 
 namespace kestrin::tool {
 namespace {

@@ -13,6 +13,4 @@ class UsageError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-enum ExitStatus : int { kSuccess = 0, kIncomplete = 1, kUnusable = 2 };
-
 }  // namespace kestrin::tool

@@ -16,8 +16,6 @@
 
 namespace kestrin {
 
-struct Reading;
-
 /// The files of an export set, in the order in which they are read.
 enum class ImportFile : std::uint8_t { kTech, kNeutral, kGeometry, kTraces };
 /// How many they are.
@@ -63,20 +61,18 @@ class FileReport {
     return skipped_[static_cast<std::size_t>(code)];
   }
 
+  /// Counts the line that was read last. Readers' loops call it; a host need not.
+  void CountLine(LineOutcome outcome, std::string_view line) {
+    ++counts_[static_cast<std::size_t>(outcome.GetKind())];
+    if (outcome.GetKind() == LineOutcome::Kind::kSkipped) CountSkipped(outcome, line);
+  }
+
   std::string path;                       ///< as it was given
   ReadingEnd end = ReadingEnd::kNotRead;  ///< how far the reading came
   std::int64_t linesRead = 0;             ///< the number of the last line read
   std::chrono::nanoseconds duration{};    ///< of the whole reading, progress and messages included
 
  private:
-  template <class READER>
-  friend void ReadLines(const Reading& reading, READER& reader, FileReport& report);
-
-  /// Counts the line that was read last.
-  void CountLine(LineOutcome outcome, std::string_view line) {
-    ++counts_[static_cast<std::size_t>(outcome.GetKind())];
-    if (outcome.GetKind() == LineOutcome::Kind::kSkipped) CountSkipped(outcome, line);
-  }
   void CountSkipped(LineOutcome outcome, std::string_view line);
   [[nodiscard]] std::int64_t CountOf(LineOutcome::Kind kind) const {
     return counts_[static_cast<std::size_t>(kind)];
