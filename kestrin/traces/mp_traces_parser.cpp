@@ -5,9 +5,10 @@
 #include <cstdio>
 #include <limits>
 #include <memory>
+#include <optional>
 #include <utility>
 
-#include "kestrin/traces/strict/strict_parser.h"
+#include "kestrin/traces/strict/traces_parser.h"
 
 namespace kestrin {
 namespace {
@@ -16,10 +17,36 @@ struct FileCloser {
   // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the owner's own deleter
   void operator()(std::FILE* file) const noexcept { std::fclose(file); }
 };
+using File = std::unique_ptr<std::FILE, FileCloser>;
+
+ByteSource BlocksOf(std::FILE* file) {
+  return [file](char* bytes, std::size_t size) { return std::fread(bytes, 1, size, file); };
+}
+
+/// Lines one by one: whoever writes them may wait for what the parser has to say, and what a parse leaves
+/// unread may be meant for others.
+std::size_t ReadLineOfStandardInput(char* bytes, std::size_t size) {
+  std::size_t count = 0;
+  while (count < size) {
+    const int byte = std::getc(stdin);
+    if (byte == EOF) break;
+    bytes[count++] = static_cast<char>(byte);
+    if (byte == '\n') break;
+  }
+  return count;
+}
+
+/// An open file, read as far as its parses came.
+struct ParsedFile {
+  explicit ParsedFile(File opened) : file(std::move(opened)), parser(BlocksOf(file.get())) {}
+  File file;
+  TracesParser parser;
+};
 
 /// What all parsers of the process share.
 struct SharedState {
-  std::unique_ptr<std::FILE, FileCloser> file;
+  TracesParser standardInput{ReadLineOfStandardInput};
+  std::optional<ParsedFile> file;
   CMTraces* traces = nullptr;  // the caller's from the moment it is made
   CString error;
   std::int64_t line = 0;
@@ -30,11 +57,8 @@ SharedState& State() {
   return state;
 }
 
-void PrintErrors(const StrictParse& parse) {
-  for (const SyntaxError& error : parse.errors) {
-    std::fprintf(stderr, "\n\nSyntax error: parse error\nError Location : %" PRId64 "\n", error.line);
-  }
-  if (parse.result == ParseResult::kExhausted) std::fprintf(stderr, "%s\n", parse.error.c_str());
+void PrintError(const SyntaxError& error) {
+  std::fprintf(stderr, "\n\nSyntax error: parse error\nError Location : %" PRId64 "\n", error.line);
 }
 
 }  // namespace
@@ -48,15 +72,16 @@ MPTracesParser& MPTracesParser::operator=(MPTracesParser&&) noexcept = default;
 MPTracesParser::MPTracesParser(char* file) { SetFile(file); }
 
 void MPTracesParser::SetFile(char* file) {
-  State().file.reset(file == nullptr ? nullptr : std::fopen(file, "r"));
+  Close();
+  File opened(file == nullptr ? nullptr : std::fopen(file, "r"));
+  if (opened != nullptr) State().file.emplace(std::move(opened));
 }
 
 int MPTracesParser::Parse() {
   SharedState& state = State();
-  std::FILE* input = state.file != nullptr ? state.file.get() : stdin;
-  StrictParse parse =
-      ParseStrictly([input](char* bytes, std::size_t size) { return std::fread(bytes, 1, size, input); });
-  PrintErrors(parse);
+  TracesParser& parser = state.file ? state.file->parser : state.standardInput;
+  StrictParse parse = parser.Parse(PrintError);
+  if (parse.result == ParseResult::kExhausted) std::fprintf(stderr, "%s\n", parse.error.c_str());
   state.error = CString(parse.error);
   if (parse.traces != nullptr) state.traces = parse.traces.release();
   state.line = parse.line;

@@ -5,6 +5,7 @@
 #include <iterator>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "kestrin/platform/string.h"
 #include "support/source_of.h"
@@ -141,7 +142,6 @@ TEST(TracesScanner, ReadsTextWhateverItsSizeAndLineEnds) {
   Expect({
       {"1\r\n2\r\r\n\r3\r", "INTEGER=1 / INTEGER=2 / INTEGER=3"},
       {"SEG a\r\r\nSEG b\r", "SEG SEGFIELD=a\r / SEG SEGFIELD=b\r"},
-      {std::string("SEG a\0b c\n\0A", 12), "SEG SEGFIELD=a SEGFIELD=c / WORD=A"},
   });
   const std::string longText(300'000, 'A');
   EXPECT_EQ(Tokens(longText + " 1"), "WORD=" + longText.substr(0, 255) + " INTEGER=1");
@@ -150,6 +150,55 @@ TEST(TracesScanner, ReadsTextWhateverItsSizeAndLineEnds) {
   std::string openNotes;  // each of which would be looked for up to the end of the line
   for (int i = 0; i < 300'000; ++i) openNotes += "(a ";
   EXPECT_EQ(Tokens(openNotes + "SEG " + openNotes + "\n1").substr(0, 18), "SEG SEGFIELD=(a SE");
+}
+
+TEST(TracesScanner, KeepsZeroBytesAndTheirEscapesApart) {
+  using std::string_literals::operator""s;
+  Expect({
+      {"SEG a\0b c\n\0A"s, "SEG SEGFIELD=a SEGFIELD=c / WORD=A"},
+      {"SEG \x01 a\x01"s, "SEG SEGFIELD=\x01 SEGFIELD=a\x01"},
+      {"SEG \x01\x02\x01\x01\x02\0b \0 c\x01"s, "SEG SEGFIELD=\x01\x02\x01\x01\x02 SEGFIELD= SEGFIELD=c\x01"},
+      {"'\0a' '\x01\0'(\0)\x01\0A\x01 1\0002"s, "QSTRING=' QSTRING='\x01 WORD=A INTEGER=1 INTEGER=2"},
+      {"# NET 'A\x01\0'"s, "NET_HEADER NETNAME=A\x01 '"},
+      {"# Application\x01\x02\0"s, "APPTEXT=\x01\x02"},
+  });
+  const std::string ones(300, '\x01');
+  EXPECT_EQ(Tokens("SEG " + ones + " \0"s + ones), "SEG SEGFIELD=" + ones.substr(0, 255) + " SEGFIELD=");
+  std::string zeros = "# NET 'A";  // over each of which the automaton would go back to the beginning
+  for (int i = 0; i < 1'000'000; ++i) zeros += "\0\x01 "s;
+  EXPECT_EQ(Tokens(zeros + "'", 100'000), "NET_HEADER NETNAME=A '");
+}
+
+/// The tokens of a file that ends more than once, as one that is typed may.
+TEST(TracesScanner, GoesOnAfterTheEndOfTheFileInTheSameCondition) {
+  struct Ended {
+    std::string before;
+    std::string after;
+    std::vector<int> tokens;
+  };
+  const Ended cases[] = {
+      {"1", "2", {Token::T_INTEGER, 0, Token::T_INTEGER, 0}},
+      {"", "\n", {0, 0, 0}},
+      {"UNITS", "A", {Token::T_UNITS, 0, Token::T_UNITNAME, 0}},
+      {"SEG (a", "(b c) 1", {Token::T_SEG, Token::T_SEGFIELD, 0, Token::T_SEGFIELD, 0}},
+      {"(A \r", "(B) 1", {Token::T_WORD, 0, Token::T_INTEGER, 0}},
+      {"( # NET '", "A' (A)", {Token::T_NET_HEADER, 0, Token::T_NETNAME, '\'', 0}},
+      {"# Application", "ab", {0, Token::T_APPTEXT, 0}},
+  };
+  for (const Ended& c : cases) {
+    int pieces = 0;
+    TracesScanner scanner([&](char* bytes, std::size_t size) {
+      const int piece = pieces++;
+      return piece == 0 ? c.before.copy(bytes, size) : piece == 2 ? c.after.copy(bytes, size) : 0;
+    });
+    if (c.before.empty()) pieces = 1;
+    std::vector<int> tokens;
+    while (tokens.size() < c.tokens.size()) {
+      TracesGrammar::value_type value{};
+      tokens.push_back(scanner.Next(value));
+    }
+    EXPECT_EQ(tokens, c.tokens) << c.before;
+  }
 }
 
 }  // namespace

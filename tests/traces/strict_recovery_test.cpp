@@ -123,6 +123,7 @@ TEST(StrictRecovery, TheEndOfTheFileEndsARecovery) {
 }
 
 TEST(StrictRecovery, SaysWhatItFoundAndWhatItExpected) {
+  using std::string_literals::operator""s;
   const StrictParse parse =
       ParseStrictly(SourceOf(kWith + "GUI 1\nTTT 1 2 3.5\nTTT 1 2 3\n# NET 'A'\nGUI\n"));
   ASSERT_EQ(parse.errors.size(), 1U);
@@ -132,6 +133,8 @@ TEST(StrictRecovery, SaysWhatItFoundAndWhatItExpected) {
   };
   EXPECT_EQ(described("TTT 1 2 3.5\n"), "found a real number (3.5), expected a whole number");
   EXPECT_EQ(described("TTT 'x' 2\n"), "found a text in apostrophes ('x'), expected a whole number");
+  EXPECT_EQ(described("TTT '\x01\0' 2\n"s),
+            "found a text in apostrophes ('\x01\0'), expected a whole number"s);
   EXPECT_EQ(described("TTT 1"), "found the end of the file, expected a whole number or a real number");
   EXPECT_EQ(described("# NET 'A'\nWIR 1 2 3 4 5\nSEG 1 2 3\nSEG"),
             "found SEG, expected a value of a SEG line");
