@@ -24,8 +24,8 @@ case "${1-}" in
   all)
     scripts/install-packages.sh $(cat scripts/build-packages scripts/check-packages)
     clang-format-14 --dry-run --Werror $(git ls-files '*.h' '*.cpp')
-    mkdir -p build
-    doxygen
+    scripts/check-layers
+    scripts/make-reference
     run_presets release sanitize fuzz thread
     ;;
   *)

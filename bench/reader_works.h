@@ -9,9 +9,9 @@
 
 #include "bench/measuring/work.h"
 #include "bench/tallies.h"
-#include "kestrin/geom/geom_reader.h"
+#include "kestrin/framework/stdio_file.h"
+#include "kestrin/geometry/geometry_reader.h"
 #include "kestrin/neutral/neutral_reader.h"
-#include "kestrin/platform/stdio_file.h"
 #include "kestrin/session/import_session.h"
 #include "kestrin/tech/tech_reader.h"
 #include "kestrin/traces/strict/strict_parser.h"
@@ -28,7 +28,7 @@ struct BuiltTraces final : Built {
 };
 
 struct BuiltGeometry final : Built {
-  [[nodiscard]] GeomReader Reader() { return GeomReader(geom); }
+  [[nodiscard]] GeometryReader Reader() { return GeometryReader(geom); }
   [[nodiscard]] Tally Count() const override { return CountGeometry(geom); }
 
   CMGeom geom;

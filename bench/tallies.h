@@ -4,7 +4,7 @@
 /// What the models hold, counted as the plain readers count theirs.
 
 #include "bench/measuring/work.h"
-#include "kestrin/geom/geom_model.h"
+#include "kestrin/geometry/geometry_model.h"
 #include "kestrin/traces/traces_model.h"
 
 namespace kestrin::bench {

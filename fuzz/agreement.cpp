@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "fuzz/checks.h"
-#include "kestrin/geometry/append.h"
-#include "kestrin/platform/characters.h"
+#include "kestrin/base/characters.h"
+#include "kestrin/records/append.h"
 
 namespace kestrin::fuzz {
 namespace {

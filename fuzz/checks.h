@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-#include "kestrin/platform/exceptions.h"
+#include "kestrin/framework/exceptions.h"
 #include "kestrin/session/import_report.h"
 #include "kestrin/text/line_outcome.h"
 #include "support/model_dump.h"

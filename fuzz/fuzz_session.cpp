@@ -6,9 +6,9 @@
 #include <array>
 
 #include "fuzz/subjects.h"
-#include "kestrin/platform/messages.h"
-#include "kestrin/platform/window.h"
 #include "kestrin/session/import_session.h"
+#include "kestrin/windowing/messages.h"
+#include "kestrin/windowing/window.h"
 
 namespace kestrin::fuzz {
 namespace {

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "fuzz/checks.h"
-#include "kestrin/geom/geom_reader.h"
+#include "kestrin/geometry/geometry_reader.h"
 #include "kestrin/neutral/neutral_reader.h"
 #include "kestrin/tech/tech_reader.h"
 #include "kestrin/traces/traces_reader.h"
@@ -36,7 +36,7 @@ struct GeometrySubject {
   [[nodiscard]] std::string Dump() const { return fuzz::Dump(model); }
 
   CMGeom model;
-  GeomReader reader{model};
+  GeometryReader reader{model};
 };
 
 struct TracesSubject {

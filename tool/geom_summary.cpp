@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "kestrin/geom/geom_model.h"
+#include "kestrin/geometry/geometry_model.h"
 #include "tool/readable_text.h"
 #include "tool/text_table.h"
 

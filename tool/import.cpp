@@ -2,7 +2,7 @@
 
 #include <exception>
 
-#include "kestrin/platform/exceptions.h"
+#include "kestrin/framework/exceptions.h"
 #include "tool/terminal_dialog.h"
 #include "tool/usage_error.h"
 

@@ -10,9 +10,9 @@
 #include <string_view>
 #include <type_traits>
 
-#include "kestrin/geometry/ownership.h"
-#include "kestrin/platform/string.h"
-#include "kestrin/platform/string_array.h"
+#include "kestrin/framework/string.h"
+#include "kestrin/framework/string_array.h"
+#include "kestrin/records/ownership.h"
 #include "tool/rapidjson.h"
 
 namespace kestrin::tool {

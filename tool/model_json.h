@@ -3,7 +3,7 @@
 /// @file
 /// The models as JSON: each record is an object of its fields.
 
-#include "kestrin/geom/geom_fields.h"
+#include "kestrin/geometry/geometry_fields.h"
 #include "kestrin/neutral/neutral_fields.h"
 #include "kestrin/tech/tech_fields.h"
 #include "kestrin/traces/traces_fields.h"

@@ -2,7 +2,7 @@
 
 #include <exception>
 
-#include "kestrin/platform/input_file.h"
+#include "kestrin/framework/input_file.h"
 #include "tool/readable_text.h"
 #include "tool/usage_error.h"
 

@@ -6,8 +6,8 @@
 #include <array>
 #include <string>
 
-#include "kestrin/platform/window.h"
 #include "kestrin/session/import_session.h"
+#include "kestrin/windowing/window.h"
 #include "tool/export_set.h"
 
 namespace kestrin::tool {

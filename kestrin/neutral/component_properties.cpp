@@ -3,8 +3,8 @@
 #include <memory>
 #include <utility>
 
-#include "kestrin/geometry/append.h"
-#include "kestrin/platform/numbers.h"
+#include "kestrin/base/numbers.h"
+#include "kestrin/records/append.h"
 #include "kestrin/text/fields.h"
 
 namespace kestrin {

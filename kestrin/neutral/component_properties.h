@@ -5,8 +5,8 @@
 
 #include <string_view>
 
-#include "kestrin/geometry/record_pool.h"
 #include "kestrin/neutral/component_model.h"
+#include "kestrin/records/record_pool.h"
 
 namespace kestrin {
 

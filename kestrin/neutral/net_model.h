@@ -3,10 +3,10 @@
 /// @file
 /// What a Neutral file says of the nets of the selected board.
 
-#include "kestrin/geometry/ownership.h"
-#include "kestrin/geometry/pooled_record.h"
-#include "kestrin/platform/export.h"
-#include "kestrin/platform/string.h"
+#include "kestrin/base/export.h"
+#include "kestrin/framework/string.h"
+#include "kestrin/records/ownership.h"
+#include "kestrin/records/pooled_record.h"
 
 namespace kestrin {
 

@@ -6,9 +6,9 @@
 #include <memory>
 #include <utility>
 
-#include "kestrin/geometry/append.h"
+#include "kestrin/base/numbers.h"
 #include "kestrin/neutral/component_properties.h"
-#include "kestrin/platform/numbers.h"
+#include "kestrin/records/append.h"
 #include "kestrin/text/fields.h"
 #include "kestrin/text/trim.h"
 

@@ -8,11 +8,11 @@
 #include <string>
 #include <string_view>
 
-#include "kestrin/geometry/record_pool.h"
 #include "kestrin/neutral/board_chooser.h"
 #include "kestrin/neutral/board_selection.h"
 #include "kestrin/neutral/component_model.h"
 #include "kestrin/neutral/net_model.h"
+#include "kestrin/records/record_pool.h"
 #include "kestrin/text/keyword.h"
 #include "kestrin/text/line_fields.h"
 #include "kestrin/text/line_outcome.h"

@@ -1,6 +1,6 @@
 #include "kestrin/session/dialog.h"
 
-#include "kestrin/platform/messages.h"
+#include "kestrin/windowing/messages.h"
 
 namespace kestrin {
 

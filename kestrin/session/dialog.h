@@ -5,8 +5,8 @@
 
 #include <cstdint>
 
-#include "kestrin/platform/numbers.h"
-#include "kestrin/platform/window.h"
+#include "kestrin/base/numbers.h"
+#include "kestrin/windowing/window.h"
 
 namespace kestrin {
 

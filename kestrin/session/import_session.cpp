@@ -1,9 +1,8 @@
 #include "kestrin/session/import_session.h"
 
-#include "kestrin/geom/geom_model.h"
-#include "kestrin/geom/geom_reader.h"
+#include "kestrin/geometry/geometry_model.h"
+#include "kestrin/geometry/geometry_reader.h"
 #include "kestrin/neutral/neutral_reader.h"
-#include "kestrin/platform/message_box.h"
 #include "kestrin/session/dialog.h"
 #include "kestrin/session/line_count.h"
 #include "kestrin/session/reader_loop.h"
@@ -11,6 +10,7 @@
 #include "kestrin/tech/tech_reader.h"
 #include "kestrin/traces/traces_model.h"
 #include "kestrin/traces/traces_reader.h"
+#include "kestrin/windowing/message_box.h"
 
 namespace kestrin {
 namespace {
@@ -141,7 +141,7 @@ void CPC_KESTRIN_GET::NeutralFileParse(CString path) {
 
 void CPC_KESTRIN_GET::GeomFileParse(CString path) {
   const auto geom = std::make_shared<CMGeom>();
-  GeomReader reader(*geom);
+  GeometryReader reader(*geom);
   Replace(geom_, m_pGeom, geom);
   ReadLines({.path = path, .bar = m_pGeomProgress, .pumpsMessages = true}, reader,
             report_.Filled(ImportFile::kGeometry));

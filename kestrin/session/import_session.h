@@ -5,11 +5,11 @@
 
 #include <memory>
 
-#include "kestrin/platform/export.h"
-#include "kestrin/platform/string.h"
-#include "kestrin/platform/string_array.h"
-#include "kestrin/platform/window.h"
+#include "kestrin/base/export.h"
+#include "kestrin/framework/string.h"
+#include "kestrin/framework/string_array.h"
 #include "kestrin/session/import_report.h"
+#include "kestrin/windowing/window.h"
 
 namespace kestrin {
 

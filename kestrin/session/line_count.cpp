@@ -6,8 +6,8 @@
 #include <limits>
 #include <vector>
 
-#include "kestrin/platform/exceptions.h"
-#include "kestrin/platform/input_file.h"
+#include "kestrin/framework/exceptions.h"
+#include "kestrin/framework/input_file.h"
 
 namespace kestrin {
 

@@ -5,8 +5,8 @@
 
 #include <chrono>
 
-#include "kestrin/platform/stdio_file.h"
-#include "kestrin/platform/string.h"
+#include "kestrin/framework/stdio_file.h"
+#include "kestrin/framework/string.h"
 #include "kestrin/session/dialog.h"
 #include "kestrin/session/import_report.h"
 #include "kestrin/session/line_count.h"

@@ -2,7 +2,7 @@
 #include <cstdint>
 #include <string>
 
-#include "kestrin/platform/exceptions.h"
+#include "kestrin/framework/exceptions.h"
 #include "kestrin/session/import_session.h"
 #include "kestrin/text/fields.h"
 

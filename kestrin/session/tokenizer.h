@@ -5,9 +5,9 @@
 
 #include <bitset>
 
-#include "kestrin/platform/export.h"
-#include "kestrin/platform/string.h"
-#include "kestrin/platform/string_array.h"
+#include "kestrin/base/export.h"
+#include "kestrin/framework/string.h"
+#include "kestrin/framework/string_array.h"
 
 namespace kestrin {
 

@@ -5,11 +5,11 @@
 
 #include <memory>
 
-#include "kestrin/geometry/ex_ptr_array.h"
-#include "kestrin/geometry/ownership.h"
-#include "kestrin/platform/export.h"
-#include "kestrin/platform/string.h"
-#include "kestrin/platform/string_array.h"
+#include "kestrin/base/export.h"
+#include "kestrin/framework/string.h"
+#include "kestrin/framework/string_array.h"
+#include "kestrin/records/ex_ptr_array.h"
+#include "kestrin/records/ownership.h"
 
 namespace kestrin {
 

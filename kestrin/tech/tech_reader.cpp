@@ -4,8 +4,8 @@
 #include <memory>
 #include <utility>
 
-#include "kestrin/geometry/append.h"
-#include "kestrin/platform/numbers.h"
+#include "kestrin/base/numbers.h"
+#include "kestrin/records/append.h"
 #include "kestrin/text/comment.h"
 #include "kestrin/text/fields.h"
 #include "kestrin/text/trim.h"

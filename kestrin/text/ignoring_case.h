@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <string_view>
 
-#include "kestrin/platform/characters.h"
+#include "kestrin/base/characters.h"
 
 namespace kestrin {
 

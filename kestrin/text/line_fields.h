@@ -7,8 +7,8 @@
 #include <cstddef>
 #include <string_view>
 
-#include "kestrin/platform/exceptions.h"
-#include "kestrin/platform/numbers.h"
+#include "kestrin/base/numbers.h"
+#include "kestrin/framework/exceptions.h"
 
 namespace kestrin {
 

@@ -9,7 +9,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "kestrin/platform/characters.h"
+#include "kestrin/base/characters.h"
 #include "kestrin/text/ignoring_case.h"
 
 namespace kestrin {

@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-#include "kestrin/platform/characters.h"
+#include "kestrin/base/characters.h"
 
 namespace kestrin {
 

@@ -5,10 +5,10 @@
 /// m_dValue5 is value 5, as a double, in the unit that the file names. Fields that the form of a line does
 /// not have are 0 or empty.
 
-#include "kestrin/geometry/ownership.h"
-#include "kestrin/geometry/pooled_record.h"
-#include "kestrin/platform/export.h"
-#include "kestrin/platform/string.h"
+#include "kestrin/base/export.h"
+#include "kestrin/framework/string.h"
+#include "kestrin/records/ownership.h"
+#include "kestrin/records/pooled_record.h"
 
 namespace kestrin {
 

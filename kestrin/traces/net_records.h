@@ -4,10 +4,10 @@
 /// The records that the routed copper of a net consists of. A field is named after the value of its line that
 /// it keeps: m_dValue5 is value 5, as a double, in the unit that the file names.
 
-#include "kestrin/geometry/ownership.h"
-#include "kestrin/geometry/pooled_record.h"
-#include "kestrin/platform/export.h"
-#include "kestrin/platform/string.h"
+#include "kestrin/base/export.h"
+#include "kestrin/framework/string.h"
+#include "kestrin/records/ownership.h"
+#include "kestrin/records/pooled_record.h"
 
 namespace kestrin {
 

@@ -4,7 +4,7 @@
 #include <memory>
 #include <utility>
 
-#include "kestrin/geometry/append.h"
+#include "kestrin/records/append.h"
 #include "kestrin/traces/record_values.h"
 #include "kestrin/traces/traces_reader.h"
 

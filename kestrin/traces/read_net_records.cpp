@@ -7,9 +7,9 @@
 #include <string_view>
 #include <utility>
 
-#include "kestrin/geometry/append.h"
-#include "kestrin/platform/characters.h"
-#include "kestrin/platform/numbers.h"
+#include "kestrin/base/characters.h"
+#include "kestrin/base/numbers.h"
+#include "kestrin/records/append.h"
 #include "kestrin/traces/record_values.h"
 #include "kestrin/traces/traces_reader.h"
 

@@ -7,10 +7,10 @@
 
 #include <cstdint>
 
-#include "kestrin/geometry/ownership.h"
-#include "kestrin/geometry/pooled_record.h"
-#include "kestrin/platform/export.h"
-#include "kestrin/platform/string.h"
+#include "kestrin/base/export.h"
+#include "kestrin/framework/string.h"
+#include "kestrin/records/ownership.h"
+#include "kestrin/records/pooled_record.h"
 #include "kestrin/traces/fill_records.h"
 #include "kestrin/traces/net_records.h"
 

@@ -7,8 +7,8 @@
 #include <memory>
 #include <utility>
 
-#include "kestrin/geometry/append.h"
-#include "kestrin/platform/characters.h"
+#include "kestrin/base/characters.h"
+#include "kestrin/records/append.h"
 #include "kestrin/text/trim.h"
 #include "kestrin/traces/record_values.h"
 

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "kestrin/geometry/record_pool.h"
+#include "kestrin/records/record_pool.h"
 #include "kestrin/text/keyword.h"
 #include "kestrin/text/line_fields.h"
 #include "kestrin/text/line_outcome.h"

@@ -7,8 +7,8 @@
 #include <string>
 #include <utility>
 
-#include "kestrin/platform/exceptions.h"
-#include "kestrin/traces/mp_traces_parser.h"
+#include "kestrin/framework/exceptions.h"
+#include "kestrin/traces/strict/mp_traces_parser.h"
 #include "kestrin/traces/strict/strict_parser.h"
 #include "support/model_dump.h"
 #include "support/source_of.h"

@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "kestrin/platform/messages.h"
+#include "kestrin/windowing/messages.h"
 #include "support/model_dump.h"
 #include "tests/support/sample_board.h"
 

@@ -7,10 +7,10 @@
 #include <string>
 #include <utility>
 
-#include "kestrin/platform/messages.h"
 #include "kestrin/session/dialog.h"
-#include "kestrin/traces/mp_traces_parser.h"
+#include "kestrin/traces/strict/mp_traces_parser.h"
 #include "kestrin/traces/strict/strict_parser.h"
+#include "kestrin/windowing/messages.h"
 #include "support/model_dump.h"
 #include "support/source_of.h"
 #include "support/temporary_folder.h"

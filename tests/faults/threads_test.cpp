@@ -8,9 +8,9 @@
 #include <utility>
 #include <vector>
 
-#include "kestrin/platform/message_box.h"
-#include "kestrin/platform/messages.h"
 #include "kestrin/traces/strict/strict_parser.h"
+#include "kestrin/windowing/message_box.h"
+#include "kestrin/windowing/messages.h"
 #include "support/model_dump.h"
 #include "support/source_of.h"
 #include "tests/support/content_of.h"

@@ -6,13 +6,13 @@
 #include <string>
 #include <utility>
 
-#include "kestrin/geom/geom_model.h"
+#include "kestrin/framework/exceptions.h"
+#include "kestrin/geometry/geometry_model.h"
 #include "kestrin/neutral/component_model.h"
 #include "kestrin/neutral/net_model.h"
-#include "kestrin/platform/exceptions.h"
-#include "kestrin/platform/messages.h"
 #include "kestrin/tech/tech_model.h"
 #include "kestrin/traces/traces_model.h"
+#include "kestrin/windowing/messages.h"
 #include "support/temporary_folder.h"
 #include "tests/support/recording_dialog.h"
 

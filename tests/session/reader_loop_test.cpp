@@ -6,7 +6,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "kestrin/platform/messages.h"
+#include "kestrin/windowing/messages.h"
 #include "support/temporary_folder.h"
 #include "tests/support/recording_dialog.h"
 

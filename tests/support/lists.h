@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "kestrin/platform/string_array.h"
+#include "kestrin/framework/string_array.h"
 
 namespace kestrin::test {
 

@@ -4,9 +4,9 @@
 #include <utility>
 #include <vector>
 
-#include "kestrin/platform/message_box.h"
-#include "kestrin/platform/window.h"
 #include "kestrin/session/import_session.h"
+#include "kestrin/windowing/message_box.h"
+#include "kestrin/windowing/window.h"
 
 namespace kestrin::test {
 

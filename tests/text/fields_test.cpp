@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "kestrin/platform/exceptions.h"
+#include "kestrin/framework/exceptions.h"
 #include "kestrin/session/import_session.h"
 #include "kestrin/session/tokenizer.h"
 #include "tests/support/lists.h"

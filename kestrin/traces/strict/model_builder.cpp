@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "kestrin/geometry/append.h"
-#include "kestrin/platform/characters.h"
-#include "kestrin/platform/numbers.h"
+#include "kestrin/base/characters.h"
+#include "kestrin/base/numbers.h"
+#include "kestrin/records/append.h"
 
 namespace kestrin {
 namespace {

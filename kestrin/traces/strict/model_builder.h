@@ -8,8 +8,8 @@
 #include <tuple>
 #include <utility>
 
-#include "kestrin/geometry/append.h"
-#include "kestrin/geometry/record_pool.h"
+#include "kestrin/records/append.h"
+#include "kestrin/records/record_pool.h"
 #include "kestrin/traces/traces_model.h"
 
 namespace kestrin {

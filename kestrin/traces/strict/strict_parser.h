@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "kestrin/platform/export.h"
+#include "kestrin/base/export.h"
 #include "kestrin/traces/strict/byte_source.h"
 #include "kestrin/traces/strict/syntax_error.h"
 #include "kestrin/traces/traces_model.h"

@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <string>
 
-#include "kestrin/platform/export.h"
+#include "kestrin/base/export.h"
 
 namespace kestrin {
 

@@ -8,8 +8,8 @@
 
 #include "kestrin/traces/strict/byte_source.h"
 #include "kestrin/traces/strict/error_listener.h"
-#include "kestrin/traces/strict/scanner.h"
 #include "kestrin/traces/strict/strict_parser.h"
+#include "kestrin/traces/strict/traces_scanner.h"
 
 namespace kestrin {
 

@@ -1,0 +1,246 @@
+#pragma once
+
+/// @file
+/// The framework's growable array.
+
+#include <algorithm>
+#include <cstdint>
+#include <limits>
+#include <memory>
+#include <new>
+#include <utility>
+
+#include "kestrin/framework/exceptions.h"
+#include "kestrin/framework/object.h"
+#include "kestrin/framework/slot_buffer.h"
+
+namespace kestrin {
+
+/// A growable array of values or of pointers; ARG_TYPE is how elements are passed in. Indexes and sizes are
+/// 64-bit; an index outside the array raises CInvalidArgException and leaves the array as it was.
+///
+/// An array of pointers never deletes what they point to: removing, clearing and destroying drop pointers
+/// only.
+template <class TYPE, class ARG_TYPE = const TYPE&>
+class CArray : public CObject {
+ public:
+  CArray() = default;
+  ~CArray() override { Release(); }
+
+  /// The number of elements.
+  [[nodiscard]] std::int64_t GetSize() const noexcept { return m_nSize; }
+  /// The same.
+  [[nodiscard]] std::int64_t GetCount() const noexcept { return m_nSize; }
+  /// Size less one: -1 when empty.
+  [[nodiscard]] std::int64_t GetUpperBound() const noexcept { return m_nSize - 1; }
+  /// Whether there are no elements.
+  [[nodiscard]] bool IsEmpty() const noexcept { return m_nSize == 0; }
+
+  /// Sets the number of elements; new ones are zero (null, empty). A growBy of 0 or more becomes the growth
+  /// step of the array, 0 standing for a step computed from the size. Size 0 releases the memory.
+  void SetSize(std::int64_t newSize, std::int64_t growBy = -1);
+  /// Shrinks the memory to the elements.
+  void FreeExtra();
+  /// Removes every element and releases the memory.
+  void RemoveAll() { SetSize(0); }
+
+  /// The elements in a row, null when there is no memory; valid until the array grows or shrinks.
+  [[nodiscard]] TYPE* GetData() noexcept { return m_pData; }
+  /// The same, to read.
+  [[nodiscard]] const TYPE* GetData() const noexcept { return m_pData; }
+
+  /// The element at an index, valid until the array grows or shrinks.
+  [[nodiscard]] TYPE& ElementAt(std::int64_t index) { return m_pData[Checked(index)]; }
+  /// The same, to read.
+  [[nodiscard]] const TYPE& ElementAt(std::int64_t index) const { return m_pData[Checked(index)]; }
+  [[nodiscard]] TYPE& GetAt(std::int64_t index) { return ElementAt(index); }                   ///< the same
+  [[nodiscard]] const TYPE& GetAt(std::int64_t index) const { return ElementAt(index); }       ///< the same
+  [[nodiscard]] TYPE& operator[](std::int64_t index) { return ElementAt(index); }              ///< the same
+  [[nodiscard]] const TYPE& operator[](std::int64_t index) const { return ElementAt(index); }  ///< the same
+  /// Replaces the element at an index.
+  void SetAt(std::int64_t index, ARG_TYPE element) { ElementAt(index) = element; }
+
+  /// Stores an element, growing the array to its index when needed; a negative index raises.
+  void SetAtGrow(std::int64_t index, ARG_TYPE element);
+  /// Appends; returns the element's index.
+  std::int64_t Add(ARG_TYPE element) { return Emplace(element); }
+  /// Appends copies of another array's elements; returns the index of the first. Another array than this one.
+  std::int64_t Append(const CArray& source);
+  /// Makes this array a copy of another; of itself, nothing.
+  void Copy(const CArray& source);
+  /// Exchanges the elements, the memory and the growth steps of two arrays.
+  void Swap(CArray& other) noexcept;
+
+  /// Inserts copies of an element before an index, or beyond the end with a gap of zero elements.
+  void InsertAt(std::int64_t index, ARG_TYPE element, std::int64_t count = 1);
+  /// Inserts all elements of another array.
+  void InsertAt(std::int64_t startIndex, const CArray* source);
+  /// Removes a range that lies inside the array.
+  void RemoveAt(std::int64_t index, std::int64_t count = 1);
+
+  /// For range-based loops.
+  [[nodiscard]] TYPE* begin() noexcept { return m_pData; }
+  [[nodiscard]] TYPE* end() noexcept { return m_pData + m_nSize; }              ///< likewise
+  [[nodiscard]] const TYPE* begin() const noexcept { return m_pData; }          ///< likewise
+  [[nodiscard]] const TYPE* end() const noexcept { return m_pData + m_nSize; }  ///< likewise
+
+ protected:
+  /// Appends an element made from the arguments; returns its index.
+  template <class... Arguments>
+  std::int64_t Emplace(Arguments&&... arguments);
+
+  TYPE* m_pData = nullptr;      ///< the elements, null without memory
+  std::int64_t m_nSize = 0;     ///< how many there are
+  std::int64_t m_nMaxSize = 0;  ///< capacity; the memory behind it may be larger, see AllocatedSlots
+  std::int64_t m_nGrowBy = 0;   ///< the growth step, 0 for a computed one
+
+ private:
+  [[nodiscard]] std::int64_t Checked(std::int64_t index) const {
+    if (index < 0 || index >= m_nSize) AfxThrowInvalidArgException();
+    return index;
+  }
+  [[nodiscard]] static std::int64_t SizeOf(std::int64_t first, std::int64_t more) {
+    if (more > std::numeric_limits<std::int64_t>::max() - first) throw std::bad_alloc();
+    return first + more;
+  }
+  void Reserve(std::int64_t newSize, std::int64_t growBy);
+  void SetCapacity(std::int64_t capacity);
+  void Release() noexcept;
+  void OpenGap(std::int64_t index, std::int64_t count);
+};
+
+template <class TYPE, class ARG_TYPE>
+void CArray<TYPE, ARG_TYPE>::SetSize(std::int64_t newSize, std::int64_t growBy) {
+  if (newSize < 0) AfxThrowInvalidArgException();
+  const std::int64_t step = growBy < 0 ? m_nGrowBy : growBy;
+  if (newSize == 0) {
+    Release();
+  } else {
+    Reserve(newSize, step);
+    if (newSize > m_nSize) {
+      std::uninitialized_value_construct_n(m_pData + m_nSize, newSize - m_nSize);
+    } else {
+      std::destroy_n(m_pData + newSize, m_nSize - newSize);
+    }
+    m_nSize = newSize;
+  }
+  m_nGrowBy = step;
+}
+
+/// Makes the capacity hold a size, by the framework's growth rule.
+template <class TYPE, class ARG_TYPE>
+void CArray<TYPE, ARG_TYPE>::Reserve(std::int64_t newSize, std::int64_t growBy) {
+  if (m_pData == nullptr) {
+    SetCapacity(std::max(newSize, growBy));
+  } else if (newSize > m_nMaxSize) {
+    const std::int64_t step = growBy != 0 ? growBy : std::clamp(m_nSize / 8, kSmallestStep, kGreatestStep);
+    SetCapacity(std::max(newSize, SizeOf(m_nMaxSize, step)));
+  }
+}
+
+template <class TYPE, class ARG_TYPE>
+void CArray<TYPE, ARG_TYPE>::FreeExtra() {
+  if (m_nSize == 0) return Release();
+  if (m_nSize != m_nMaxSize) SetCapacity(m_nSize);
+}
+
+template <class TYPE, class ARG_TYPE>
+void CArray<TYPE, ARG_TYPE>::SetAtGrow(std::int64_t index, ARG_TYPE element) {
+  if (index < 0) AfxThrowInvalidArgException();
+  if (index < m_nSize) {
+    m_pData[index] = element;
+    return;
+  }
+  TYPE value(element);  // the element may stand in the memory that is about to move
+  SetSize(SizeOf(index, 1));
+  m_pData[index] = std::move(value);
+}
+
+template <class TYPE, class ARG_TYPE>
+template <class... Arguments>
+std::int64_t CArray<TYPE, ARG_TYPE>::Emplace(Arguments&&... arguments) {
+  TYPE value(std::forward<Arguments>(arguments)...);  // which may come from the memory that is about to move
+  if (m_nSize == m_nMaxSize) Reserve(SizeOf(m_nSize, 1), m_nGrowBy);
+  std::construct_at(m_pData + m_nSize, std::move(value));
+  return m_nSize++;
+}
+
+template <class TYPE, class ARG_TYPE>
+std::int64_t CArray<TYPE, ARG_TYPE>::Append(const CArray& source) {
+  if (this == &source) AfxThrowInvalidArgException();
+  const std::int64_t first = m_nSize;
+  SetSize(m_nSize + source.m_nSize);
+  std::copy_n(source.m_pData, source.m_nSize, m_pData + first);
+  return first;
+}
+
+template <class TYPE, class ARG_TYPE>
+void CArray<TYPE, ARG_TYPE>::Copy(const CArray& source) {
+  if (this == &source) return;
+  SetSize(source.m_nSize);
+  std::copy_n(source.m_pData, source.m_nSize, m_pData);
+}
+
+template <class TYPE, class ARG_TYPE>
+void CArray<TYPE, ARG_TYPE>::Swap(CArray& other) noexcept {
+  std::swap(m_pData, other.m_pData);
+  std::swap(m_nSize, other.m_nSize);
+  std::swap(m_nMaxSize, other.m_nMaxSize);
+  std::swap(m_nGrowBy, other.m_nGrowBy);
+}
+
+template <class TYPE, class ARG_TYPE>
+void CArray<TYPE, ARG_TYPE>::InsertAt(std::int64_t index, ARG_TYPE element, std::int64_t count) {
+  if (index < 0 || count < 1) AfxThrowInvalidArgException();
+  const TYPE value(element);
+  OpenGap(index, count);
+  std::fill_n(m_pData + index, count, value);
+}
+
+template <class TYPE, class ARG_TYPE>
+void CArray<TYPE, ARG_TYPE>::InsertAt(std::int64_t startIndex, const CArray* source) {
+  if (startIndex < 0 || source == nullptr) AfxThrowInvalidArgException();
+  if (source->IsEmpty()) return;
+  if (source == this) {
+    CArray copy;
+    copy.Copy(*this);
+    return InsertAt(startIndex, &copy);
+  }
+  OpenGap(startIndex, source->m_nSize);
+  std::copy_n(source->m_pData, source->m_nSize, m_pData + startIndex);
+}
+
+template <class TYPE, class ARG_TYPE>
+void CArray<TYPE, ARG_TYPE>::RemoveAt(std::int64_t index, std::int64_t count) {
+  if (index < 0 || count < 0 || index > m_nSize || count > m_nSize - index) AfxThrowInvalidArgException();
+  if (count == 0) return;
+  std::move(m_pData + index + count, m_pData + m_nSize, m_pData + index);
+  std::destroy_n(m_pData + m_nSize - count, count);
+  m_nSize -= count;
+}
+
+template <class TYPE, class ARG_TYPE>
+void CArray<TYPE, ARG_TYPE>::SetCapacity(std::int64_t capacity) {
+  if (m_pData == nullptr || AllocatedSlots(capacity) != AllocatedSlots(m_nMaxSize)) {
+    m_pData = ReallocateSlots(m_pData, m_nSize, AllocatedSlots(capacity));
+  }
+  m_nMaxSize = capacity;
+}
+
+template <class TYPE, class ARG_TYPE>
+void CArray<TYPE, ARG_TYPE>::Release() noexcept {
+  FreeSlots(m_pData, m_nSize);
+  m_pData = nullptr;
+  m_nSize = 0;
+  m_nMaxSize = 0;
+}
+
+/// Makes room for count elements at an index; what is there when it returns is for the caller to overwrite.
+template <class TYPE, class ARG_TYPE>
+void CArray<TYPE, ARG_TYPE>::OpenGap(std::int64_t index, std::int64_t count) {
+  const std::int64_t oldSize = m_nSize;
+  SetSize(SizeOf(std::max(index, oldSize), count));
+  if (index < oldSize) std::move_backward(m_pData + index, m_pData + oldSize, m_pData + m_nSize);
+}
+
+}  // namespace kestrin

@@ -1,0 +1,104 @@
+#include "kestrin/framework/string_storage.h"
+
+#include <algorithm>
+#include <atomic>
+#include <memory>
+#include <new>
+
+namespace kestrin {
+
+/// What precedes the bytes of a long text on the heap.
+struct StringStorage::Block {
+  Block(std::size_t textSize, std::size_t room) : size(textSize), capacity(room) {}
+
+  [[nodiscard]] char* Bytes() noexcept { return reinterpret_cast<char*>(this + 1); }
+  [[nodiscard]] bool IsShared() const noexcept { return holders.load(std::memory_order_acquire) > 1; }
+
+  [[nodiscard]] static Block* Make(std::string_view text, std::size_t capacity) {
+    void* const memory = ::operator new(sizeof(Block) + capacity + 1);
+    Block* const block = std::construct_at(static_cast<Block*>(memory), text.size(), capacity);
+    text.copy(block->Bytes(), text.size());
+    block->Bytes()[text.size()] = '\0';
+    return block;
+  }
+
+  std::size_t size;
+  std::size_t capacity;
+  std::atomic<std::size_t> holders{1};
+  bool isLent = false;  // somebody may write to the bytes, so that nobody else may hold them
+};
+
+std::string_view StringStorage::BlockView() const noexcept { return {GetBlock()->Bytes(), GetBlock()->size}; }
+
+char* StringStorage::LendBlock() {
+  if (GetBlock()->IsShared()) TakeBlock(Block::Make(View(), View().size()));
+  GetBlock()->isLent = true;
+  return GetBlock()->Bytes();
+}
+
+/// Makes this, a copy of another's members, hold the block too, or a copy of it.
+void StringStorage::ShareBlock() {
+  Block* const block = GetBlock();
+  if (!block->isLent) {
+    block->holders.fetch_add(1, std::memory_order_relaxed);
+    return;
+  }
+  bytes_ = kEmpty;
+  AssignLong({block->Bytes(), block->size});
+}
+
+void StringStorage::LetGoOfBlock() const noexcept {
+  if (GetBlock()->holders.fetch_sub(1, std::memory_order_acq_rel) == 1) ::operator delete(GetBlock());
+}
+
+void StringStorage::TakeBlock(Block* block) noexcept {
+  if (!IsInline()) LetGoOfBlock();
+  std::memcpy(bytes_.data(), &block, sizeof(void*));
+  bytes_[kInlineSize] = static_cast<char>(kBlockTag);
+}
+
+/// Whether so many bytes can be written to where the bytes are.
+bool StringStorage::HasRoomFor(std::size_t size) const noexcept {
+  if (IsInline()) return size <= kInlineSize;
+  return size <= GetBlock()->capacity && !GetBlock()->IsShared();
+}
+
+/// Where the bytes are, when there is room for those to be written.
+char* StringStorage::Bytes() noexcept { return IsInline() ? bytes_.data() : GetBlock()->Bytes(); }
+
+/// Ends the bytes where they have been written.
+void StringStorage::SetSize(std::size_t size) noexcept {
+  if (IsInline()) return SetInlineSize(size);
+  GetBlock()->size = size;
+  GetBlock()->Bytes()[size] = '\0';
+  GetBlock()->isLent = false;
+}
+
+void StringStorage::AssignLong(std::string_view text) {
+  if (!HasRoomFor(text.size())) return TakeBlock(Block::Make(text, text.size()));
+  std::char_traits<char>::move(Bytes(), text.data(), text.size());
+  SetSize(text.size());
+}
+
+void StringStorage::Append(std::string_view text) {
+  const std::string_view old = View();
+  const std::size_t size = old.size() + text.size();
+  if (HasRoomFor(size)) {
+    std::char_traits<char>::move(Bytes() + old.size(), text.data(), text.size());
+  } else {
+    Block* const block = Block::Make(old, std::max(size, 2 * old.size()));
+    text.copy(block->Bytes() + old.size(), text.size());
+    TakeBlock(block);  // only now, as the text may stand in the old one
+  }
+  SetSize(size);
+}
+
+void StringStorage::Resize(std::size_t size) {
+  const std::string_view old = View();
+  const std::size_t kept = std::min(size, old.size());
+  if (!HasRoomFor(size)) TakeBlock(Block::Make(old.substr(0, kept), size));
+  std::fill(Bytes() + kept, Bytes() + size, '\0');
+  SetSize(size);
+}
+
+}  // namespace kestrin

@@ -1,0 +1,67 @@
+#include "kestrin/geometry/bracket_scans.h"
+
+#include "kestrin/geometry/point_values.h"
+#include "kestrin/text/trim.h"
+
+namespace kestrin {
+namespace {
+
+/// Returns whether a "[" was seen.
+bool Scan(ValueCut values, const BracketScan& scan, std::vector<double>& numbers) {
+  const auto append = [&](const PointValue& value, bool emptyIsZero) {
+    if (emptyIsZero || !value.isEmpty) numbers.push_back(value.number);
+  };
+  bool bracketed = false;
+  bool open = false;
+  while (const auto value = NextPointValue(values)) {
+    if (value->bracket == Bracket::kOpening) {
+      append(*value, scan.bareBracketIsZero);
+      bracketed = open = true;
+    } else if (value->bracket == Bracket::kClosing) {
+      if (open || scan.readsCloseWhenShut) append(*value, scan.bareBracketIsZero);
+      if (open && scan.stopsAtClose) break;
+      open = false;
+    } else if (open) {
+      append(*value, scan.emptyValueIsZero);
+    }
+  }
+  return bracketed;
+}
+
+}  // namespace
+
+void ReadPoints(const ValueCut& values, const BracketScan& scan, const PendingPoints& pending,
+                std::vector<double>& numbers) {
+  numbers.clear();
+  if (Scan(values, scan, numbers)) return;
+  for (const PendingValue& value : pending.Values()) {
+    if (scan.emptyPendingIsZero || !value.isEmpty) numbers.push_back(value.number);
+  }
+}
+
+BracketedPoint ReadPoint(ValueCut values, const PendingPoints& pending) {
+  std::optional<double> x;
+  std::optional<double> y;
+  while (!x || !y) {
+    const auto value = NextPointValue(values);
+    if (!value) break;
+    if (value->bracket == Bracket::kOpening && !x) x = value->number;
+    if (value->bracket == Bracket::kClosing && !y) y = value->number;
+  }
+  BracketedPoint point{x.value_or(0.0), y.value_or(0.0)};
+  if (!x) {
+    pending.CopyTo(1, point.x);
+    pending.CopyTo(2, point.y);
+  }
+  return point;
+}
+
+std::optional<std::string_view> FirstBracketed(Values& values) {
+  for (std::size_t number = 2; values.HasAtLeast(number); ++number) {
+    const std::string_view value = values[number];
+    if (value.find('[') != std::string_view::npos) return WithoutLeading(value, '[');
+  }
+  return std::nullopt;
+}
+
+}  // namespace kestrin

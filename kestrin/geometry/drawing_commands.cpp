@@ -1,0 +1,169 @@
+#include "kestrin/geometry/drawing_commands.h"
+
+#include <memory>
+#include <utility>
+
+#include "kestrin/base/numbers.h"
+#include "kestrin/records/append.h"
+#include "kestrin/text/trim.h"
+
+namespace kestrin {
+namespace {
+
+constexpr RecordRule kDrawObjRule{"a drawing object", "a geometry that takes drawing objects before it"};
+constexpr RecordRule kTextRule{"$$text", "a geometry that takes texts before it"};
+constexpr RecordRule kAddRule{"$$add", "a geometry that takes adds before it"};
+
+/// Every drawing object uses the pending points up, whether it needs them or not, and whether there is a
+/// geometry that takes it or not.
+template <class OBJECT>
+LineOutcome AddDrawObj(ReaderState& state, std::string_view arguments,
+                       void (*read)(ReaderState& state, OBJECT& object)) {
+  CMGeomDrawObjArray* target = state.geometry.DrawObjs();
+  if (target != nullptr) {
+    state.values.Cut(arguments, Commas::kEvery);
+    auto object = state.records.Make<OBJECT>();
+    read(state, *object);
+    Append(*target, std::move(object));
+  }
+  state.pending.Clear();
+  return target != nullptr ? LineOutcome::Imported() : LineOutcome::Skipped(SkipCode::kNoOwner, kDrawObjRule);
+}
+
+/// Calls read with every value that is not empty once cleaned: its number, its text and its raw text.
+template <class READ>
+void ForEachFilled(Values& values, READ read) {
+  for (std::size_t number = 1; values.HasAtLeast(number); ++number) {
+    const std::string_view value = values[number];
+    if (!value.empty()) read(number, value, values.Raw(number));
+  }
+}
+
+bool Contains(std::string_view text, std::string_view part) { return text.find(part) != text.npos; }
+
+void Read(ReaderState& state, CMGeomPath& path) {
+  path.m_sLayer = state.values[1];
+  path.m_dWidth = ToDouble(TrimmedLeft(state.values.Raw(2)));
+  Append(*path.m_pCoords, state.TakePoints(3, kPathScan));
+}
+
+void Read(ReaderState& state, CMGeomArc& arc) {
+  arc.m_dWidth = state.pathWidth;
+  double* const numbers[] = {&arc.m_dX1, &arc.m_dY1, &arc.m_dX2,   &arc.m_dY2,
+                             &arc.m_dX3, &arc.m_dY3, &arc.m_dWidth};
+  ForEachFilled(state.values, [&](std::size_t number, std::string_view value, std::string_view raw) {
+    if (number == 1) {
+      arc.m_sLayer = value;
+    } else if (number <= 8) {
+      *numbers[number - 2] = ToDouble(TrimmedLeft(raw));
+    } else if (Contains(value, "@radius")) {
+      arc.m_nArcMode = 1;
+    } else if (Contains(value, "@center")) {
+      arc.m_nArcMode = 2;
+    }
+  });
+  if (arc.m_nArcMode != 0) {
+    for (std::size_t number = 1; number <= 6; ++number) state.pending.CopyTo(number, *numbers[number - 1]);
+  }
+}
+
+void Read(ReaderState& state, CMGeomPolygon& polygon) {
+  polygon.m_sLayer = state.values[1];
+  Append(*polygon.m_pCoords, state.TakePoints(2, kPolygonScan));
+}
+
+void Read(ReaderState& state, CMGeomCircle& circle) {
+  circle.m_dWidth = state.pathWidth;
+  double* const numbers[] = {&circle.m_dX, &circle.m_dY, &circle.m_dSize, &circle.m_dWidth};
+  ForEachFilled(state.values, [&](std::size_t number, std::string_view value, std::string_view raw) {
+    if (number == 1) {
+      circle.m_sLayer = value;
+    } else if (number <= 5) {
+      *numbers[number - 2] = ToDouble(TrimmedLeft(raw));
+    }
+  });
+  if (state.values[2].empty()) {
+    for (std::size_t number = 1; number <= 4; ++number) state.pending.CopyTo(number, *numbers[number - 1]);
+  }
+}
+
+}  // namespace
+
+LineOutcome Initial(ReaderState& state, std::string_view arguments) {
+  state.pending.Begin(arguments);
+  return LineOutcome::Imported();
+}
+
+LineOutcome Terminal(ReaderState& state, std::string_view arguments) {
+  state.pending.Continue(arguments);
+  return LineOutcome::Imported();
+}
+
+LineOutcome TemplatePathWidth(ReaderState& state, std::string_view arguments) {
+  state.pathWidth = ToDouble(WithoutTrailing(WithoutLeading(Trimmed(arguments), '('), ')'));
+  return LineOutcome::Imported();
+}
+
+LineOutcome Path(ReaderState& state, std::string_view arguments) {
+  return AddDrawObj<CMGeomPath>(state, arguments, &Read);
+}
+
+LineOutcome Arc(ReaderState& state, std::string_view arguments) {
+  return AddDrawObj<CMGeomArc>(state, arguments, &Read);
+}
+
+LineOutcome Polygon(ReaderState& state, std::string_view arguments) {
+  return AddDrawObj<CMGeomPolygon>(state, arguments, &Read);
+}
+
+LineOutcome Circle(ReaderState& state, std::string_view arguments) {
+  return AddDrawObj<CMGeomCircle>(state, arguments, &Read);
+}
+
+LineOutcome Text(ReaderState& state, std::string_view arguments) {
+  auto* target = state.geometry.Texts();
+  if (target == nullptr) return LineOutcome::Skipped(SkipCode::kNoOwner, kTextRule);
+  state.values.Cut(arguments, Commas::kUnquoted);
+  auto text = state.records.Make<CMGeomText>();
+  ForEachFilled(state.values, [&](std::size_t number, std::string_view value, std::string_view /*raw*/) {
+    switch (number) {
+      case 1: text->m_sLayer = value; break;
+      case 2: text->m_sText = value; break;
+      case 3: text->m_dX = ToDouble(value); break;
+      case 4: text->m_dY = ToDouble(value); break;
+      case 5: text->m_dSize = ToDouble(value); break;
+      case 6: text->m_sJustification = value; break;
+      case 7: text->m_dAngle = ToInt(value); break;  // whole degrees
+      case 8: text->m_dValue8 = ToDouble(value); break;
+      case 9: text->m_dValue9 = ToDouble(value); break;
+      case 10: text->m_sValue10 = value; break;
+      case 11: text->m_sValue11 = value; break;
+      case 12: text->m_dValue12 = ToDouble(value); break;
+      case 13: text->m_dValue13 = ToDouble(value); break;
+      case 14:
+      case 15: text->m_sMirror = value; break;
+      default: break;
+    }
+  });
+  Append(*target, std::move(text));
+  return LineOutcome::Imported();
+}
+
+LineOutcome Add(ReaderState& state, std::string_view arguments) {
+  auto* target = state.geometry.Adds();
+  if (target == nullptr) return LineOutcome::Skipped(SkipCode::kNoOwner, kAddRule);
+  state.values.Cut(arguments, Commas::kEvery);
+  Values& values = state.values;
+  auto add = state.records.Make<CMGeomAdd>();
+  add->m_sArg0 = values[1];
+  add->m_dArg1 = ToDouble(values[2]);
+  add->m_dArg2 = ToDouble(values[3]);
+  add->m_sArg3 = values[4];
+  add->m_nArg4 = ToInt(values[5]);
+  add->m_nArg5 = ToInt(values[6]);
+  add->m_nArg6 = ToInt(values[7]);
+  Append(*target, std::move(add));
+  return LineOutcome::Imported();
+}
+
+}  // namespace kestrin

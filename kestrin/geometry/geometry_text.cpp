@@ -1,0 +1,67 @@
+#include "kestrin/geometry/geometry_text.h"
+
+#include <algorithm>
+#include <iterator>
+#include <string_view>
+
+#include "kestrin/text/ignoring_case.h"
+
+namespace kestrin {
+namespace {
+
+constexpr std::string_view kBottomLayers[] = {
+    "SILKSCREEN_2", "BREAKOUT_2", "DRAWING_2",     "GLUE_MASK_2", "PAD_2",
+    "PASTE_MASK_2", "PLACE_2",    "SOLDER_MASK_2", "THERMAL_2",
+};
+
+/// In the order of the anchor numbers, from 1.
+constexpr std::string_view kJustifications[] = {"@TL", "@TC", "@TR", "@CL", "@CC",
+                                                "@CR", "@BL", "@BC", "@BR"};
+constexpr int kBottomLeft = 7;
+
+/// What the anchors of a text and of the same text upside down add up to.
+constexpr int kTurnedAnchors = 10;
+
+}  // namespace
+
+int CMGeomText::IsBottomLayer(CString layerName) const {
+  const bool isBottom = std::any_of(std::begin(kBottomLayers), std::end(kBottomLayers),
+                                    [&](auto bottom) { return EqualIgnoringCase(layerName.View(), bottom); });
+  return isBottom ? 1 : 0;
+}
+
+void CMGeomText::Get_OrvaneTextStyleValue(int& mirror, double& angle, int& anchor) const {
+  mirror = GetMirrorStatus();
+  angle = Get_OrvaneAngle();
+  anchor = Get_OrvaneJustification();
+}
+
+int CMGeomText::GetMirrorStatus() const {
+  if (IsBottomLayer(m_sLayer) != 0) return m_sMirror.Find("@NOMirror") == -1 ? 1 : 0;
+  return m_sMirror.Find("@Mirror") == -1 ? 0 : 1;
+}
+
+int CMGeomText::Is_Apply_Right_Reading() const {
+  if (!m_sReading.IsEmpty() && !EqualIgnoringCase(m_sReading.View(), "@RIGHT_READING")) return 0;
+  const double from = GetMirrorStatus() != 0 ? 90.0 : 91.0;
+  return from <= m_dAngle && m_dAngle < from + 180.0 ? 1 : 0;
+}
+
+double CMGeomText::Get_OrvaneAngle() const {
+  return Is_Apply_Right_Reading() != 0 ? m_dAngle - 180.0 : m_dAngle;
+}
+
+int CMGeomText::Convert_TavrelJust_To_OrvaneJust() const {
+  const auto* found = std::find_if(std::begin(kJustifications), std::end(kJustifications), [&](auto code) {
+    return EqualIgnoringCase(m_sJustification.View(), code);
+  });
+  return found == std::end(kJustifications) ? kBottomLeft
+                                            : static_cast<int>(found - std::begin(kJustifications)) + 1;
+}
+
+int CMGeomText::Get_OrvaneJustification() const {
+  const int anchor = Convert_TavrelJust_To_OrvaneJust();
+  return Is_Apply_Right_Reading() != 0 ? kTurnedAnchors - anchor : anchor;
+}
+
+}  // namespace kestrin

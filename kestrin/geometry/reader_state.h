@@ -1,0 +1,48 @@
+#pragma once
+
+/// @file
+/// What the reader of a Geometry file knows from one line to the next.
+
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+#include "kestrin/geometry/bracket_scans.h"
+#include "kestrin/geometry/current_geometry.h"
+#include "kestrin/geometry/pending_points.h"
+#include "kestrin/geometry/values.h"
+#include "kestrin/records/record_pool.h"
+#include "kestrin/text/line_outcome.h"
+
+namespace kestrin {
+
+struct ReaderState {
+  /// The model must outlive this.
+  explicit ReaderState(CMGeom& model) : geometry(model, records) {}
+
+  /// The points of the current line, or the pending ones, which are then gone either way.
+  [[nodiscard]] const std::vector<double>& TakePoints(std::size_t firstValue, const BracketScan& scan) {
+    ReadPoints(values.From(firstValue), scan, pending, numbers);
+    pending.Clear();
+    return numbers;
+  }
+
+  /// The same for a single point.
+  [[nodiscard]] BracketedPoint TakePoint(std::size_t firstValue) {
+    const BracketedPoint point = ReadPoint(values.From(firstValue), pending);
+    pending.Clear();
+    return point;
+  }
+
+  RecordPool records;  ///< of the model
+  CurrentGeometry geometry;
+  PendingPoints pending;
+  double pathWidth = 0.0;       ///< of the pen of arcs and circles that name none
+  Values values;                ///< of the current line
+  std::vector<double> numbers;  ///< room for the points of the current line
+};
+
+/// Carries out a command.
+using CommandHandler = LineOutcome (*)(ReaderState& state, std::string_view arguments);
+
+}  // namespace kestrin

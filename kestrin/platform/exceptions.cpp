@@ -1,9 +1,0 @@
-#include "kestrin/platform/exceptions.h"
-
-namespace kestrin {
-
-CException::~CException() = default;
-
-void AfxThrowInvalidArgException() { throw CInvalidArgException(); }
-
-}  // namespace kestrin

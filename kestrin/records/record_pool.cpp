@@ -1,0 +1,111 @@
+#include "kestrin/records/record_pool.h"
+
+#include <algorithm>
+#include <atomic>
+#include <cstdint>
+#include <memory>
+#include <new>
+
+#include "kestrin/base/huge_pages.h"
+
+namespace kestrin {
+namespace {
+
+/// Slabs begin at multiples of this, so that a record's address tells its slab.
+constexpr std::size_t kSlabSize = std::size_t{64} * 1024;
+
+/// Blocks double from one slab up to this: little memory for a small file, few blocks for a large one.
+constexpr std::size_t kLargestBlock = 8 * kHugePage;
+
+/// What a block leaves to the heap, whose own words then fit in between one block and the next.
+constexpr std::size_t kHeapWords = 64;
+
+/// The last slab of a block is smaller than the others, but not too small for a record.
+constexpr std::size_t kSmallestSlab = kSlabSize - kHeapWords;
+
+}  // namespace
+
+/// The header of a slab, before its records.
+struct RecordPool::Slab {
+  /// Begins a block of that size.
+  explicit Slab(std::size_t size) : first(this), blockSize(size) {}
+  /// Continues a block.
+  explicit Slab(Slab& firstOfBlock) : first(&firstOfBlock) {}
+
+  [[nodiscard]] static std::align_val_t AlignmentOf(std::size_t size) {
+    return std::align_val_t{size < kHugePage ? kSlabSize : kHugePage};
+  }
+  [[nodiscard]] static Slab* MakeBlock(std::size_t size) {
+    void* const memory = ::operator new(size, AlignmentOf(size));
+    if (size >= kHugePage) PreferHugePages(memory, size);
+    return std::construct_at(static_cast<Slab*>(memory), size);
+  }
+  [[nodiscard]] static Slab* Of(void* record) noexcept {
+    const auto offset = reinterpret_cast<std::uintptr_t>(record) % kSlabSize;
+    return std::launder(reinterpret_cast<Slab*>(static_cast<std::byte*>(record) - offset));
+  }
+  [[nodiscard]] std::byte* Begin() noexcept { return reinterpret_cast<std::byte*>(this); }
+  [[nodiscard]] std::byte* Records() noexcept {
+    static_assert(sizeof(Slab) % kStep == kPlace);
+    return Begin() + sizeof(Slab);
+  }
+
+  /// Lets go of a block, of which this is the first slab.
+  void LetGo(std::size_t count) noexcept {
+    if (held.fetch_sub(count, std::memory_order_acq_rel) > count) return;
+    ::operator delete(this, AlignmentOf(blockSize));
+  }
+
+  /// More than a block ever has records: making one need not touch the count, which other threads may lower.
+  static constexpr std::size_t kHeldByPool = std::size_t{1} << 40;
+
+  Slab* first;  // of the block
+  std::size_t blockSize = 0;
+  std::atomic<std::size_t> held{
+      kHeldByPool};  // the block, by its records, and by the pool while it makes more
+};
+
+/// Goes on to the next slab, of the block or of a new one.
+void RecordPool::OpenSlab() {
+  if (static_cast<std::size_t>(blockEnd_ - end_) < kSmallestSlab) return OpenBlock();
+  BeginSlab(*std::construct_at(reinterpret_cast<Slab*>(end_), *block_));
+}
+
+void RecordPool::BeginSlab(Slab& slab) {
+  next_ = slab.Records();
+  end_ = slab.Begin() + std::min(static_cast<std::size_t>(blockEnd_ - slab.Begin()), kSlabSize);
+  MarkUnused(next_, static_cast<std::size_t>(end_ - next_));
+}
+
+void RecordPool::OpenBlock() {
+  const std::size_t blockSize = block_ == nullptr ? kSlabSize : std::min(2 * blockSize_, kLargestBlock);
+  const std::size_t size = blockSize - kHeapWords;
+  Slab* const block = Slab::MakeBlock(size);
+  CloseBlock();
+  block_ = block;
+  blockSize_ = blockSize;
+  blockEnd_ = block->Begin() + size;
+  BeginSlab(*block);
+}
+
+void RecordPool::CloseBlock() noexcept {
+  if (block_ != nullptr) block_->LetGo(Slab::kHeldByPool - std::exchange(made_, 0));
+}
+
+void* PooledRecord::operator new(std::size_t size) { return ::operator new(RecordPool::RoomFor(size)); }
+
+void* PooledRecord::operator new(std::size_t size, const std::nothrow_t& tag) noexcept {
+  return ::operator new(RecordPool::RoomFor(size), tag);
+}
+
+void PooledRecord::operator delete(void* record, std::size_t size) noexcept {
+  if (!RecordPool::Made(record)) return ::operator delete(record);
+  MarkUnused(record, size);
+  RecordPool::Slab::Of(record)->first->LetGo(1);
+}
+
+void PooledRecord::operator delete(void* record, RecordPool& /*pool*/) noexcept {
+  operator delete (record, std::size_t{0});
+}
+
+}  // namespace kestrin

@@ -1,0 +1,147 @@
+#include "kestrin/framework/string.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <string>
+#include <utility>
+
+#include "kestrin/framework/exceptions.h"
+
+namespace kestrin {
+namespace {
+
+TEST(String, GivesBytesUpToAndIncludingTheEnd) {
+  const CString text("ab");
+  EXPECT_EQ(text[1], 'b');
+  EXPECT_EQ(text.GetAt(2), '\0');
+  EXPECT_THROW(static_cast<void>(text[3]), CInvalidArgException);
+  EXPECT_THROW(static_cast<void>(text[-1]), CInvalidArgException);
+  EXPECT_EQ(CString(static_cast<const char*>(nullptr)), "");
+}
+
+TEST(String, ComparesAndJoinsTextsNotPointers) {
+  const CString a("a");
+  const CString b("b");
+  EXPECT_TRUE(a < b && b > a && a <= b && b >= a && a >= CString("a") && a < "b" && a != b && a != "b");
+  EXPECT_EQ(a + '/' + b + "!", "a/b!");
+}
+
+TEST(String, FindsFromAStart) {
+  const CString text("a-b-c");
+  EXPECT_EQ(text.Find('-'), 1);
+  EXPECT_EQ(text.Find('-', 2), 3);
+  EXPECT_EQ(text.Find("b-", -5), 2);
+  EXPECT_EQ(text.Find('a', 1), -1);
+  EXPECT_EQ(text.Find('a', 99), -1);
+  EXPECT_EQ(text.ReverseFind('-'), 3);
+  EXPECT_EQ(text.ReverseFind('x'), -1);
+}
+
+TEST(String, ClampsParts) {
+  const CString text("abcd");
+  struct Case {
+    CString part;
+    const char* expected;
+  };
+  const Case cases[] = {
+      {text.Left(2), "ab"}, {text.Left(-1), ""},     {text.Left(9), "abcd"},      {text.Right(2), "cd"},
+      {text.Right(-1), ""}, {text.Right(9), "abcd"}, {text.Mid(1), "bcd"},        {text.Mid(-3), "abcd"},
+      {text.Mid(9), ""},    {text.Mid(1, 2), "bc"},  {text.Mid(3, INT_MAX), "d"}, {text.Mid(1, -1), ""},
+  };
+  for (const Case& c : cases) EXPECT_EQ(c.part, c.expected);
+}
+
+TEST(String, ReplacesRemovesAndDeletes) {
+  CString text("aaab");
+  EXPECT_EQ(text.Replace("aa", "x"), 1);
+  EXPECT_EQ(text, "xab");
+  EXPECT_EQ(text.Replace("", "y"), 0);
+  EXPECT_EQ(text.Replace("a", ""), 1);
+  EXPECT_EQ(text, "xb");
+  EXPECT_EQ(text.Remove('x'), 1);
+  text = "abcdef";
+  EXPECT_EQ(text.Delete(1, 2), 4);
+  EXPECT_EQ(text.Delete(2, 99), 2);
+  EXPECT_EQ(text.Delete(7, 1), 2);
+  EXPECT_EQ(text, "ad");
+}
+
+TEST(String, TrimsAndChangesAsciiOnly) {
+  CString text(" \t\r\n\v\fMaß \xE4 ");
+  EXPECT_EQ(text.TrimLeft().TrimRight(), "Maß \xE4");
+  EXPECT_EQ(text.MakeUpper(), "MAß \xE4");
+  EXPECT_EQ(text.MakeLower(), "maß \xE4");
+  EXPECT_EQ(CString("))a;)").TrimRight(");").TrimLeft(")"), "a");
+  EXPECT_EQ(CString("  ").TrimRight(), "");
+}
+
+TEST(String, TokenizesUntilTheStartIsMinusOne) {
+  const CString text("  ab  c");
+  int start = 0;
+  EXPECT_EQ(text.Tokenize(" ", start), "ab");
+  EXPECT_EQ(start, 5);
+  EXPECT_EQ(text.Tokenize(" ", start), "c");
+  EXPECT_EQ(text.Tokenize(" ", start), "");
+  EXPECT_EQ(start, -1);
+  EXPECT_THROW(static_cast<void>(text.Tokenize(" ", start)), CInvalidArgException);
+}
+
+TEST(String, KeepsShortAndLongTextsThroughCopiesAndGrowth) {
+  CString grown;
+  std::string expected;
+  for (const char c : {'a', 'b', '\0', 'c'}) {  // over the 15 bytes that stand in the object
+    for (int i = 0; i < 5; ++i) grown += c;
+    expected.append(5, c);
+    ASSERT_EQ(grown.View(), expected);
+    ASSERT_EQ(grown.GetString()[expected.size()], '\0');
+    const CString copy(grown);
+    grown += grown;
+    expected += expected;
+    ASSERT_EQ(grown.View(), expected);
+    CString moved(std::move(grown));
+    grown = copy;
+    ASSERT_EQ(grown.View(), expected.substr(0, expected.size() / 2));
+    grown = std::move(moved);
+  }
+  grown = grown.View().substr(3, 20);
+  EXPECT_EQ(grown.View(), expected.substr(3, 20));
+  grown = "x";
+  EXPECT_EQ(grown, "x");
+  static_assert(sizeof(CString) == 16);
+}
+
+TEST(String, CopiesOfLongTextsBehaveLikeTextsOfTheirOwn) {
+  const std::string text(100, 'a');
+  const auto changed = [&](auto change) {
+    const CString original(text);
+    CString copy(original);
+    EXPECT_EQ(copy.GetString(), original.GetString());  // they share the bytes until one changes
+    change(copy);
+    EXPECT_EQ(original.View(), text);
+    return copy;
+  };
+  EXPECT_EQ(changed([](CString& copy) { copy += 'b'; }).View(), text + 'b');
+  EXPECT_EQ(changed([](CString& copy) { copy = ""; }), "");
+  EXPECT_EQ(changed([](CString& copy) { copy.Delete(1, 98); }), "aa");
+  EXPECT_EQ(changed([](CString& copy) { copy.MakeUpper(); }).View(), std::string(100, 'A'));
+  EXPECT_EQ(changed([](CString& copy) { copy.ReleaseBuffer(16); }).View(), text.substr(0, 16));
+  CString written(text);
+  char* const bytes = written.GetBuffer(100);
+  const CString copyWhileWritten(written);
+  bytes[0] = 'b';
+  EXPECT_EQ(copyWhileWritten.View(), text);
+}
+
+TEST(String, FormatsAndLendsItsBuffer) {
+  CString text;
+  text.Format("%d:%s", 7, "x");
+  EXPECT_EQ(text, "7:x");
+  text.GetBuffer(5)[1] = '\0';
+  text.ReleaseBuffer();
+  EXPECT_EQ(text, "7");
+  EXPECT_THROW(text.ReleaseBuffer(2), CInvalidArgException);
+}
+
+}  // namespace
+}  // namespace kestrin

@@ -1,0 +1,289 @@
+#include <gtest/gtest.h>
+
+#include <map>
+#include <string>
+
+#include "kestrin/geometry/geometry_reader.h"
+#include "tests/geometry/described_model.h"
+#include "tests/support/feed.h"
+
+namespace kestrin {
+namespace {
+
+/// Create commands by the word that starts a case.
+const std::map<std::string, std::string> kOpenings = {
+    {"none", ""},
+    {"locked", "$$lock_windows()\n"},
+    {"board", "$$create_board()\n"},
+    {"panel", "$$create_panel()\n"},
+    {"component", "$$create_component()\n"},
+    {"part", "$$create_generic_part()\n"},
+    {"pin", "$$create_pin()\n"},
+    {"via", "$$create_via()\n"},
+    {"drawing", "$$create_drawing()\n"},
+    {"probe", "$$create_probe()\n"},
+    {"stackup", "$$create_stackup(S)\n"},
+};
+
+/// The lines of attributes, cut at "|", in a geometry; "pending" stands for the pending points 7, "", 9.
+struct Case {
+  const char* opened;
+  const char* attributes;
+  const char* model;
+};
+
+std::string LinesOf(const Case& c) {
+  std::string text = kOpenings.at(c.opened);
+  std::istringstream attributes(c.attributes);
+  for (std::string attribute; std::getline(attributes, attribute, '|');) {
+    text += attribute == "pending" ? "$$initial([7, \"\", 9])\n" : "$$attribute(" + attribute + ");\n";
+  }
+  return text;
+}
+
+void ExpectModels(std::initializer_list<Case> cases) {
+  for (const Case& c : cases) {
+    CMGeom geom;
+    GeometryReader reader(geom);
+    test::Feed(reader, LinesOf(c));
+    EXPECT_EQ(Described(geom), c.model) << LinesOf(c);
+  }
+}
+
+TEST(GeomAttributes, OfTheStackup) {
+  ExpectModels({
+      {"stackup", R"("Signal_Layer_Definition_X", "1", " SIGNAL_1" ,"", " ", 0.5)",
+       "stackup{name=S layers=[SIGNAL_LAYER_DEFINITION_X{values=[1| SIGNAL_1| |0.5]}]}"},
+      {"stackup", R"(LAYER_DEFINITION, ["1", a[b, "TOP"], "X,Y")",
+       "stackup{name=S layers=[LAYER_DEFINITION{values=[X|Y]}]}"},
+      {"stackup", "LAYER_DEFINITION|BOARD_DEFAULT_VIA, V|POWER_NET_NAMES, N",
+       "stackup{name=S layers=[LAYER_DEFINITION{}]}"},
+      {"board", "LAYER_DEFINITION, 1", ""},
+  });
+}
+
+TEST(GeomAttributes, OfTheBoundBoardInEveryKind) {
+  ExpectModels({
+      {"locked", "\"board_default_padstack\", \" P,1 \"|BOARD_DEFAULT_VIA, \"V\"",
+       "board{padstack= P,1  via=V}"},
+      {"locked", "BOARD_DEFAULT_VIA, V|BOARD_DEFAULT_VIA", "board{via=V}"},
+      {"locked", "BOARD_DEFAULT_VIA, V|BOARD_DEFAULT_VIA, \"\"", ""},
+      {"locked", "BOARD_PLACEMENT_CLEARANCE, 1, \"[2.5\", [3]", "board{clearance=2.5}"},
+      {"locked", "BOARD_PLACEMENT_CLEARANCE, [2]|BOARD_PLACEMENT_CLEARANCE, 3", "board{clearance=2}"},
+      {"locked", "BOARD_ROUTING_LAYERS, [4.9]", "board{layers=4}"},
+      {"locked", "BOARD_ROUTING_LAYERS, x], a[4|BOARD_ROUTING_LAYERS, [[8", "board{layers=8}"},
+      {"locked", "BOARD_PLACEMENT_OUTLINE, 5, [1, 2, , 4], [6]|BOARD_PLACEMENT_OUTLINE, [8, 9]",
+       "board{placement=[1 2 0 4 8 9]}"},
+      {"locked", "BOARD_PLACEMENT_OUTLINE, [1, \"2,3\", [, 4, ]", "board{placement=[1 2 0 4 0]}"},
+      {"locked", "pending|BOARD_PLACEMENT_OUTLINE|BOARD_PLACEMENT_OUTLINE", "board{placement=[7 0 9]}"},
+      {"locked", "pending|BOARD_PLACEMENT_OUTLINE, [1]|BOARD_PLACEMENT_OUTLINE", "board{placement=[1]}"},
+      {"locked", "BOARD_ROUTING_OUTLINE, [1, 2]|BOARD_ROUTING_OUTLINE, [3, 4]", "board{routing=[3 4]}"},
+      {"locked", "BOARD_ROUTING_OUTLINE, [1, 2]|BOARD_ROUTING_OUTLINE", ""},
+      {"locked", "pending|BOARD_ROUTING_OUTLINE, 5]", "board{routing=[7 0 9]}"},
+      // without a bound board nothing happens at all
+      {"pin", "pending|BOARD_PLACEMENT_OUTLINE, [1]|BOARD_ROUTING_OUTLINE|TERMINAL_DRILL_SIZE",
+       "pin{drill=7}"},
+  });
+}
+
+TEST(GeomAttributes, OfTheOpenBoard) {
+  ExpectModels({
+      {"board", R"("BOARD_PLACEMENT_KEEPOUT", "K", [0, 0, 1, 0])", "board{noplace=[{name=K at=[0 0 1 0]}]}"},
+      {"board", "BOARD_PLACEMENT_KEEPOUT, [K, 1, [2, 3], 4, [5", "board{noplace=[{name=[K at=[2 3]}]}"},
+      {"board", "pending|BOARD_PLACEMENT_KEEPOUT, \"\"", "board{noplace=[{at=[7 0 9]}]}"},
+      {"board", "pending|BOARD_PLACEMENT_KEEPOUT, [1, 2]", "board{noplace=[{name=[1 at=[7 0 9]}]}"},
+      {"locked", "pending|BOARD_PLACEMENT_KEEPOUT, K, [1]|BOARD_PLACEMENT_OUTLINE", ""},
+      {"none", "pending|BOARD_PLACEMENT_REGION", ""},
+      {"board", "BOARD_PLACEMENT_REGION, 5], [1, 2], [3]", "board{regions=[{at=[1 2]}]}"},
+      {"board", "BOARD_PLACEMENT_REGION, N, [1, 2]|pending|BOARD_PLACEMENT_REGION",
+       "board{regions=[{at=[1 2]} {at=[7 0 9]}]}"},
+      {"board", R"(POWER_NET_NAMES, "'VCC'", "", G'N'D, "A,B", ''|pending|POWER_NET_NAMES)",
+       "board{power=[VCC||GND|A|B|]}"},
+      {"locked", "POWER_NET_NAMES, GND", ""},
+  });
+}
+
+TEST(GeomAttributes, OfTheLastComponentInEveryKind) {
+  ExpectModels({
+      {"component", R"(COMPONENT_DEFAULT_PADSTACK, "P"|COMPONENT_LAYOUT_TYPE, "a,b")",
+       "component{padstack=P layout=a,b}"},
+      {"component", "COMPONENT_LAYOUT_SURFACE, top", "component{surface=top}"},
+      {"component", "COMPONENT_LAYOUT_SURFACE", "component{}"},
+      {"component", "COMPONENT_LAYOUT_SURFACE, \"\"", "component{surface=}"},
+      {"component", R"(COMPONENT_OUTLINE_OVERHANG, "oh yes")", "component{overhang=1}"},
+      {"component", "COMPONENT_OUTLINE_OVERHANG, Yes|COMPONENT_OUTLINE_OVERHANG, no", "component{}"},
+      {"part", "COMPONENT_LAYOUT_TYPE, smd|COMPONENT_OUTLINE_OVERHANG, yes", "part{}"},
+  });
+  CMGeom geom;
+  GeometryReader reader(geom);
+  test::Feed(reader,
+             "$$create_component(C)\n$$create_pin(P)\n$$attribute(COMPONENT_LAYOUT_TYPE, smd)\n"
+             "$$attribute(COMPONENT_DEFAULT_PADSTACK, D)\n$$attribute(COMPONENT_LAYOUT_SURFACE, top)\n"
+             "$$attribute(COMPONENT_OUTLINE_OVERHANG, yes)");
+  const CMGeomComponent& component = *geom.m_pComponents->GetAt(0);
+  EXPECT_EQ(component.m_sLayoutType, "smd");
+  EXPECT_EQ(component.m_sDefaultPadstack, "D");
+  EXPECT_EQ(component.m_sLayoutSurface, "top");
+  EXPECT_EQ(component.m_bOutlineOverhang, 1);
+}
+
+TEST(GeomAttributes, OfTheOpenComponent) {
+  ExpectModels({
+      {"component", R"("component_height", [5.5])", "component{height=5.5}"},
+      {"component", "COMPONENT_HEIGHT, 5.5", "component{}"},
+      {"component", R"(COMPONENT_TYPE, "A,B")", "component{type=A}"},
+      {"component", "COMPONENT_TYPE, A|COMPONENT_TYPE", "component{type=A}"},
+      {"component", R"(COMPONENT_PADSTACK_OVERRIDE, "1", P, x|COMPONENT_PADSTACK_OVERRIDE, "", Q)",
+       "component{overrides=[{1=1 2=P} {2=Q}]}"},
+      {"component", "COMPONENT_PADSTACK_OVERRIDE", "component{overrides=[{}]}"},
+      {"component", R"(COMPONENT_PIN_DEFINITION, "1", x, [1.5, -2], [3, 4])",
+       "component{pins=[{name=1 x=1.5 y=-2}]}"},
+      {"component", "COMPONENT_PIN_DEFINITION, [1, 2], 3, [4], 5]", "component{pins=[{name=[1 x=4 y=2}]}"},
+      {"component", "pending|COMPONENT_PIN_DEFINITION, 1, 2]|COMPONENT_PIN_DEFINITION",
+       "component{pins=[{name=1 x=7} {}]}"},
+      {"component", "pending|COMPONENT_PIN_DEFINITION, 1, [2|COMPONENT_PIN_DEFINITION",
+       "component{pins=[{name=1 x=2} {}]}"},
+      {"pin", "COMPONENT_HEIGHT, [5]|COMPONENT_TYPE, A|COMPONENT_PADSTACK_OVERRIDE, 1, 2", "pin{}"},
+      {"pin", "pending|COMPONENT_PIN_DEFINITION, 1, [2, 3]|TERMINAL_DRILL_SIZE", "pin{drill=7}"},
+  });
+}
+
+TEST(GeomAttributes, OfPartsAndBoards) {
+  ExpectModels({
+      // outlines
+      {"component", "COMPONENT_BODY_OUTLINE, [1, 2], [3]|COMPONENT_BODY_OUTLINE, [4, , \"5,6\"]",
+       "component{body=[1 2 4 0 5]}"},
+      {"part", "pending|COMPONENT_BODY_OUTLINE", "part{body=[7 0 9]}"},
+      {"component", R"(COMPONENT_PLACEMENT_OUTLINE, "O", 1], 2, [3, "", 4], 5, [6])",
+       "component{placements=[{name=O at=[1 3 4 6]}]}"},
+      {"component", "pending|COMPONENT_PLACEMENT_OUTLINE, \"\", \"\"|COMPONENT_PLACEMENT_OUTLINE, P",
+       "component{placements=[{at=[7 0 9]} {name=P}]}"},
+      {"part", "COMPONENT_PLACEMENT_OUTLINE, O, [1, 2]|COMPONENT_PLACEMENT_OUTLINE, P, [3]",
+       "part{placement=[1 2 3]}"},
+      // drills
+      {"panel", R"("DRILL_DEFINITION", 0.8, [1.0, 2.0])", "panel{drills=[{size=0.8 x=1 y=2}]}"},
+      {"board", R"(DRILL_DEFINITION_UNPLATED, "0.8", 1], [2, 3], 4], [5])",
+       "board{unplated=[{size=0.8 x=2 y=1}]}"},
+      {"component", "pending|DRILL_DEFINITION, [1, 3]|DRILL_DEFINITION_UNPLATED, 2",
+       "component{drills=[{x=7}] unplated=[{size=2}]}"},
+      {"part", "DRILL_DEFINITION, 1, [2|DRILL_DEFINITION", "part{drills=[{size=1 x=2} {}]}"},
+      // keep-outs
+      {"board", R"(ROUTING_KEEPOUT, "K", [0,0, 1,0], 5, [2], "3]", "")",
+       "board{noroute=[{name=K at=[0 0 1 0 2 3]}]}"},
+      {"component", R"(ROUTING_KEEPOUT, K, ], [1, "", ])", "component{noroute=[{name=K at=[0 1 0 0]}]}"},
+      {"part", "pending|ROUTING_KEEPOUT, \"\"|ROUTING_KEEPOUT, [N, 2]",
+       "part{noroute=[{at=[7 0 9]} "
+       "{name=[N at=[2]}]}"},
+      {"component", "TRACE_KEEPOUT, T, [1, 2]|VIA_KEEPOUT, V, [3, 4]",
+       "component{notrace=[{name=T at=[1 2]}] novia=[{name=V at=[3 4]}]}"},
+      {"part", "VIA_KEEPOUT, V|pending|TRACE_KEEPOUT, T",
+       "part{notrace=[{name=T at=[7 0 9]}] novia=[{name=V}]}"},
+  });
+}
+
+TEST(GeomAttributes, OfPinsAndVias) {
+  ExpectModels({
+      {"pin", "TERMINAL_SURFACE_DEFINITION, x", "pin{type=2}"},
+      {"pin", "TERMINAL_BLIND_DEFINITION", "pin{type=3}"},
+      {"pin", "TERMINAL_BLIND_DEFINITION|TERMINAL_THRUHOLE_DEFINITION|TERMINAL_THRUVIA_DEFINITION", "pin{}"},
+      {"via", "TERMINAL_THRUVIA_DEFINITION|TERMINAL_SURFACE_DEFINITION", "via{type=1}"},
+      {"via", "TERMINAL_BURIED_VIA_DEFINITION", "via{type=2}"},
+      {"via", "TERMINAL_SEGMENT_VIA_DEFINITION", "via{type=3}"},
+      {"via", "TERMINAL_2_LAYER_VIA_DEFINITION", "via{type=4}"},
+      {"pin", "TERMINAL_DRILL_SIZE, 5, [0.8]", "pin{drill=0.8}"},
+      {"via", "pending|TERMINAL_DRILL_SIZE, [1]|TERMINAL_DRILL_SIZE", "via{drill=7}"},
+      {"pin", "pending|TERMINAL_DRILL_SIZE|TERMINAL_DRILL_SIZE, [1]", "pin{drill=1}"},
+  });
+}
+
+/// What a line does to the pending points, and whether it is said to be lost, in every kind of geometry: an
+/// upper-case letter for a kind that keeps it, "." for one where it is skipped; then "!" if it leaves the
+/// pending points in some kind.
+TEST(GeomAttributes, AreKeptAndUsePendingPointsUpByKind) {
+  struct Row {
+    const char* attribute;
+    const char* kinds;
+  };
+  // board, panel, component, part, pin, via, drawing, probe, stackup
+  const Row rows[] = {
+      {"BOARD_PLACEMENT_KEEPOUT, K, [1, 2]", "B........"},
+      {"BOARD_PLACEMENT_REGION, [1, 2]", "B........"},
+      {"COMPONENT_BODY_OUTLINE, [1, 2]", "..CG....."},
+      {"COMPONENT_PLACEMENT_OUTLINE, O, [1]", "..CG....."},
+      {"DRILL_DEFINITION, 1, [1, 2]", "BPCG....."},
+      {"DRILL_DEFINITION_UNPLATED, 1, [1]", "BPCG....."},
+      {"ROUTING_KEEPOUT, K, [1, 2]", "B.CG....."},
+      {"TRACE_KEEPOUT, K, [1, 2]", "..CG....."},
+      {"VIA_KEEPOUT, K, [1, 2]", "..CG....."},
+      {"TERMINAL_DRILL_SIZE, [1]", "....TV..."},
+      {"COMPONENT_PIN_DEFINITION, 1, [1, 2]", "..C......!"},
+      {"COMPONENT_HEIGHT, [1]", "..C......!"},
+      {"COMPONENT_TYPE, T", "..C......!"},
+      {"COMPONENT_PADSTACK_OVERRIDE, 1", "..C......!"},
+      {"POWER_NET_NAMES, N", "B........!"},
+      {"TERMINAL_BLIND_DEFINITION", "....T....!"},
+      {"TERMINAL_BURIED_VIA_DEFINITION", ".....V...!"},
+      {"COMPONENT_LAYOUT_TYPE, T", "..C......!"},
+      {"BOARD_DEFAULT_VIA, V", "B........!"},
+  };
+  const char* kinds[] = {"board", "panel", "component", "part", "pin", "via", "drawing", "probe", "stackup"};
+  for (const Row& row : rows) {
+    std::string kept;
+    bool leavesPending = false;
+    for (std::size_t i = 0; i < std::size(kinds); ++i) {
+      CMGeom geom;
+      GeometryReader reader(geom);
+      test::Feed(reader, kOpenings.at(kinds[i]) + "$$initial([7])");
+      const std::string before = Described(geom);
+      const auto outcome = reader.ReadLine("$$attribute(" + std::string(row.attribute) + ")");
+      const bool changed = Described(geom) != before;
+      EXPECT_EQ(outcome == LineOutcome::Imported(), changed) << row.attribute << " in " << kinds[i];
+      kept += changed ? "BPCGTVDQS"[i] : '.';
+      test::Feed(reader, "$$create_drawing()\n$$path()");
+      const CMGeomDrawing* last = geom.m_pDrawings->GetAt(geom.m_pDrawings->GetUpperBound());
+      const bool left = Described(*last) == "drawing{draw=[LINE{at=[7]}]}";
+      if (std::string(kinds[i]) == "stackup") {
+        EXPECT_TRUE(left) << row.attribute;
+      } else {
+        leavesPending = leavesPending || left;
+      }
+    }
+    EXPECT_EQ(kept + (leavesPending ? "!" : ""), row.kinds) << row.attribute;
+  }
+}
+
+TEST(GeomAttributes, TellWhatBecameOfALine) {
+  struct Line {
+    const char* line;
+    const char* outcome;
+  };
+  const Line lines[] = {
+      {"$$create_via(V)", "imported"},
+      {"$$attribute()", "$$attribute needs a name"},
+      {"$$attribute( \"\" , x)", "$$attribute needs a name"},
+      {"$$attribute(\" \", x)", "the attribute is none that is read from this file"},
+      {"$$attribute(NOVELTY)", "the attribute is none that is read from this file"},
+      {"$$attribute(TESTPOINT_KEEPOUT, K)", "ignored"},
+      {"$$attribute(BOARD_DEFAULT_VIA, V)", "the attribute needs $$lock_windows or $$create_board before it"},
+      {"$$attribute(COMPONENT_LAYOUT_TYPE, T)", "the attribute needs a component before it"},
+      {"$$attribute(TRACE_KEEPOUT, T)", "the attribute needs a component or generic part to stand in"},
+      {"$$attribute(TERMINAL_DRILL_SIZE, 1)", "the attribute needs a number in square brackets"},
+      {"$$create_component(C)", "imported"},
+      {"$$attribute(COMPONENT_TYPE)",
+       "the attribute takes at least 2 values, its name being the first, this line has 1"},
+      {"$$attribute(COMPONENT_HEIGHT, 1)", "the attribute needs a number in square brackets"},
+      {"$$create_stackup(S)", "imported"},
+      {"$$attribute(TESTPOINT_KEEPOUT, K)", "ignored"},
+      {"$$attribute(COMPONENT_TYPE, A)",
+       "the attribute needs another geometry than the stack-up to stand in"},
+      {"$$attribute(NOVELTY)", "the attribute is none that is read from this file"},
+  };
+  CMGeom geom;
+  GeometryReader reader(geom);
+  for (const Line& line : lines) {
+    EXPECT_EQ(test::Told(reader.ReadLine(line.line)), line.outcome) << line.line;
+  }
+}
+
+}  // namespace
+}  // namespace kestrin
