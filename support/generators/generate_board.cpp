@@ -1,20 +1,9 @@
 #include <fstream>
 
+#include "support/generators/board/board_plan.h"
 #include "support/generators/generators.h"
 
 namespace kestrin::test {
-namespace {
-
-/// What a file has of a board's bytes.
-std::uint64_t SizeOnBoard(std::string_view kind, std::uint64_t size) {
-  constexpr std::uint64_t kTechSize = 2'000;
-  if (kind == "traces") return size / 10 * 7;
-  if (kind == "geometry") return size / 10 * 2;
-  if (kind == "neutral") return size / 10;
-  return kTechSize;
-}
-
-}  // namespace
 
 bool WriteGenerated(const GeneratedFile& file, const std::string& path, std::uint64_t size) {
   std::ofstream out(path, std::ios::binary);
@@ -22,10 +11,19 @@ bool WriteGenerated(const GeneratedFile& file, const std::string& path, std::uin
   return static_cast<bool>(out.flush());
 }
 
-bool GenerateBoard(const std::string& folder, std::uint64_t size) {
-  for (const GeneratedFile& file : kGeneratedFiles) {
-    const std::string path = folder + "/board." + std::string(file.kind);
-    if (!WriteGenerated(file, path, SizeOnBoard(file.kind, size))) return false;
+bool GenerateBoard(const std::string& folder, std::uint64_t legs) {
+  struct BoardFile {
+    const char* name;
+    void (*write)(std::ostream& out, const BoardPlan& plan);
+  };
+  const BoardPlan plan = PlanBoard(legs);
+  for (const BoardFile& file : {BoardFile{"/board.tech", &WriteTech},
+                                {"/board.neutral", &WriteNeutral},
+                                {"/board.geometry", &WriteGeometry},
+                                {"/board.traces", &WriteTraces}}) {
+    std::ofstream out(folder + file.name, std::ios::binary);
+    file.write(out, plan);
+    if (!out.flush()) return false;
   }
   return true;
 }

@@ -41,9 +41,12 @@ inline constexpr GeneratedFile kGeneratedFiles[] = {
 /// Writes one file; false when it cannot be written.
 [[nodiscard]] bool WriteGenerated(const GeneratedFile& file, const std::string& path, std::uint64_t size);
 
-/// Writes the four files of a board into an existing folder, as board.tech and so on. Together they are about
-/// size bytes long: most of it traces, and a Tech file of a few lines, as real boards have it. False when
-/// they cannot be written.
-[[nodiscard]] bool GenerateBoard(const std::string& folder, std::uint64_t size);
+/// Writes the four files of a board into an existing folder, as board.tech and so on; false when they cannot
+/// be written. The files agree: pins lie where tracks begin, and all names and layers exist. The tracks have
+/// about so many legs, which is the number of SEG lines.
+[[nodiscard]] bool GenerateBoard(const std::string& folder, std::uint64_t legs);
+
+/// How many bytes the four files have for each leg, about.
+inline constexpr std::uint64_t kBoardBytesPerLeg = 43;
 
 }  // namespace kestrin::test
