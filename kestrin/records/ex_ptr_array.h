@@ -75,9 +75,13 @@ class CExPtrArray : public CArray<POINTER, ARG_POINTER> {
   /// indexes outside this array, and both arrays stay as they were.
   bool MoveElementTo(Base& destination, const std::int32_t& first, const std::int32_t& last);
 
+  // A destructor may look at the array: its record's slot is removed only after it. Where several records are
+  // deleted, the slots of those before it are null until all are gone.
+
   /// Deletes the record and removes its first slot; false when there is none.
   bool Delete(POINTER element);
-  /// Deletes the records in a range and removes their slots. Raises once it has run beyond the end.
+  /// Deletes the records in a range, in order, and removes their slots. Raises once it has run beyond the
+  /// end.
   void DeleteAt(std::int32_t index, std::int32_t count = 1);
   /// Deletes the last record and removes its slot; false when empty.
   bool DeleteLastElement();
@@ -85,8 +89,7 @@ class CExPtrArray : public CArray<POINTER, ARG_POINTER> {
   void DeleteAll();
 
  private:
-  // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the delete operations own what they are called for
-  static void DeleteRecord(POINTER element) { delete element; }
+  void DeleteRecords(std::int64_t first, std::int64_t count);
   [[nodiscard]] bool IsInside(std::int64_t index) const { return index >= 0 && index < this->m_nSize; }
   void CutAt(const POINTER* newEnd) { this->RemoveAt(newEnd - this->begin(), this->end() - newEnd); }
 };
@@ -154,7 +157,7 @@ void CExPtrArray<POINTER, ARG_POINTER>::DeleteAt(std::int32_t index, std::int32_
   if (count <= 0) return;
   if (!IsInside(index)) AfxThrowInvalidArgException();
   const std::int64_t inside = std::min<std::int64_t>(count, this->m_nSize - index);
-  std::for_each_n(this->m_pData + index, inside, &DeleteRecord);
+  DeleteRecords(index, inside);
   this->RemoveAt(index, inside);
   if (inside < count) AfxThrowInvalidArgException();
 }
@@ -162,14 +165,25 @@ void CExPtrArray<POINTER, ARG_POINTER>::DeleteAt(std::int32_t index, std::int32_
 template <class POINTER, class ARG_POINTER>
 bool CExPtrArray<POINTER, ARG_POINTER>::DeleteLastElement() {
   if (this->IsEmpty()) return false;
-  DeleteRecord(RemoveLastElement());
+  const std::int64_t last = GetLastIndex();
+  DeleteRecords(last, 1);
+  this->RemoveAt(last);
   return true;
 }
 
 template <class POINTER, class ARG_POINTER>
 void CExPtrArray<POINTER, ARG_POINTER>::DeleteAll() {
-  std::for_each(this->begin(), this->end(), &DeleteRecord);
+  DeleteRecords(0, this->m_nSize);
   this->SetSize(0);
+}
+
+/// Leaves the slots null. Every access is checked, as a destructor may even shorten the array.
+template <class POINTER, class ARG_POINTER>
+void CExPtrArray<POINTER, ARG_POINTER>::DeleteRecords(std::int64_t first, std::int64_t count) {
+  for (std::int64_t i = first; i < first + count; ++i) {
+    delete GetAt(i);  // NOLINT(cppcoreguidelines-owning-memory): a delete operation owns its records
+    SetAt(i, nullptr);
+  }
 }
 
 }  // namespace kestrin

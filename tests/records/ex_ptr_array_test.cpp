@@ -129,6 +129,43 @@ TEST_F(ExPtrArray, DeletesOnlyByItsDeleteOperations) {
   EXPECT_EQ(array.GetData(), nullptr);
 }
 
+/// A record that writes down, when it is deleted, the names that its array holds then.
+struct Observer : Record {
+  Observer(char newName, std::string& newLog, Array& newArray) : Record(newName, newLog), array(newArray) {}
+  Observer(const Observer&) = delete;
+  Observer& operator=(const Observer&) = delete;
+  ~Observer() override {
+    for (const Record* record : array) log += record == nullptr ? '-' : record->name;
+    log += ' ';
+  }
+  Array& array;
+};
+
+TEST_F(ExPtrArray, DestructorsFindTheirRecordInTheArrayAndNoneThatIsGone) {
+  struct Case {
+    void (*remove)(Array&);
+    std::string seen;  // by each destructor, and its name
+  };
+  const Case cases[] = {
+      {[](Array& array) { array.Delete(array.GetAt(1)); }, "12345 2"},
+      {[](Array& array) { array.DeleteLastElement(); }, "12345 5"},
+      {[](Array& array) { array.DeleteAt(1); }, "12345 2"},
+      {[](Array& array) { array.DeleteAt(1, 3); }, "12345 21-345 31--45 4"},
+      {[](Array& array) { EXPECT_THROW(array.DeleteAt(3, 3), CInvalidArgException); }, "12345 4123-5 5"},
+      {[](Array& array) { array.DeleteAll(); }, "12345 1-2345 2--345 3---45 4----5 5"},
+  };
+  for (const Case& c : cases) {
+    Array array;
+    for (const char name : {'1', '2', '3', '4', '5'}) {
+      array.Add(std::make_unique<Observer>(name, deleted_, array).release());
+    }
+    c.remove(array);
+    EXPECT_EQ(deleted_, c.seen);
+    array.DeleteAll();
+    deleted_.clear();
+  }
+}
+
 TEST_F(ExPtrArray, OwningArraysDeleteTheirRecordsOnce) {
   {
     Owning<Array> array;
