@@ -22,10 +22,10 @@ std::string Placeholder(std::string_view string) {
 CTokenizer::CTokenizer(const CString& string, const CString& delimiters) { Load(string, delimiters); }
 
 void CTokenizer::Load(const CString& string, const CString& delimiters) {
+  m_Delimiters.reset();
+  SetDelimiters(delimiters);  // before the string changes, which may be the delimiters
   m_sString = string;
   m_nCurPos = 0;
-  m_Delimiters.reset();
-  SetDelimiters(delimiters);
 }
 
 void CTokenizer::SetDelimiters(const CString& delimiters) { AddCharacters(m_Delimiters, delimiters.View()); }
@@ -69,7 +69,9 @@ void CTokenizer::GetStringArrayFromStringToken(CString& string, CStringArray& en
   std::string entry;
   bool open = false;  // the entry is a phrase whose closing quote has not come yet
   std::size_t position = 0;
-  while (const auto word = NextToken(string.View(), space, position)) {
+  // The string may be one of the array's, which moves them as it grows.
+  const std::string copy(string.View());
+  while (const auto word = NextToken(copy, space, position)) {
     const auto quotes = std::count(word->begin(), word->end(), '"');
     open = open ? quotes == 0 : quotes == 1 && word->front() == '"';
     entry += *word;

@@ -136,6 +136,35 @@ TEST(Tokenizer, FillsArraysAndGoesBackToTheStart) {
   EXPECT_EQ(Strings(tokens), (Fields{"one piece"}));
 }
 
+TEST(Tokenizer, CutsStringsOfTheArrayThatItFills) {
+  const std::vector<std::string> expected{"a b c d e f g h", " ", "a", "b", "c", "d", "e", "f", "g", "h"};
+  using Cut = void (*)(CTokenizer&, CStringArray&);
+  const Cut cuts[] = {
+      [](CTokenizer& tokenizer, CStringArray& array) {
+        tokenizer.GetStringArrayFromStringToken(array[0], array);
+      },
+      [](CTokenizer& tokenizer, CStringArray& array) { tokenizer.GetTokenArray(array, array[0], array[1]); },
+      [](CTokenizer& tokenizer, CStringArray& array) {
+        tokenizer.GetTokenArrayByFullString(array, array[0], array[1]);
+      },
+      [](CTokenizer& tokenizer, CStringArray& array) {
+        tokenizer.m_sString = " ";
+        tokenizer.GetTokenArray(array, array[0], tokenizer.m_sString);
+      },
+      [](CTokenizer&, CStringArray& array) {
+        CPC_KESTRIN_GET().SeparateLineBasedonSpace(array[0], -1, array);
+      },
+  };
+  for (const Cut& cut : cuts) {
+    CStringArray array;
+    array.Add(expected[0]);
+    array.Add(expected[1]);
+    CTokenizer tokenizer;
+    cut(tokenizer, array);
+    EXPECT_EQ(Strings(array), expected);
+  }
+}
+
 TEST(Tokenizer, CutsAtALongerDelimiter) {
   ExpectCuts(
       {
