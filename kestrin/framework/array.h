@@ -19,6 +19,9 @@ namespace kestrin {
 /// A growable array of values or of pointers; ARG_TYPE is how elements are passed in. Indexes and sizes are
 /// 64-bit; an index outside the array raises CInvalidArgException and leaves the array as it was.
 ///
+/// Where copying an element raises, appending and growing leave the array as it was; after any other
+/// operation the array is valid, but its elements may be partly changed.
+///
 /// An array of pointers never deletes what they point to: removing, clearing and destroying drop pointers
 /// only.
 template <class TYPE, class ARG_TYPE = const TYPE&>
@@ -151,6 +154,10 @@ void CArray<TYPE, ARG_TYPE>::SetAtGrow(std::int64_t index, ARG_TYPE element) {
     m_pData[index] = element;
     return;
   }
+  if (index == m_nSize) {
+    Add(element);
+    return;
+  }
   TYPE value(element);  // the element may stand in the memory that is about to move
   SetSize(SizeOf(index, 1));
   m_pData[index] = std::move(value);
@@ -169,8 +176,10 @@ template <class TYPE, class ARG_TYPE>
 std::int64_t CArray<TYPE, ARG_TYPE>::Append(const CArray& source) {
   if (this == &source) AfxThrowInvalidArgException();
   const std::int64_t first = m_nSize;
-  SetSize(m_nSize + source.m_nSize);
-  std::copy_n(source.m_pData, source.m_nSize, m_pData + first);
+  if (source.IsEmpty()) return first;
+  Reserve(SizeOf(first, source.m_nSize), m_nGrowBy);
+  std::uninitialized_copy_n(source.m_pData, source.m_nSize, m_pData + first);
+  m_nSize += source.m_nSize;
   return first;
 }
 

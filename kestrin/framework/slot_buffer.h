@@ -41,25 +41,44 @@ inline constexpr std::int64_t kGreatestStep = 1024;
 // NOLINTBEGIN(cppcoreguidelines-owning-memory,bugprone-sizeof-expression): here slots are raw memory, that of
 // pointers is the size of pointers, and realloc is what grows in place.
 
+/// Frees what malloc gave.
+struct FreeMemory {
+  /// Frees it; null is nothing.
+  void operator()(void* memory) const noexcept { std::free(memory); }
+};
+
+/// Moves slots to other memory; those whose move may raise are copied, so that nothing has changed when it
+/// does.
+template <class T>
+void MoveSlots(T* slots, std::int64_t used, T* memory) {
+  if constexpr (std::is_nothrow_move_constructible_v<T> || !std::is_copy_constructible_v<T>) {
+    std::uninitialized_move_n(slots, used, memory);
+  } else {
+    std::uninitialized_copy_n(slots, used, memory);
+  }
+  std::destroy_n(slots, used);
+}
+
 /// Moves the first used slots to memory for another number of slots and returns it; in place where the
-/// allocator can. Raises std::bad_alloc, and then nothing has moved.
+/// allocator can. Raises std::bad_alloc or what copying a slot raises, and then nothing has moved.
 template <class T>
 [[nodiscard]] T* ReallocateSlots(T* slots, std::int64_t used, std::int64_t count) {
-  static_assert(alignof(T) <= alignof(std::max_align_t));
+  static_assert(alignof(T) <= alignof(std::max_align_t), "arrays have no over-aligned elements");
   if (static_cast<std::uint64_t>(count) > std::numeric_limits<std::size_t>::max() / 2 / sizeof(T)) {
     throw std::bad_alloc();
   }
   const std::size_t bytes = static_cast<std::size_t>(count) * sizeof(T);
-  constexpr bool kMoveAsBytes = std::is_trivially_copyable_v<T>;
-  void* memory = kMoveAsBytes ? std::realloc(static_cast<void*>(slots), bytes) : std::malloc(bytes);
-  if (memory == nullptr) throw std::bad_alloc();
-  if constexpr (!kMoveAsBytes) {
-    static_assert(std::is_nothrow_move_constructible_v<T>);
-    std::uninitialized_move_n(slots, used, static_cast<T*>(memory));
-    std::destroy_n(slots, used);
+  if constexpr (std::is_trivially_copyable_v<T>) {
+    void* const memory = std::realloc(static_cast<void*>(slots), bytes);
+    if (memory == nullptr) throw std::bad_alloc();
+    return static_cast<T*>(memory);
+  } else {
+    std::unique_ptr<void, FreeMemory> memory(std::malloc(bytes));
+    if (memory == nullptr) throw std::bad_alloc();
+    MoveSlots(slots, used, static_cast<T*>(memory.get()));
     std::free(static_cast<void*>(slots));
+    return static_cast<T*>(memory.release());
   }
-  return static_cast<T*>(memory);
 }
 
 /// Destroys the used slots and frees the memory.

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <limits>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -121,6 +122,106 @@ TEST(Array, InsertsRemovesAppendsAndCopies) {
   other.Copy(other);
   array.Copy(other);
   EXPECT_EQ(Elements(array), (List{4, 4, 5, 5}));
+}
+
+/// A value that can be copied but not moved, and only so many times.
+class CostlyValue {
+ public:
+  CostlyValue() { ++alive; }
+  explicit CostlyValue(int newNumber) : number(newNumber) { ++alive; }
+  CostlyValue(const CostlyValue& other) : number(other.number) {
+    Spend();
+    ++alive;
+  }
+  CostlyValue& operator=(const CostlyValue& other) {
+    Spend();
+    number = other.number;
+    return *this;
+  }
+  ~CostlyValue() { --alive; }
+
+  int number = 0;
+  static inline int alive = 0;
+  static inline int copiesLeft = 0;
+
+ private:
+  static void Spend() {
+    if (--copiesLeft < 0) throw std::runtime_error("no copies left");
+  }
+};
+
+using CostlyArray = CArray<CostlyValue, CostlyValue&>;
+
+std::vector<int> NumbersOf(const CostlyArray& array) {
+  std::vector<int> numbers;
+  for (const CostlyValue& value : array) numbers.push_back(value.number);
+  return numbers;
+}
+
+/// Does something to arrays of 1 to 5 with ever more copies allowed, until it succeeds.
+template <class Change>
+void TryWithEverMoreCopies(bool undoes, Change change, const std::vector<int>& expected) {
+  for (int copies = 0;; ++copies) {
+    {
+      CostlyValue::copiesLeft = 1000;
+      CostlyArray array;
+      for (int i = 1; i <= 5; ++i) {
+        CostlyValue value(i);
+        array.Add(value);
+      }
+      CostlyValue::copiesLeft = copies;
+      try {
+        change(array);
+        EXPECT_EQ(NumbersOf(array), expected);
+        ASSERT_GT(copies, 0);
+        return;
+      } catch (const std::runtime_error&) {
+        EXPECT_TRUE(!undoes || NumbersOf(array) == (std::vector<int>{1, 2, 3, 4, 5})) << copies;
+      }
+    }
+    ASSERT_EQ(CostlyValue::alive, 0);
+  }
+}
+
+TEST(Array, OutlivesElementsWhoseCopyRaises) {
+  constexpr bool kUndoes = true;
+  using Values = std::vector<int>;
+  TryWithEverMoreCopies(
+      kUndoes, [](CostlyArray& array) { array.Add(array[0]); }, Values{1, 2, 3, 4, 5, 1});
+  TryWithEverMoreCopies(
+      kUndoes, [](CostlyArray& array) { array.SetAtGrow(5, array[0]); }, Values{1, 2, 3, 4, 5, 1});
+  TryWithEverMoreCopies(
+      kUndoes, [](CostlyArray& array) { array.SetSize(7); }, Values{1, 2, 3, 4, 5, 0, 0});
+  TryWithEverMoreCopies(
+      !kUndoes,
+      [](CostlyArray& array) {
+        array.RemoveAt(4);
+        array.FreeExtra();
+      },
+      Values{1, 2, 3, 4});
+  TryWithEverMoreCopies(
+      !kUndoes,
+      [](CostlyArray& array) {
+        CostlyArray other;
+        other.Copy(array);
+        array.Append(other);
+        array.InsertAt(1, other[4], 2);
+        array.InsertAt(0, &array);
+        array.RemoveAt(3, 20);
+      },
+      Values{1, 5, 5, 5});
+}
+
+TEST(StringArray, TakesItsOwnElements) {
+  CStringArray array;
+  array.Add("ten bytes.");
+  for (int i = 0; i < 20; ++i) array.Add(array[0]);
+  for (int i = 0; i < 20; ++i) array.Add(array[0].GetString());
+  for (int i = 0; i < 20; ++i) array.Add(array[0].View());
+  for (int i = 0; i < 20; ++i) array.SetAtGrow(array.GetSize(), array[0]);
+  for (int i = 0; i < 20; ++i) array.InsertAt(0, array[0]);
+  array.SetAt(0, array[0]);
+  for (const CString& string : array) EXPECT_EQ(string, "ten bytes.");
 }
 
 TEST(StringArray, HoldsValuesThroughGrowthAndGaps) {
