@@ -154,14 +154,12 @@ void CString::Format(const char* format, ...) {
   text_.Assign(result);
 }
 
-char* CString::GetBuffer(int minimumLength) {
-  text_.Resize(std::max(AtLeastZero(minimumLength), View().size()));
-  return text_.Data();
-}
+char* CString::GetBuffer(int minimumLength) { return text_.Lend(AtLeastZero(minimumLength)); }
 
 void CString::ReleaseBuffer(int newLength) {
-  if (newLength == -1) newLength = Index(std::min(View().find('\0'), View().size()));
-  if (newLength < 0 || static_cast<std::size_t>(newLength) > View().size()) AfxThrowInvalidArgException();
+  const std::string_view room(GetString(), text_.Room());
+  if (newLength == -1) newLength = Index(std::min(room.find('\0'), room.size()));
+  if (newLength < 0 || static_cast<std::size_t>(newLength) > room.size()) AfxThrowInvalidArgException();
   text_.Resize(static_cast<std::size_t>(newLength));
 }
 

@@ -117,9 +117,10 @@ class KESTRIN_EXPORT CString {
   void Format(const char* format, ...);
 
   ///@{
-  /// Writable room for at least that many bytes, valid until the string changes. ReleaseBuffer then sets the
-  /// length; -1 stands for all up to the first zero byte. Raises CInvalidArgException for a length below 0 or
-  /// beyond the room.
+  /// Writable room for at least that many bytes, valid until the string changes; it starts with the string's
+  /// bytes, and pointers taken before are no longer valid. The length stays the same until ReleaseBuffer sets
+  /// it; -1 means up to the first zero byte. ReleaseBuffer raises CInvalidArgException for a length below 0
+  /// or beyond the room.
   [[nodiscard]] char* GetBuffer(int minimumLength);
   void ReleaseBuffer(int newLength = -1);
   ///@}

@@ -25,14 +25,30 @@ struct StringStorage::Block {
   std::size_t size;
   std::size_t capacity;
   std::atomic<std::size_t> holders{1};
-  bool isLent = false;  // somebody may write to the bytes, so that nobody else may hold them
+  bool isLent = false;  // a host may write to the bytes, so that nobody else may hold them
 };
 
 std::string_view StringStorage::BlockView() const noexcept { return {GetBlock()->Bytes(), GetBlock()->size}; }
 
-char* StringStorage::LendBlock() {
+char* StringStorage::UnsharedBlock() {
   if (GetBlock()->IsShared()) TakeBlock(Block::Make(View(), View().size()));
-  GetBlock()->isLent = true;
+  return GetBlock()->Bytes();
+}
+
+std::size_t StringStorage::Room() const noexcept {
+  return !IsInline() && GetBlock()->isLent ? GetBlock()->capacity : View().size();
+}
+
+// Short texts move to a block as well: in place, a zero byte after 15 others would change their number.
+char* StringStorage::Lend(std::size_t room) {
+  if (IsInline() || !GetBlock()->isLent || GetBlock()->capacity < room) {
+    const std::string_view kept(View().data(), Room());
+    Block* const block = Block::Make(kept, std::max(room, kept.size()));
+    std::fill(block->Bytes() + kept.size(), block->Bytes() + block->capacity + 1, '\0');
+    block->size = View().size();
+    block->isLent = true;
+    TakeBlock(block);
+  }
   return GetBlock()->Bytes();
 }
 
@@ -94,10 +110,7 @@ void StringStorage::Append(std::string_view text) {
 }
 
 void StringStorage::Resize(std::size_t size) {
-  const std::string_view old = View();
-  const std::size_t kept = std::min(size, old.size());
-  if (!HasRoomFor(size)) TakeBlock(Block::Make(old.substr(0, kept), size));
-  std::fill(Bytes() + kept, Bytes() + size, '\0');
+  if (!HasRoomFor(size)) TakeBlock(Block::Make(View().substr(0, size), size));  // they are shared
   SetSize(size);
 }
 

@@ -46,8 +46,14 @@ class KESTRIN_EXPORT StringStorage {
   [[nodiscard]] std::string_view View() const noexcept {
     return IsInline() ? std::string_view(bytes_.data(), kInlineSize - Tag()) : BlockView();
   }
-  /// The bytes, to be changed in place until anything else changes them; copies made meanwhile share nothing.
-  [[nodiscard]] char* Data() { return IsInline() ? bytes_.data() : LendBlock(); }
+  /// The bytes, to be changed in place; the pointer ends when the storage is copied or changed.
+  [[nodiscard]] char* Data() { return IsInline() ? bytes_.data() : UnsharedBlock(); }
+
+  /// Room for at least that many bytes, to be written until something else changes the bytes. It starts with
+  /// the bytes, whose number stays the same. Copies made meanwhile share nothing.
+  [[nodiscard]] char* Lend(std::size_t room);
+  /// The size of the room that is lent; of the bytes when none is.
+  [[nodiscard]] std::size_t Room() const noexcept;
 
   /// Replaces the bytes; the text may be a part of them.
   void Assign(std::string_view text) {
@@ -57,7 +63,7 @@ class KESTRIN_EXPORT StringStorage {
   }
   /// Adds bytes at the end; the text may be a part of those that are there.
   void Append(std::string_view text);
-  /// Drops bytes at the end, or adds zero bytes there.
+  /// Keeps the first bytes of the room.
   void Resize(std::size_t size);
 
  private:
@@ -81,7 +87,7 @@ class KESTRIN_EXPORT StringStorage {
     return block;
   }
   [[nodiscard]] std::string_view BlockView() const noexcept;
-  [[nodiscard]] char* LendBlock();
+  [[nodiscard]] char* UnsharedBlock();
   void ShareBlock();
   void LetGoOfBlock() const noexcept;
   void TakeBlock(Block* block) noexcept;

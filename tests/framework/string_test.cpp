@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <climits>
+#include <cstddef>
+#include <cstring>
 #include <string>
 #include <utility>
 
@@ -133,13 +136,54 @@ TEST(String, CopiesOfLongTextsBehaveLikeTextsOfTheirOwn) {
   EXPECT_EQ(copyWhileWritten.View(), text);
 }
 
-TEST(String, FormatsAndLendsItsBuffer) {
+TEST(String, ChangedInPlaceIsSharedByItsCopiesAgain) {
+  CString text(std::string(100, 'a'));
+  const auto isShared = [&] { return CString(text).GetString() == text.GetString(); };
+  text.MakeUpper();
+  EXPECT_TRUE(isShared());
+  text.MakeLower();
+  EXPECT_TRUE(isShared());
+  text.GetBuffer(100)[0] = 'b';
+  EXPECT_FALSE(isShared());
+  text.ReleaseBuffer();
+  EXPECT_TRUE(isShared());
+}
+
+TEST(String, Formats) {
   CString text;
   text.Format("%d:%s", 7, "x");
   EXPECT_EQ(text, "7:x");
-  text.GetBuffer(5)[1] = '\0';
-  text.ReleaseBuffer();
-  EXPECT_EQ(text, "7");
+}
+
+TEST(String, KeepsItsLengthWhileItsBufferIsLent) {
+  for (const std::string original : {"", "short", "fifteen bytes..", "longer than what stands in place"}) {
+    for (const std::size_t room : {0U, 14U, 15U, 16U, 100U}) {
+      CString text(original);
+      const CString copy(text);
+      const std::string written =
+          original + std::string(std::max(room, original.size()) - original.size(), 'x');
+      char* const bytes = text.GetBuffer(static_cast<int>(room));
+      EXPECT_EQ(bytes, original);
+      std::strcpy(bytes, written.c_str());
+      EXPECT_EQ(text.View(), original);
+      text.ReleaseBuffer();
+      EXPECT_EQ(text.View(), written);
+      EXPECT_EQ(copy.View(), original);
+    }
+  }
+}
+
+TEST(String, ReleasesItsBufferWithinTheRoomOnly) {
+  CString text("ab");
+  EXPECT_THROW(text.ReleaseBuffer(3), CInvalidArgException);
+  std::fill_n(text.GetBuffer(5), 5, 'c');
+  EXPECT_THROW(text.ReleaseBuffer(6), CInvalidArgException);
+  EXPECT_THROW(text.ReleaseBuffer(-2), CInvalidArgException);
+  EXPECT_EQ(text.GetBuffer(500), std::string("ccccc"));  // what was written stays as the room grows
+  text.ReleaseBuffer(4);
+  EXPECT_EQ(text, "cccc");
+  text.ReleaseBuffer(1);
+  EXPECT_EQ(text, "c");
   EXPECT_THROW(text.ReleaseBuffer(2), CInvalidArgException);
 }
 
