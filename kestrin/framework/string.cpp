@@ -23,6 +23,16 @@ int Index(std::size_t position) {
 
 std::size_t AtLeastZero(int value) { return value < 0 ? 0 : static_cast<std::size_t>(value); }
 
+std::string Formatted(const char* format, std::va_list arguments) {
+  std::va_list again;
+  va_copy(again, arguments);
+  const int length = std::vsnprintf(nullptr, 0, format, arguments);
+  std::string result(AtLeastZero(length), '\0');
+  if (length > 0) std::vsnprintf(result.data(), result.size() + 1, format, again);
+  va_end(again);
+  return result;
+}
+
 }  // namespace
 
 int CString::GetLength() const noexcept { return Index(View().size()); }
@@ -144,14 +154,15 @@ CString CString::Tokenize(const char* delimiters, int& start) const {
 void CString::Format(const char* format, ...) {
   std::va_list arguments;
   va_start(arguments, format);
-  std::va_list again;
-  va_copy(again, arguments);
-  const int length = std::vsnprintf(nullptr, 0, format, arguments);
+  text_.Assign(Formatted(format, arguments));
   va_end(arguments);
-  std::string result(AtLeastZero(length), '\0');
-  if (length > 0) std::vsnprintf(result.data(), result.size() + 1, format, again);
-  va_end(again);
-  text_.Assign(result);
+}
+
+void CString::FormatUnchecked(const char* format, ...) {
+  std::va_list arguments;
+  va_start(arguments, format);
+  text_.Assign(Formatted(format, arguments));
+  va_end(arguments);
 }
 
 char* CString::GetBuffer(int minimumLength) { return text_.Lend(AtLeastZero(minimumLength)); }

@@ -7,6 +7,7 @@
 #include <ostream>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 #include "kestrin/base/export.h"
 #include "kestrin/framework/string_storage.h"
@@ -33,6 +34,7 @@ class KESTRIN_EXPORT CString {
     text_.Assign(text);
     return *this;
   }
+  CString& operator=(const std::string& text) { return *this = std::string_view(text); }
   ///@}
 
   /// The bytes, valid until the string changes.
@@ -113,8 +115,16 @@ class KESTRIN_EXPORT CString {
   /// the end: the empty string, and start becomes -1. Raises CInvalidArgException for a start below 0.
   [[nodiscard]] CString Tokenize(const char* delimiters, int& start) const;
 
-  /// Formats as printf does.
-  void Format(const char* format, ...);
+  ///@{
+  /// Formats as printf does. `%s` also takes a CString, even the one that is formatted; objects of other
+  /// classes do not compile. Without a CString among them, the compiler checks the arguments against the
+  /// format.
+  [[gnu::format(printf, 2, 3)]] void Format(const char* format, ...);
+  template <class... Arguments>
+  void Format(const char* format, Arguments... arguments) requires(!std::is_scalar_v<Arguments> || ...) {
+    FormatUnchecked(format, Printable(arguments)...);
+  }
+  ///@}
 
   ///@{
   /// Writable room for at least that many bytes, valid until the string changes; it starts with the string's
@@ -144,6 +154,17 @@ class KESTRIN_EXPORT CString {
   friend std::ostream& operator<<(std::ostream& out, const CString& text) { return out << text.View(); }
 
  private:
+  template <class T>
+  [[nodiscard]] static auto Printable(const T& argument) {
+    if constexpr (std::is_base_of_v<CString, T>) {
+      return argument.GetString();
+    } else {
+      static_assert(std::is_scalar_v<T>, "Format takes numbers, pointers and CString only");
+      return argument;
+    }
+  }
+  void FormatUnchecked(const char* format, ...);
+
   StringStorage text_;
 };
 

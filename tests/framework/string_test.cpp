@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstring>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "kestrin/framework/exceptions.h"
@@ -149,10 +150,23 @@ TEST(String, ChangedInPlaceIsSharedByItsCopiesAgain) {
   EXPECT_TRUE(isShared());
 }
 
-TEST(String, Formats) {
+TEST(String, FormatsStringsOfAnyLength) {
   CString text;
   text.Format("%d:%s", 7, "x");
   EXPECT_EQ(text, "7:x");
+  for (const std::size_t length : {0U, 15U, 16U, 1000U}) {
+    const std::string expected(length, 'a');
+    const CString other(expected);
+    text.Format("%s", other);
+    EXPECT_EQ(text.View(), expected);
+    text.Format("%c%s/%s %.1f %hhd", 'b', text, other + "c", 0.5F, static_cast<signed char>(-1));
+    EXPECT_EQ(text.View(), ("b" + expected).append("/").append(expected).append("c 0.5 -1"));
+  }
+  const CString format("%s-%s");
+  text = "a string of its own to be formatted into itself";
+  const std::string old(text.View());
+  text.Format(format, text, text);
+  EXPECT_EQ(text.View(), old + '-' + old);
 }
 
 TEST(String, KeepsItsLengthWhileItsBufferIsLent) {
@@ -185,6 +199,14 @@ TEST(String, ReleasesItsBufferWithinTheRoomOnly) {
   text.ReleaseBuffer(1);
   EXPECT_EQ(text, "c");
   EXPECT_THROW(text.ReleaseBuffer(2), CInvalidArgException);
+}
+
+TEST(String, TakesStandardStrings) {
+  CString text;
+  text = std::string("a\0b", 3);
+  EXPECT_EQ(text.GetLength(), 3);
+  text = std::string_view("c");
+  EXPECT_EQ(text, "c");
 }
 
 }  // namespace
