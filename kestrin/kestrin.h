@@ -4,6 +4,7 @@
 /// All that a host needs: the import session, the models and the framework services that they are made of.
 
 #include "kestrin/framework/archive.h"
+#include "kestrin/framework/stdio_file.h"
 #include "kestrin/geometry/geometry_model.h"
 #include "kestrin/neutral/component_model.h"
 #include "kestrin/neutral/net_model.h"

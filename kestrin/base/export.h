@@ -1,7 +1,13 @@
 #pragma once
 
 /// @file
-/// Marks what the shared library shows to its hosts; everything else stays inside.
+/// What every public header needs first: C++20, and the mark of what the shared library shows to its hosts.
+
+#if __cplusplus < 202002L && (!defined(_MSVC_LANG) || _MSVC_LANG < 202002L)
+#error "kestrin needs C++20; compile with -std=c++20 (/std:c++20)"
+#include "kestrin needs C++20"  // a missing file ends the compilation; an #error alone does not
+#endif
+
 #if defined(_WIN32)
 #if defined(KESTRIN_BUILDING_SHARED)
 #define KESTRIN_EXPORT __declspec(dllexport)

@@ -13,6 +13,8 @@
 #include <new>
 #include <type_traits>
 
+#include "kestrin/base/export.h"
+
 namespace kestrin {
 
 ///@{

@@ -5,6 +5,8 @@
 
 #include <cstdint>
 
+#include "kestrin/base/export.h"
+
 namespace kestrin {
 
 /// A file may hold sections for several boards; of its nets and of its component sections one each is read.

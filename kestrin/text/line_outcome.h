@@ -10,6 +10,8 @@
 #include <string>
 #include <string_view>
 
+#include "kestrin/base/export.h"
+
 namespace kestrin {
 
 /// Why a line was skipped.

@@ -24,9 +24,9 @@ class KESTRIN_EXPORT CWnd : public CObject {
   [[nodiscard]] HWND GetSafeHwnd() const { return m_hWnd; }
 
   /// Exchanges data between a dialog and its controls: FALSE refreshes the controls. The base does nothing.
-  virtual BOOL UpdateData(BOOL saveAndValidate = TRUE);
+  virtual BOOL UpdateData(BOOL saveAndValidate = true);
   /// Enables or disables input; returns nonzero when the window was disabled before. The base does nothing.
-  virtual BOOL EnableWindow(BOOL enable = TRUE);
+  virtual BOOL EnableWindow(BOOL enable = true);
   /// Sets the window's text. The base does nothing.
   virtual void SetWindowTextA(const char* text);
 

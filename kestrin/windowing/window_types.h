@@ -5,6 +5,8 @@
 
 #include <cstdint>
 
+#include "kestrin/base/export.h"
+
 namespace kestrin {
 
 ///@{
@@ -17,9 +19,14 @@ using LRESULT = std::intptr_t;
 ///@}
 
 ///@{
-/// What a BOOL is: 0, or not 0.
+/// What a BOOL is: 0, or not 0. Many C headers define macros with these names and values, and a host may
+/// include them first; then the macros do instead.
+#ifndef FALSE
 inline constexpr BOOL FALSE = 0;
+#endif
+#ifndef TRUE
 inline constexpr BOOL TRUE = 1;
+#endif
 ///@}
 
 class WindowHandle;

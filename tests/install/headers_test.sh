@@ -20,6 +20,16 @@ printf '#include <%s>\n' kestrin/kestrin.h cmath cstdint cstdio iostream memory 
 awk '/^```/ { shown = /^```cpp/; if (shown) { file = "shown-" ++count ".cpp"; print "#include \"around.inc\"" >file }; next }
      shown { print >file }' "$source"/README.md "$source"/docs/integration.md
 
+# Other headers have macros of these names, whether they come first or last.
+cat >host.inc <<'END'
+struct Window : kestrin::CWnd {
+  kestrin::BOOL UpdateData(kestrin::BOOL save) override { return save == FALSE ? TRUE : CWnd::UpdateData(); }
+};
+END
+macros=$'#define FALSE (0)\n#define TRUE 1'
+printf '%s\n' "$macros" '#include <kestrin/kestrin.h>' '#include "host.inc"' >macros-first.cpp
+printf '%s\n' '#include <kestrin/kestrin.h>' "$macros" '#include "host.inc"' >macros-last.cpp
+printf '%s\n' '#include <kestrin/kestrin.h>' 'namespace kestrin {' '#include "host.inc"' '}' >no-macros.cpp
 # What does not compile, with a part of the message.
 refused=(
   'text.Format("%s", name)' 'CString only'
@@ -38,5 +48,17 @@ for compiler; do
       "void Call() { ${refused[i]}; }" >refused
     if "$compiler" $check -x c++ refused 2>log; then echo "$compiler compiles ${refused[i]}" >&2; exit 1; fi
     grep -q "${refused[i + 1]}" log || { cat log >&2; exit 1; }
+  done
+
+  diff <(echo "$headers") <("$compiler" -std=c++20 -MM -I"$work/include" kestrin-kestrin.h.cpp |
+    grep -o 'kestrin/[a-z_/]*\.h\b' | LC_ALL=C sort -u) || { echo "kestrin.h leaves headers out" >&2; exit 1; }
+
+  for header in $headers; do
+    if "$compiler" -std=c++17 -fsyntax-only -I"$work/include" "${header//\//-}.cpp" 2>log ||
+      grep 'error:' log | grep -qv 'kestrin needs C++20'; then
+      echo "$header says something else in C++17 than that it needs C++20:" >&2
+      cat log >&2
+      exit 1
+    fi
   done
 done

@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <functional>
 
+#include "kestrin/base/export.h"
+
 namespace kestrin {
 
 /// Reads up to that many bytes of a file to a place and returns how many; 0 at the end of the file.
