@@ -1,5 +1,5 @@
 #!/bin/bash
-# Compiles every installed header alone, and every program in the documents, with the warnings that a careful host asks
+# Compiles every installed header and every program in the documents alone, with the warnings that a careful host asks
 # for; and tries what the headers promise at compile time.
 # Arguments: the build tree, the C++ compilers.
 set -euo pipefail
@@ -16,9 +16,8 @@ headers=$(find . -name '*.h' -printf '%P\n' | LC_ALL=C sort)
 mkdir "$work/programs"
 cd "$work/programs"
 for header in $headers; do echo "#include <$header>" >"${header//\//-}.cpp"; done
-printf '#include <%s>\n' kestrin/kestrin.h cmath cstdint cstdio iostream memory string utility >around.inc
-awk '/^```/ { shown = /^```cpp/; if (shown) { file = "shown-" ++count ".cpp"; print "#include \"around.inc\"" >file }; next }
-     shown { print >file }' "$source"/README.md "$source"/docs/integration.md
+awk '/^```/ { shown = /^```cpp/; file = "shown-" ++count ".cpp"; next } shown { print >file }' \
+  "$source"/README.md "$source"/docs/integration.md
 
 # Other headers have macros of these names, whether they come first or last.
 cat >host.inc <<'END'
