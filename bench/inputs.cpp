@@ -42,7 +42,8 @@ Inputs::Inputs(std::uint64_t size) {
   }
   inputs_.push_back({std::string(kBoard), folder_.Path(), {}});
   Input& board = inputs_.back();
-  if (!test::GenerateBoard(board.path, size / test::kBoardBytesPerLeg)) throw std::runtime_error(board.path + ": cannot be written");
+  if (!test::GenerateBoard(board.path, size / test::kBoardBytesPerLeg))
+    throw std::runtime_error(board.path + ": cannot be written");
   for (const test::GeneratedFile& file : test::kGeneratedFiles) {
     AddSize(board, board.path + "/board." + std::string(file.kind));
   }

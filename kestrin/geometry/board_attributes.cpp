@@ -1,7 +1,7 @@
 #include <memory>
 #include <utility>
 
-#include "kestrin/records/append_numbers.h"
+#include "kestrin/geometry/append_numbers.h"
 #include "kestrin/geometry/attribute_handlers.h"
 #include "kestrin/geometry/bracketed_number.h"
 #include "kestrin/records/append.h"

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "kestrin/base/numbers.h"
-#include "kestrin/records/append_numbers.h"
+#include "kestrin/geometry/append_numbers.h"
 #include "kestrin/records/append.h"
 #include "kestrin/text/trim.h"
 

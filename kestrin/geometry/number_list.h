@@ -11,5 +11,4 @@ namespace kestrin {
 /// An array of numbers.
 using NumberArray = CArray<double, double>;
 
-
 }  // namespace kestrin

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "kestrin/base/numbers.h"
-#include "kestrin/records/append_numbers.h"
+#include "kestrin/geometry/append_numbers.h"
 #include "kestrin/geometry/attribute_handlers.h"
 #include "kestrin/records/append.h"
 
