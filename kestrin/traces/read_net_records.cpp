@@ -1,16 +1,14 @@
 // The part of TracesReader for the lines of a net: its header, its wires, incomplete connections and antennas
 // with their segments.
 
-#include <algorithm>
 #include <cstddef>
 #include <memory>
-#include <string_view>
 #include <utility>
 
-#include "kestrin/base/characters.h"
 #include "kestrin/base/numbers.h"
 #include "kestrin/records/append.h"
 #include "kestrin/traces/record_values.h"
+#include "kestrin/traces/shared_rules.h"
 #include "kestrin/traces/traces_reader.h"
 
 namespace kestrin {
@@ -48,14 +46,7 @@ void Read(LineFields& values, CMTracesSEG& record) {
   values.Read(1, record.m_dValue1);
   values.Read(2, record.m_dValue2);
   if (values.Has(3)) record.m_nValue3 = values.Int(3);
-  if (double number = 0.0; values.Read(4, number)) {
-    const std::string_view text = values.Text(4);
-    if (std::all_of(text.begin(), text.end(), IsDigit)) {
-      record.m_dValue4 = number;
-    } else {
-      record.m_sValue4 = text;
-    }
-  }
+  if (double number = 0.0; values.Read(4, number)) SetValue4(record, values.Text(4), number);
   if (values.Has(5)) record.m_sValue5 = values.Text(5);
 }
 

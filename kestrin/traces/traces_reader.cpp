@@ -11,6 +11,7 @@
 #include "kestrin/records/append.h"
 #include "kestrin/text/trim.h"
 #include "kestrin/traces/record_values.h"
+#include "kestrin/traces/shared_rules.h"
 
 namespace kestrin {
 namespace {
@@ -136,22 +137,15 @@ bool TracesReader::SetSt() {
     model_.m_nStValue4 = values_.Int(4);
     return true;
   }
-  model_.m_nStLongValue1 = values_.Int(1);
-  model_.m_nStLongValue2 = values_.Int(2);
-  model_.m_nStLongValue3 = values_.Int(3);
-  model_.m_nStLongValue4 = values_.Int(4);
-  model_.m_nStLongValue5 = values_.Int(5);
-  model_.m_nStLongValue6 = values_.Int(6);
-  model_.m_nStLongValue7 = -1;
-  model_.m_nStLongValue8 = -1;
+  SetLongStValues(model_, values_.Int(1), values_.Int(2), values_.Int(3), values_.Int(4), values_.Int(5),
+                  values_.Int(6));
   return true;
 }
 
 bool TracesReader::AddXrf() {
   auto record = records_.Make<CMTracesXRF>();
   record->m_nValue1 = values_.Int(1);
-  record->m_sValue2A = values_.Text(2);
-  record->m_sValue2B = values_.Text(2);
+  SetValue2(*record, values_.Text(2));
   Append(*model_.m_pXrfArray, std::move(record));
   return true;
 }

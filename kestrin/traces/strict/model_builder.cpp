@@ -1,10 +1,8 @@
 #include "kestrin/traces/strict/model_builder.h"
 
-#include <algorithm>
-
-#include "kestrin/base/characters.h"
 #include "kestrin/base/numbers.h"
 #include "kestrin/records/append.h"
+#include "kestrin/traces/shared_rules.h"
 
 namespace kestrin {
 namespace {
@@ -38,21 +36,13 @@ void ModelBuilder::SetSt(double value1, double value2, int value3, int value4) {
 }
 
 void ModelBuilder::SetLongSt(int value1, int value2, int value3, int value4, int value5, int value6) {
-  root_->m_nStLongValue1 = value1;
-  root_->m_nStLongValue2 = value2;
-  root_->m_nStLongValue3 = value3;
-  root_->m_nStLongValue4 = value4;
-  root_->m_nStLongValue5 = value5;
-  root_->m_nStLongValue6 = value6;
-  root_->m_nStLongValue7 = -1;
-  root_->m_nStLongValue8 = -1;
+  SetLongStValues(*root_, value1, value2, value3, value4, value5, value6);
 }
 
 void ModelBuilder::AddXrf(int value1, std::string_view value2) {
   auto record = records_.Make<CMTracesXRF>();
   record->m_nValue1 = value1;
-  record->m_sValue2A = value2;
-  record->m_sValue2B = value2;
+  SetValue2(*record, value2);
   Append(*root_->m_pXrfArray, std::move(record));
 }
 
@@ -87,11 +77,7 @@ void ModelBuilder::AddSegment(std::string_view value1, std::string_view value2, 
   record->m_dValue1 = ToDouble(value1);
   record->m_dValue2 = ToDouble(value2);
   record->m_nValue3 = ToInt(ToDouble(value3));
-  if (std::all_of(value4.begin(), value4.end(), IsDigit)) {
-    record->m_dValue4 = ToDouble(value4);
-  } else {
-    record->m_sValue4 = value4;
-  }
+  SetValue4(*record, value4, ToDouble(value4));
   record->m_sValue5 = value5;
   Append(segments_, std::move(record));
 }
