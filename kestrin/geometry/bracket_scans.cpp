@@ -1,6 +1,7 @@
 #include "kestrin/geometry/bracket_scans.h"
 
 #include "kestrin/geometry/point_values.h"
+#include "kestrin/text/contains.h"
 #include "kestrin/text/trim.h"
 
 namespace kestrin {
@@ -59,7 +60,7 @@ BracketedPoint ReadPoint(ValueCut values, const PendingPoints& pending) {
 std::optional<std::string_view> FirstBracketed(Values& values) {
   for (std::size_t number = 2; values.HasAtLeast(number); ++number) {
     const std::string_view value = values[number];
-    if (value.find('[') != std::string_view::npos) return WithoutLeading(value, '[');
+    if (Contains(value, '[')) return WithoutLeading(value, '[');
   }
   return std::nullopt;
 }

@@ -15,11 +15,11 @@ namespace kestrin {
 /// How the commands and attributes differ in reading a list of points. What they have in common: a value with
 /// "[" opens the list, one with "]" and no "[" closes it, and in the open list every value is a number.
 struct BracketScan {
-  bool bareBracketIsZero;   ///< a bracket without a number gives 0, else nothing
-  bool emptyValueIsZero;    ///< an empty value in the open list gives 0, else nothing
-  bool readsCloseWhenShut;  ///< "]" gives its number although the list is not open
+  bool bareBracketIsZero;   ///< a bracket without a number is 0, else nothing
+  bool emptyValueIsZero;    ///< an empty value in the open list is 0, else nothing
+  bool readsCloseWhenShut;  ///< the number before "]" counts although the list is not open
   bool stopsAtClose;        ///< the rest of the line counts no more, else a later "[" opens the list again
-  bool emptyPendingIsZero;  ///< an empty pending value gives 0, else nothing
+  bool emptyPendingIsZero;  ///< an empty pending value is 0, else nothing
 };
 
 // clang-format off
@@ -46,7 +46,7 @@ struct BracketedPoint {
 /// two pending values are x and y, as far as there are any.
 [[nodiscard]] BracketedPoint ReadPoint(ValueCut values, const PendingPoints& pending);
 
-/// The text of the first value with "[" behind the line's first value, without the bracket.
+/// The text of the first value with "[" after the line's first value, without the bracket.
 [[nodiscard]] std::optional<std::string_view> FirstBracketed(Values& values);
 
 }  // namespace kestrin

@@ -6,6 +6,7 @@
 #include "kestrin/base/numbers.h"
 #include "kestrin/geometry/append_numbers.h"
 #include "kestrin/records/append.h"
+#include "kestrin/text/contains.h"
 #include "kestrin/text/trim.h"
 
 namespace kestrin {
@@ -39,8 +40,6 @@ void ForEachFilled(Values& values, READ read) {
     if (!value.empty()) read(number, value, values.Raw(number));
   }
 }
-
-bool Contains(std::string_view text, std::string_view part) { return text.find(part) != text.npos; }
 
 void Read(ReaderState& state, CMGeomPath& path) {
   path.m_sLayer = state.values[1];

@@ -6,7 +6,7 @@
 namespace kestrin {
 namespace {
 
-/// What stands between the first "[" and the first "]": all before the "]" without a "[", nothing without a
+/// The text between the first "[" and the first "]": all before the "]" without a "[", nothing without a
 /// "]" or when the "]" comes first.
 std::string_view Bracketed(std::string_view arguments) {
   const std::size_t close = arguments.find(']');
@@ -31,8 +31,8 @@ void PendingPoints::Continue(std::string_view arguments) {
 }
 
 /// Adds plain values in one step, and calls addOther with the others.
-template <class ADD>
-void PendingPoints::AddEach(std::string_view points, ADD addOther) {
+template <class AddOther>
+void PendingPoints::AddEach(std::string_view points, AddOther addOther) {
   ValueCut cut(points, Commas::kEvery);
   for (;;) {
     PointValue plain;

@@ -34,8 +34,8 @@ class PendingPoints {
   }
 
  private:
-  template <class ADD>
-  void AddEach(std::string_view points, ADD addOther);
+  template <class AddOther>
+  void AddEach(std::string_view points, AddOther addOther);
   void Add(std::string_view value);
   std::string_view WithoutBlanks(std::string_view text);
 

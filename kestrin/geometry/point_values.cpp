@@ -1,13 +1,9 @@
 #include "kestrin/geometry/point_values.h"
 
+#include "kestrin/text/contains.h"
 #include "kestrin/text/trim.h"
 
 namespace kestrin {
-namespace {
-
-bool Contains(std::string_view text, char c) { return text.find(c) != std::string_view::npos; }
-
-}  // namespace
 
 std::optional<PointValue> NextAnyPointValue(ValueCut& cut) {
   const auto raw = cut.Next();

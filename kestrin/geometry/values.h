@@ -25,13 +25,22 @@ class ValueCut {
   ValueCut() = default;
   ValueCut(std::string_view text, Commas commas) : text_(text), commas_(commas) {}
 
-  /// The next value as it stands in the text, or nothing at its end.
+  /// The next value, as the text has it, or nothing at its end.
   [[nodiscard]] std::optional<std::string_view> Next();
   /// Cuts what follows the last value in another way.
   void GoOnWith(Commas commas) { commas_ = commas; }
 
+  /// All values again, and those after one of them.
+  [[nodiscard]] ValueCut FromStart() const { return {text_, commas_}; }
+  [[nodiscard]] ValueCut After(std::string_view value) const {
+    ValueCut cut = *this;
+    cut.position_ = static_cast<std::size_t>(value.data() + value.size() - text_.data());
+    return cut;
+  }
+
   ///@{
-  /// What is left behind the last value, for who can tell the next one at a glance and then steps over it.
+  /// What is left after the last value, for those that can tell the next one at a glance and then step over
+  /// it.
   [[nodiscard]] std::string_view Rest() const { return text_.substr(position_); }
   void Skip(std::size_t length) { position_ += length; }
   ///@}
@@ -69,21 +78,21 @@ class Values {
     return values_.size();
   }
 
-  /// A value as it stands in the line.
+  /// A value, as the line has it.
   [[nodiscard]] std::string_view Raw(std::size_t number) {
     return HasAtLeast(number) ? values_[number - 1] : std::string_view();
   }
   /// A value without blanks, and then quotes, at either end.
   [[nodiscard]] std::string_view operator[](std::size_t number) { return Cleaned(Raw(number)); }
 
-  /// The values from a number on, of which none has been asked for yet.
+  /// The values from a number on, whichever have been asked for.
   [[nodiscard]] ValueCut From(std::size_t number) {
-    static_cast<void>(HasAtLeast(number - 1));
-    return cut_;
+    if (!HasAtLeast(number - 1) || values_.size() == number - 1) return cut_;
+    return number == 1 ? cut_.FromStart() : cut_.After(values_[number - 2]);
   }
 
  private:
-  ValueCut cut_;  // stands behind the last of the values
+  ValueCut cut_;  // at the end of the last of the values
   std::vector<std::string_view> values_;
 };
 

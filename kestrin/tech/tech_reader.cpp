@@ -7,15 +7,12 @@
 #include "kestrin/base/numbers.h"
 #include "kestrin/records/append.h"
 #include "kestrin/text/comment.h"
+#include "kestrin/text/contains.h"
 #include "kestrin/text/fields.h"
 #include "kestrin/text/trim.h"
 
 namespace kestrin {
 namespace {
-
-bool Contains(std::string_view line, std::string_view keyword) {
-  return line.find(keyword) != std::string_view::npos;
-}
 
 /// What stands between the first opening and the last closing parenthesis: nothing without a closing one, all
 /// before it without an opening one.
