@@ -1,64 +1,56 @@
 #pragma once
 
 /// @file
-/// What each attribute does, once its values are cut: one function for each row of the table in
-/// attributes.cpp. Value 1 is the attribute's name. Where the table says kRead a function also runs without
-/// its owner, and then only uses the pending points up; else its owner is there.
+/// What attributes do with their values: each handler fills the member that its row in attributes.cpp names.
+/// Value 1 is the attribute's name.
 
+#include "kestrin/base/numbers.h"
+#include "kestrin/geometry/bracket_scans.h"
+#include "kestrin/geometry/geometry_model.h"
 #include "kestrin/geometry/reader_state.h"
+#include "kestrin/records/append.h"
 
 namespace kestrin::attribute {
 
-// Of the bound board, whatever geometry is open.
-LineOutcome DefaultPadstackOfBoard(ReaderState& state);
-LineOutcome DefaultVia(ReaderState& state);
-LineOutcome PlacementClearance(ReaderState& state);
-LineOutcome RoutingLayers(ReaderState& state);
-LineOutcome PlacementOutlineOfBoard(ReaderState& state);
-LineOutcome RoutingOutline(ReaderState& state);
+///@{
+/// From value 2.
+LineOutcome SetText(ReaderState& state, CString& text);
+LineOutcome SetIfYes(ReaderState& state, int& flag);
+LineOutcome AddNames(ReaderState& state, CStringArray& names);
+LineOutcome AddOverride(ReaderState& state, RecordArray<CMGeomOverride>& overrides);
+LineOutcome AddLayerDefinition(ReaderState& state, RecordArray<CMGeomLayerDEF>& layers);
+///@}
 
-// Of the open board.
-LineOutcome PowerNetNames(ReaderState& state);
-
-// Of the last component, whatever geometry is open.
-LineOutcome DefaultPadstackOfComponent(ReaderState& state);
-LineOutcome LayoutSurface(ReaderState& state);
-LineOutcome LayoutType(ReaderState& state);
-LineOutcome OutlineOverhang(ReaderState& state);
-
-// Of the open component.
-LineOutcome Height(ReaderState& state);
-LineOutcome ComponentType(ReaderState& state);
-LineOutcome PadstackOverride(ReaderState& state);
-LineOutcome PinDefinition(ReaderState& state);
-
-// Of the open geometry, if it is of a kind that has a place for them; also read in other kinds.
-LineOutcome PlacementKeepout(ReaderState& state);
-LineOutcome PlacementRegion(ReaderState& state);
-LineOutcome BodyOutline(ReaderState& state);
-LineOutcome PlacementOutline(ReaderState& state);
-LineOutcome Drill(ReaderState& state);
-LineOutcome UnplatedDrill(ReaderState& state);
-LineOutcome RoutingKeepout(ReaderState& state);
-LineOutcome TraceKeepout(ReaderState& state);
-LineOutcome ViaKeepout(ReaderState& state);
-LineOutcome DrillSize(ReaderState& state);
-
-// Of the open pin or via.
-LineOutcome SetTerminalType(ReaderState& state, int type);
-LineOutcome SetViaType(ReaderState& state, int type);
-
-template <int TYPE>
-LineOutcome TerminalType(ReaderState& state) {
-  return SetTerminalType(state, TYPE);
+/// From the name alone.
+template <int Type>
+LineOutcome SetType(ReaderState& /*state*/, int& type) {
+  type = Type;
+  return LineOutcome::Imported();
 }
 
-template <int TYPE>
-LineOutcome ViaType(ReaderState& state) {
-  return SetViaType(state, TYPE);
-}
+///@{
+/// From a number in square brackets, without which the line does nothing.
+LineOutcome SetNumber(ReaderState& state, double& number);
+LineOutcome SetWholeNumber(ReaderState& state, int& number);
+/// The first pending point overrules the number.
+LineOutcome SetDrillSize(ReaderState& state, double& size);
+///@}
 
-// Of the open stack-up; the name is that of the attribute.
-LineOutcome LayerDefinition(ReaderState& state, std::string_view name);
+///@{
+/// From points.
+LineOutcome AddPoints(ReaderState& state, NumberArray& points);
+LineOutcome ReplacePoints(ReaderState& state, NumberArray& points);
+LineOutcome AddPlacementRegion(ReaderState& state, RecordArray<CMGeomPlacementRegion>& regions);
+LineOutcome AddPlacementKeepout(ReaderState& state, RecordArray<CMGeomKeepout>& keepouts);
+LineOutcome AddKeepout(ReaderState& state, RecordArray<CMGeomKeepout>& keepouts);
+LineOutcome AddDrill(ReaderState& state, RecordArray<CMGeomDrill>& drills);
+LineOutcome AddPin(ReaderState& state, RecordArray<CMGeomPinDef>& pins);
+///@}
+
+/// From points too. A component has an outline for every line, a generic part one for all.
+struct AddPlacementOutline {
+  LineOutcome operator()(ReaderState& state, RecordArray<CMGeomPlacementOutline>& outlines) const;
+  LineOutcome operator()(ReaderState& state, CMGeomPlacementOutline& outline) const;
+};
 
 }  // namespace kestrin::attribute

@@ -5,8 +5,9 @@
 
 #include "kestrin/geometry/reader_state.h"
 
-namespace kestrin::attribute {
+namespace kestrin {
 
-LineOutcome Read(ReaderState& state, std::string_view arguments);
+/// Value 1, the name, is cut where commas outside double quotes separate.
+LineOutcome ReadAttribute(ReaderState& state);
 
-}  // namespace kestrin::attribute
+}  // namespace kestrin

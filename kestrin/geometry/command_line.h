@@ -9,7 +9,7 @@ namespace kestrin {
 
 /// A line `$$word(arguments);`. Nothing is trimmed.
 struct CommandLine {
-  std::string_view word;       ///< what stands before the first "("; empty when there is none
+  std::string_view word;       ///< the text before the first "("; empty when there is none
   std::string_view arguments;  ///< what follows, without any ")" and ";" at its end
 };
 

@@ -4,59 +4,50 @@
 
 namespace kestrin {
 
-template <class RECORD>
-RECORD* CurrentGeometry::AppendNew(RecordArray<RECORD>& list) {
-  return Append(list, records_.Make<RECORD>());
+template <class Geometry>
+Geometry* CurrentGeometry::AppendNew(RecordArray<Geometry>& list) {
+  return Append(list, records_.Make<Geometry>());
 }
 
-template <class RECORD>
-RECORD* CurrentGeometry::Open(GeometryKind kind, RECORD* record, std::string_view name) {
-  kind_ = kind;
-  record->m_sName = name;
-  drawObjs_ = record->m_pDrawObjs;
-  texts_ = record->m_pTexts;
-  adds_ = record->m_pAdds;
-  return record;
+template <class Geometry>
+Geometry* CurrentGeometry::Open(Geometry* geometry, std::string_view name) {
+  open_ = geometry;
+  geometry->m_sName = name;
+  drawObjs_ = geometry->m_pDrawObjs;
+  texts_ = geometry->m_pTexts;
+  adds_ = geometry->m_pAdds;
+  return geometry;
 }
 
-void CurrentGeometry::CreatePanel(std::string_view name) {
-  panel_ = Open(GeometryKind::kPanel, AppendNew(*model_.m_pPanels), name);
-}
+void CurrentGeometry::CreatePanel(std::string_view name) { Open(AppendNew(*model_.m_pPanels), name); }
 
 void CurrentGeometry::CreateComponent(std::string_view name) {
-  component_ = Open(GeometryKind::kComponent, AppendNew(*model_.m_pComponents), name);
+  component_ = Open(AppendNew(*model_.m_pComponents), name);
 }
 
 void CurrentGeometry::CreateGenericPart(std::string_view name) {
-  genericPart_ = Open(GeometryKind::kGenericPart, AppendNew(*model_.m_pGenericParts), name);
+  Open(AppendNew(*model_.m_pGenericParts), name);
 }
 
-void CurrentGeometry::CreatePin(std::string_view name) {
-  pin_ = Open(GeometryKind::kPin, AppendNew(*model_.m_pPins), name);
-}
+void CurrentGeometry::CreatePin(std::string_view name) { Open(AppendNew(*model_.m_pPins), name); }
 
-void CurrentGeometry::CreateVia(std::string_view name) {
-  via_ = Open(GeometryKind::kVia, AppendNew(*model_.m_pVias), name);
-}
+void CurrentGeometry::CreateVia(std::string_view name) { Open(AppendNew(*model_.m_pVias), name); }
 
-void CurrentGeometry::CreateDrawing(std::string_view name) {
-  drawing_ = Open(GeometryKind::kDrawing, AppendNew(*model_.m_pDrawings), name);
-}
+void CurrentGeometry::CreateDrawing(std::string_view name) { Open(AppendNew(*model_.m_pDrawings), name); }
 
 void CurrentGeometry::CreateBoard(std::string_view name) {
   BindBoard();
-  Open(GeometryKind::kBoard, board_, name);
+  Open(board_, name);
 }
 
 void CurrentGeometry::CreateStackup(std::string_view name) {
-  kind_ = GeometryKind::kStackup;
-  stackup_ = model_.m_pStackup;
-  DeleteRecords(*stackup_->m_pLayers);
-  stackup_->m_sName = name;
+  open_ = model_.m_pStackup;
+  DeleteRecords(*model_.m_pStackup->m_pLayers);
+  model_.m_pStackup->m_sName = name;
 }
 
 void CurrentGeometry::CreateUnknown() {
-  drawing_ = nullptr;
+  if (Open<CMGeomDrawing>() != nullptr) open_ = Nothing();
   texts_ = nullptr;
   adds_ = nullptr;
 }

@@ -12,29 +12,19 @@
 namespace kestrin {
 namespace {
 
-constexpr RecordRule kDrawObjRule{"a drawing object", "a geometry that takes drawing objects before it"};
-constexpr RecordRule kTextRule{"$$text", "a geometry that takes texts before it"};
-constexpr RecordRule kAddRule{"$$add", "a geometry that takes adds before it"};
-
-/// Every drawing object uses the pending points up, whether it needs them or not, and whether there is a
-/// geometry that takes it or not.
-template <class OBJECT>
-LineOutcome AddDrawObj(ReaderState& state, std::string_view arguments,
-                       void (*read)(ReaderState& state, OBJECT& object)) {
-  CMGeomDrawObjArray* target = state.geometry.DrawObjs();
-  if (target != nullptr) {
-    state.values.Cut(arguments, Commas::kEvery);
-    auto object = state.records.Make<OBJECT>();
-    read(state, *object);
-    Append(*target, std::move(object));
-  }
+template <class Object>
+LineOutcome AddObject(ReaderState& state, CMGeomDrawObjArray& objects,
+                      void (*read)(ReaderState& state, Object& object)) {
+  auto object = state.records.Make<Object>();
+  read(state, *object);
+  Append(objects, std::move(object));
   state.pending.Clear();
-  return target != nullptr ? LineOutcome::Imported() : LineOutcome::Skipped(SkipCode::kNoOwner, kDrawObjRule);
+  return LineOutcome::Imported();
 }
 
 /// Calls read with every value that is not empty once cleaned: its number, its text and its raw text.
-template <class READ>
-void ForEachFilled(Values& values, READ read) {
+template <class Read>
+void ForEachFilled(Values& values, Read read) {
   for (std::size_t number = 1; values.HasAtLeast(number); ++number) {
     const std::string_view value = values[number];
     if (!value.empty()) read(number, value, values.Raw(number));
@@ -89,41 +79,38 @@ void Read(ReaderState& state, CMGeomCircle& circle) {
 
 }  // namespace
 
-LineOutcome Initial(ReaderState& state, std::string_view arguments) {
-  state.pending.Begin(arguments);
+LineOutcome BeginPoints(ReaderState& state) {
+  state.pending.Begin(state.arguments);
   return LineOutcome::Imported();
 }
 
-LineOutcome Terminal(ReaderState& state, std::string_view arguments) {
-  state.pending.Continue(arguments);
+LineOutcome ContinuePoints(ReaderState& state) {
+  state.pending.Continue(state.arguments);
   return LineOutcome::Imported();
 }
 
-LineOutcome TemplatePathWidth(ReaderState& state, std::string_view arguments) {
-  state.pathWidth = ToDouble(WithoutTrailing(WithoutLeading(Trimmed(arguments), '('), ')'));
+LineOutcome SetPathWidth(ReaderState& state) {
+  state.pathWidth = ToDouble(WithoutTrailing(WithoutLeading(Trimmed(state.arguments), '('), ')'));
   return LineOutcome::Imported();
 }
 
-LineOutcome Path(ReaderState& state, std::string_view arguments) {
-  return AddDrawObj<CMGeomPath>(state, arguments, &Read);
+LineOutcome AddPath(ReaderState& state, CMGeomDrawObjArray& objects) {
+  return AddObject<CMGeomPath>(state, objects, &Read);
 }
 
-LineOutcome Arc(ReaderState& state, std::string_view arguments) {
-  return AddDrawObj<CMGeomArc>(state, arguments, &Read);
+LineOutcome AddArc(ReaderState& state, CMGeomDrawObjArray& objects) {
+  return AddObject<CMGeomArc>(state, objects, &Read);
 }
 
-LineOutcome Polygon(ReaderState& state, std::string_view arguments) {
-  return AddDrawObj<CMGeomPolygon>(state, arguments, &Read);
+LineOutcome AddPolygon(ReaderState& state, CMGeomDrawObjArray& objects) {
+  return AddObject<CMGeomPolygon>(state, objects, &Read);
 }
 
-LineOutcome Circle(ReaderState& state, std::string_view arguments) {
-  return AddDrawObj<CMGeomCircle>(state, arguments, &Read);
+LineOutcome AddCircle(ReaderState& state, CMGeomDrawObjArray& objects) {
+  return AddObject<CMGeomCircle>(state, objects, &Read);
 }
 
-LineOutcome Text(ReaderState& state, std::string_view arguments) {
-  auto* target = state.geometry.Texts();
-  if (target == nullptr) return LineOutcome::Skipped(SkipCode::kNoOwner, kTextRule);
-  state.values.Cut(arguments, Commas::kUnquoted);
+LineOutcome AddText(ReaderState& state, RecordArray<CMGeomText>& texts) {
   auto text = state.records.Make<CMGeomText>();
   ForEachFilled(state.values, [&](std::size_t number, std::string_view value, std::string_view /*raw*/) {
     switch (number) {
@@ -145,14 +132,11 @@ LineOutcome Text(ReaderState& state, std::string_view arguments) {
       default: break;
     }
   });
-  Append(*target, std::move(text));
+  Append(texts, std::move(text));
   return LineOutcome::Imported();
 }
 
-LineOutcome Add(ReaderState& state, std::string_view arguments) {
-  auto* target = state.geometry.Adds();
-  if (target == nullptr) return LineOutcome::Skipped(SkipCode::kNoOwner, kAddRule);
-  state.values.Cut(arguments, Commas::kEvery);
+LineOutcome PlaceGeometry(ReaderState& state, RecordArray<CMGeomAdd>& adds) {
   Values& values = state.values;
   auto add = state.records.Make<CMGeomAdd>();
   add->m_sArg0 = values[1];
@@ -162,7 +146,7 @@ LineOutcome Add(ReaderState& state, std::string_view arguments) {
   add->m_nArg4 = ToInt(values[5]);
   add->m_nArg5 = ToInt(values[6]);
   add->m_nArg6 = ToInt(values[7]);
-  Append(*target, std::move(add));
+  Append(adds, std::move(add));
   return LineOutcome::Imported();
 }
 

@@ -5,8 +5,6 @@
 namespace kestrin {
 namespace {
 
-constexpr RecordRule kPageRule{"$$page", "an open geometry for its unit"};
-
 const char* UnitIn(std::string_view arguments) {
   struct Unit {
     std::string_view option;
@@ -19,22 +17,21 @@ const char* UnitIn(std::string_view arguments) {
   return "";
 }
 
-bool IsUnkept(GeometryKind kind) {
-  return kind == GeometryKind::kProbe || kind == GeometryKind::kTestFixture;
-}
-
 }  // namespace
 
-LineOutcome LockWindows(ReaderState& state, std::string_view /*arguments*/) {
+LineOutcome BindBoard(ReaderState& state) {
   state.geometry.BindBoard();
   return LineOutcome::Imported();
 }
 
-LineOutcome Page(ReaderState& state, std::string_view arguments) {
-  const char* unit = UnitIn(arguments);
-  if (state.geometry.VisitOpen([&](auto& record) { record.m_sUnits = unit; })) return LineOutcome::Imported();
-  return IsUnkept(state.geometry.Kind()) ? LineOutcome::Ignored()
-                                         : LineOutcome::Skipped(SkipCode::kNoOwner, kPageRule);
+LineOutcome CreateUnkept(ReaderState& state) {
+  state.geometry.CreateUnkept();
+  return LineOutcome::Ignored();
+}
+
+LineOutcome SetUnit(ReaderState& state, CString& unit) {
+  unit = UnitIn(state.arguments);
+  return LineOutcome::Imported();
 }
 
 }  // namespace kestrin

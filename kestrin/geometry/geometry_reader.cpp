@@ -4,6 +4,7 @@
 #include "kestrin/geometry/command_line.h"
 #include "kestrin/geometry/drawing_commands.h"
 #include "kestrin/geometry/geometry_commands.h"
+#include "kestrin/geometry/geometry_row.h"
 #include "kestrin/text/comment.h"
 #include "kestrin/text/ignoring_case.h"
 #include "kestrin/text/name_table.h"
@@ -11,51 +12,51 @@
 namespace kestrin {
 namespace {
 
-/// A command; without a handler it carries nothing.
-struct Command {
-  std::string_view name;
-  CommandHandler run = nullptr;
-};
+using enum Commas;
+using enum Ownerless;
+using DrawObjs = OfTaker<&CurrentGeometry::DrawObjs>;
+using Texts = OfTaker<&CurrentGeometry::Texts>;
+using Adds = OfTaker<&CurrentGeometry::Adds>;
 
-constexpr Command kRows[] = {
-    {"$$lock_windows", LockWindows},
-    {"$$create_panel", CreateNamed<&CurrentGeometry::CreatePanel>},
-    {"$$create_board", CreateNamed<&CurrentGeometry::CreateBoard>},
-    {"$$create_component", CreateNamed<&CurrentGeometry::CreateComponent>},
-    {"$$create_generic_part", CreateNamed<&CurrentGeometry::CreateGenericPart>},
-    {"$$create_stackup", CreateNamed<&CurrentGeometry::CreateStackup>},
-    {"$$create_pin", CreateNamed<&CurrentGeometry::CreatePin>},
-    {"$$create_via", CreateNamed<&CurrentGeometry::CreateVia>},
-    {"$$create_probe", CreateUnkept<&CurrentGeometry::CreateProbe>},
-    {"$$create_drawing", CreateNamed<&CurrentGeometry::CreateDrawing>},
-    {"$$create_test_fixture", CreateUnkept<&CurrentGeometry::CreateTestFixture>},
-    {"$$page", Page},
-    {"$$initial", Initial},
-    {"$$terminal", Terminal},
-    {"$$add", Add},
-    {"$$path", Path},
-    {"$$arc", Arc},
-    {"$$polygon", Polygon},
-    {"$$circle", Circle},
-    {"$$text", Text},
-    {"$$template_path_width", TemplatePathWidth},
-    {"$$internal_name"},
-    {"$$template_line_style"},
-    {"$$template_dimension"},
-    {"$$template_layer"},
-    {"$$add_dimension"},
-    {"$$attribute", attribute::Read},
+constexpr GeometryRow kRows[] = {
+    {"$$lock_windows", kEvery, Any(), kNobody, BindBoard},
+    {"$$create_panel", kEvery, Any(), kNobody, CreateNamed<&CurrentGeometry::CreatePanel>},
+    {"$$create_board", kEvery, Any(), kNobody, CreateNamed<&CurrentGeometry::CreateBoard>},
+    {"$$create_component", kEvery, Any(), kNobody, CreateNamed<&CurrentGeometry::CreateComponent>},
+    {"$$create_generic_part", kEvery, Any(), kNobody, CreateNamed<&CurrentGeometry::CreateGenericPart>},
+    {"$$create_stackup", kEvery, Any(), kNobody, CreateNamed<&CurrentGeometry::CreateStackup>},
+    {"$$create_pin", kEvery, Any(), kNobody, CreateNamed<&CurrentGeometry::CreatePin>},
+    {"$$create_via", kEvery, Any(), kNobody, CreateNamed<&CurrentGeometry::CreateVia>},
+    {"$$create_probe", kEvery, Any(), kNobody, CreateUnkept},
+    {"$$create_drawing", kEvery, Any(), kNobody, CreateNamed<&CurrentGeometry::CreateDrawing>},
+    {"$$create_test_fixture", kEvery, Any(), kNobody, CreateUnkept},
+    {"$$page", kEvery, Any(), To<UnitOfOpen, SetUnit>()},
+    {"$$initial", kEvery, Any(), kNobody, BeginPoints},
+    {"$$terminal", kEvery, Any(), kNobody, ContinuePoints},
+    {"$$add", kEvery, Any(), To<Adds, PlaceGeometry>()},
+    {"$$path", kEvery, Any(), To<DrawObjs, AddPath>(), kConsumesPoints},
+    {"$$arc", kEvery, Any(), To<DrawObjs, AddArc>(), kConsumesPoints},
+    {"$$polygon", kEvery, Any(), To<DrawObjs, AddPolygon>(), kConsumesPoints},
+    {"$$circle", kEvery, Any(), To<DrawObjs, AddCircle>(), kConsumesPoints},
+    {"$$text", kUnquoted, Any(), To<Texts, AddText>()},
+    {"$$template_path_width", kEvery, Any(), kNobody, SetPathWidth},
+    GeometryRow("$$internal_name"),
+    GeometryRow("$$template_line_style"),
+    GeometryRow("$$template_dimension"),
+    GeometryRow("$$template_layer"),
+    GeometryRow("$$add_dimension"),
+    {"$$attribute", kUnquoted, Any(), kNobody, ReadAttribute, "a name"},
 };
 constexpr NameTable kCommands(kRows);
 
-constexpr RecordRule kStartRule{"a command", "to stand at the very start of its line"};
-constexpr RecordRule kParenthesisRule{"a command", "its arguments in parentheses"};
+constexpr RecordRule kStart{"a command", Any(), "", "to begin in the first column"};
+constexpr RecordRule kParentheses{"a command", Any(), "", "its arguments in parentheses"};
 
 /// What becomes of a line that does not start with a command's word and a parenthesis.
 LineOutcome OutcomeOfOtherLine(std::string_view line) {
   if (IsBlankOrComment(line)) return LineOutcome::Ignored();
-  if (line.starts_with("$$")) return LineOutcome::Skipped(SkipCode::kUnknownCommand, kParenthesisRule);
-  if (Trimmed(line).starts_with("$$")) return LineOutcome::Skipped(SkipCode::kUnknownCommand, kStartRule);
+  if (line.starts_with("$$")) return LineOutcome::Skipped(SkipCode::kUnknownCommand, kParentheses);
+  if (Trimmed(line).starts_with("$$")) return LineOutcome::Skipped(SkipCode::kUnknownCommand, kStart);
   return LineOutcome::Skipped(SkipCode::kUnknownRecord);
 }
 
@@ -64,8 +65,10 @@ LineOutcome OutcomeOfOtherLine(std::string_view line) {
 LineOutcome GeometryReader::ReadLine(std::string_view line) {
   const auto [word, arguments] = CutCommandLine(line);
   if (!word.starts_with("$$")) return OutcomeOfOtherLine(line);
-  if (const Command* command = kCommands.Find(word)) {
-    return command->run == nullptr ? LineOutcome::Ignored() : command->run(state_, arguments);
+  if (const GeometryRow* command = kCommands.Find(word)) {
+    state_.arguments = arguments;
+    state_.values.Cut(arguments, command->commas);
+    return ReadByRow(*command, state_);
   }
   if (ContainsIgnoringCase(word, "$$create_")) state_.geometry.CreateUnknown();
   return LineOutcome::Skipped(SkipCode::kUnknownCommand);

@@ -16,6 +16,8 @@
 
 namespace kestrin {
 
+struct RecordRule;
+
 struct ReaderState {
   /// The model must outlive this.
   explicit ReaderState(CMGeom& model) : geometry(model, records) {}
@@ -37,12 +39,13 @@ struct ReaderState {
   RecordPool records;  ///< of the model
   CurrentGeometry geometry;
   PendingPoints pending;
-  double pathWidth = 0.0;       ///< of the pen of arcs and circles that name none
-  Values values;                ///< of the current line
-  std::vector<double> numbers;  ///< room for the points of the current line
-};
+  double pathWidth = 0.0;  ///< of the pen of arcs and circles that name none
 
-/// Carries out a command.
-using CommandHandler = LineOutcome (*)(ReaderState& state, std::string_view arguments);
+  // Of the current line.
+  std::string_view arguments;        ///< of its command
+  Values values;                     ///< the arguments, cut
+  const RecordRule* rule = nullptr;  ///< of its command or attribute
+  std::vector<double> numbers;       ///< room for its points
+};
 
 }  // namespace kestrin

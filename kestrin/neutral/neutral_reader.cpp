@@ -1,8 +1,6 @@
 #include "kestrin/neutral/neutral_reader.h"
 
 #include <algorithm>
-#include <iterator>
-#include <limits>
 #include <memory>
 #include <utility>
 
@@ -15,68 +13,54 @@
 namespace kestrin {
 namespace {
 
-constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
-
-/// The number behind the last ":" of a value such as "X:12.5".
-double NumberBehindColon(std::string_view value) {
+/// The number after the last ":" of a value such as "X:12.5".
+double NumberAfterColon(std::string_view value) {
   return ToDouble(value.substr(value.rfind(':') + 1));  // npos + 1 is 0
 }
 
-constexpr RecordRule kBoardValues{"BOARD", "exactly 6 values"};
-constexpr RecordRule kPinOwner{"N_PIN", "a NET before it"};
-constexpr RecordRule kPropertyOwner{"C_PROP", "a COMP before it"};
+/// Records are read in their section only.
+OwnerState OwnerIn(bool isSelected) { return isSelected ? OwnerState::kThere : OwnerState::kElsewhere; }
+
+OwnerState OwnerIn(bool isSelected, const void* owner) {
+  return isSelected && owner == nullptr ? OwnerState::kMissing : OwnerIn(isSelected);
+}
 
 }  // namespace
 
-/// A row of the table of records.
-struct NeutralReader::Record {
-  constexpr Record(const RecordRule& keywordAndValues, std::size_t fewestValues, std::size_t mostValues,
-                   bool (NeutralReader::*condition)() const, LineOutcome (NeutralReader::*function)())
-      : keyword(keywordAndValues.record),
-        rule(keywordAndValues),
-        fewest(fewestValues),
-        most(mostValues),
-        isTaken(condition),
-        read(function) {}
-  /// A record that carries nothing for the models.
-  constexpr explicit Record(std::string_view word) : Record({word, ""}, 0, kNoLimit, nullptr, nullptr) {}
-
-  [[nodiscard]] bool Accepts(LineFields& values) const {
-    return (fewest == 0 || values.Has(fewest - 1)) && (most == kNoLimit || values.Count() <= most);
-  }
-
-  Keyword keyword;
-  RecordRule rule;
-  std::size_t fewest;
-  std::size_t most;
-  bool (NeutralReader::*isTaken)() const;
-  LineOutcome (NeutralReader::*read)();
-};
-
-/// The record of a keyword, null for a word that is none.
-const NeutralReader::Record* NeutralReader::Find(Keyword keyword) {
+/// The row of a keyword, null for a word that is none.
+const NeutralReader::Row* NeutralReader::Find(Keyword keyword) {
   using Reader = NeutralReader;
-  static constexpr Record kRecords[] = {
+  using Owner = kestrin::Owner<Reader>;
+  constexpr Owner kBoardSection{"",
+                                [](const Reader& reader) { return OwnerIn(reader.InFirstBoardSection()); }};
+  constexpr Owner kNetsSection{"", [](const Reader& reader) { return OwnerIn(reader.InSelectedNets()); }};
+  constexpr Owner kComponentSection{
+      "", [](const Reader& reader) { return OwnerIn(reader.InSelectedComponents()); }};
+  constexpr Owner kCurrentNet{
+      "a NET before it", [](const Reader& reader) { return OwnerIn(reader.InSelectedNets(), reader.net_); }};
+  constexpr Owner kCurrentComponent{"a COMP before it", [](const Reader& reader) {
+                                      return OwnerIn(reader.InSelectedComponents(), reader.component_);
+                                    }};
+  static constexpr Row kRows[] = {
       // the most frequent first
-      {{"N_PIN", "at least 5 values"}, 5, kNoLimit, &Reader::InSelectedNets, &Reader::AddPin},
-      Record("C_PIN"),
-      {{"NET", "exactly 1 value"}, 1, 1, &Reader::InSelectedNets, &Reader::AddNet},
-      Record("N_PROP"),
-      {{"COMP", "exactly 8 values"}, 8, 8, &Reader::InSelectedComponents, &Reader::AddComponent},
-      {{"C_PROP", ""}, 0, kNoLimit, &Reader::InSelectedComponents, &Reader::AddProperties},
-      {{"P_ADDP", "exactly 8 values"}, 8, 8, &Reader::Always, &Reader::AddPlacement},
-      {kBoardValues, 0, kNoLimit, &Reader::InFirstBoardSection, &Reader::SetBoard},
-      {{"B_UNITS", "exactly 1 value"}, 1, 1, &Reader::Always, &Reader::SetUnits},
-      Record("N_VIA"),
-      Record("HOLE"),
-      Record("B_ATTR"),
-      Record("G_ATTR"),
-      Record("G_PIN"),
-      Record("GEOM"),
+      {"N_PIN", AtLeast(5), kCurrentNet, &Reader::AddPin},
+      Row("C_PIN"),
+      {"NET", Exactly(1), kNetsSection, &Reader::AddNet},
+      Row("N_PROP"),
+      {"COMP", Exactly(8), kComponentSection, &Reader::AddComponent},
+      {"C_PROP", Any(), kCurrentComponent, &Reader::AddProperties},
+      {"P_ADDP", Exactly(8), kNobody, &Reader::AddPlacement},
+      {"BOARD", Exactly(6), kBoardSection, &Reader::SetBoard},
+      {"B_UNITS", Exactly(1), kNobody, &Reader::SetUnits},
+      Row("N_VIA"),
+      Row("HOLE"),
+      Row("B_ATTR"),
+      Row("G_ATTR"),
+      Row("G_PIN"),
+      Row("GEOM"),
   };
-  const auto* found = std::find_if(std::begin(kRecords), std::end(kRecords),
-                                   [keyword](const Record& record) { return record.keyword == keyword; });
-  return found == std::end(kRecords) ? nullptr : found;
+  static constexpr KeywordTable kTable(kRows);
+  return kTable.Find(keyword);
 }
 
 LineOutcome NeutralReader::ReadLine(std::string_view line) {
@@ -87,14 +71,22 @@ LineOutcome NeutralReader::ReadLine(std::string_view line) {
   if (TrimmedLeft(line).empty()) return LineOutcome::Ignored();
   std::size_t position = 0;
   const std::string_view word = NextToken(line, ' ', position).value_or(std::string_view());
-  const Record* record = Find(Keyword(word));
-  if (record == nullptr) return LineOutcome::Skipped(SkipCode::kUnknownRecord);
-  if (record->read == nullptr || !(this->*record->isTaken)()) return LineOutcome::Ignored();
+  const Row* row = Find(Keyword(word));
+  if (row == nullptr) return LineOutcome::Skipped(SkipCode::kUnknownRecord);
+  if (row->read == nullptr) return LineOutcome::Ignored();
+  const OwnerState owner = row->FindOwner(*this);
+  if (owner == OwnerState::kElsewhere) return LineOutcome::Ignored();
   if (position == line.size()) return LineOutcome::Skipped(SkipCode::kUnendedKeyword);
   rest_ = line.substr(position + 1);
   values_.Begin(rest_);
-  if (!record->Accepts(values_)) return LineOutcome::WrongValueCount(record->rule, values_.Count());
-  return (this->*record->read)();
+  if (!row->values.AcceptsValuesOf(values_)) return SkipForItsCount(*row);
+  return owner == OwnerState::kThere ? (this->*row->read)() : LineOutcome::NoOwner(*row);
+}
+
+LineOutcome NeutralReader::SkipForItsCount(const Row& row) {
+  // Every BOARD selects anew, if need be for the board that an earlier one named.
+  if (row.read == &NeutralReader::SetBoard) chooser_.Choose(selection_);
+  return LineOutcome::WrongValueCount(row, values_.Count());
 }
 
 void NeutralReader::CountSection(std::string_view header) {
@@ -116,14 +108,11 @@ LineOutcome NeutralReader::AddPlacement() {
 }
 
 LineOutcome NeutralReader::SetBoard() {
-  const bool complete = values_.Count() == 6;
-  if (complete) {
-    chooser_.SetBoard(Value(1));
-    components_.m_dBoardValue3 = NumberBehindColon(Value(3));
-    components_.m_dBoardValue4 = NumberBehindColon(Value(4));
-  }
-  chooser_.Choose(selection_);  // also for the board of an earlier record
-  return complete ? LineOutcome::Imported() : LineOutcome::WrongValueCount(kBoardValues, values_.Count());
+  chooser_.SetBoard(Value(1));
+  components_.m_dBoardValue3 = NumberAfterColon(Value(3));
+  components_.m_dBoardValue4 = NumberAfterColon(Value(4));
+  chooser_.Choose(selection_);
+  return LineOutcome::Imported();
 }
 
 LineOutcome NeutralReader::SetUnits() {
@@ -141,7 +130,6 @@ LineOutcome NeutralReader::AddNet() {
 }
 
 LineOutcome NeutralReader::AddPin() {
-  if (net_ == nullptr) return LineOutcome::Skipped(SkipCode::kNoOwner, kPinOwner);
   const std::string_view name = PinName(Value(1));
   const std::size_t hyphen = name.find('-');
   auto pin = records_.Make<CMRefPin>();
@@ -176,7 +164,6 @@ LineOutcome NeutralReader::AddComponent() {
 }
 
 LineOutcome NeutralReader::AddProperties() {
-  if (component_ == nullptr) return LineOutcome::Skipped(SkipCode::kNoOwner, kPropertyOwner);
   std::size_t position = 0;
   while (const auto item = NextPropertyGroup(rest_, position, scratch_))
     AddProperty(*component_, records_, *item);

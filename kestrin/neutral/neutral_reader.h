@@ -16,6 +16,7 @@
 #include "kestrin/text/keyword.h"
 #include "kestrin/text/line_fields.h"
 #include "kestrin/text/line_outcome.h"
+#include "kestrin/text/record_table.h"
 
 namespace kestrin {
 
@@ -33,21 +34,20 @@ class NeutralReader {
   LineOutcome ReadLine(std::string_view line);
 
  private:
-  struct Record;
-  static const Record* Find(Keyword keyword);
+  using Row = Record<NeutralReader, LineOutcome (NeutralReader::*)()>;
+  static const Row* Find(Keyword keyword);
 
   void CountSection(std::string_view header);
+  LineOutcome SkipForItsCount(const Row& row);
   std::string_view PinName(std::string_view value);
 
-  // Which records are taken.
-  [[nodiscard]] bool Always() const { return true; }
   [[nodiscard]] bool InFirstBoardSection() const { return boardSections_ == 1; }
   [[nodiscard]] bool InSelectedNets() const { return selection_.netsSections == selection_.ordinal; }
   [[nodiscard]] bool InSelectedComponents() const {
     return selection_.componentSections == selection_.ordinal;
   }
 
-  // What they do with their values.
+  // What records do with their values. Their owner is there.
   LineOutcome AddPlacement();
   LineOutcome SetBoard();
   LineOutcome SetUnits();
@@ -67,7 +67,7 @@ class NeutralReader {
   std::int64_t boardSections_ = 0;
   CMNetInfo* net_ = nullptr;          // takes the pins that follow
   CMCompsInfo* component_ = nullptr;  // takes the properties that follow
-  std::string_view rest_;             // of the current line, behind its keyword
+  std::string_view rest_;             // of the current line, after its keyword
   LineFields values_;                 // which are in there
   std::string scratch_;
 };

@@ -9,12 +9,13 @@
 #include "kestrin/text/comment.h"
 #include "kestrin/text/contains.h"
 #include "kestrin/text/fields.h"
+#include "kestrin/text/record_table.h"
 #include "kestrin/text/trim.h"
 
 namespace kestrin {
 namespace {
 
-/// What stands between the first opening and the last closing parenthesis: nothing without a closing one, all
+/// The text between the first opening and the last closing parenthesis: nothing without a closing one, all
 /// before it without an opening one.
 std::string_view ArgumentText(std::string_view line) {
   line.remove_prefix(line.find('(') + 1);  // npos + 1 is 0
@@ -25,24 +26,19 @@ std::string_view ArgumentText(std::string_view line) {
 }  // namespace
 
 LineOutcome TechReader::ReadLine(std::string_view line) {
-  struct Command {
-    std::string_view keyword;
-    void (TechReader::*add)(std::string_view line);
-  };
+  using Command = Record<TechReader, LineOutcome (TechReader::*)(std::string_view line)>;
   static constexpr Command kCommands[] = {
       // in the order that decides when a line holds several
-      {"$$define_physical_layer", &TechReader::AddLayer},
-      {"$$define_rule_via", &TechReader::AddViaRule},
+      {"$$define_physical_layer", Any(), kNobody, &TechReader::AddLayer},
+      {"$$define_rule_via", Any(), kNobody, &TechReader::AddViaRule},
   };
   for (const Command& command : kCommands) {
-    if (!Contains(line, command.keyword)) continue;
-    (this->*command.add)(line);
-    return LineOutcome::Imported();
+    if (Contains(line, command.name)) return (this->*command.read)(line);
   }
   return IsBlankOrComment(line) ? LineOutcome::Ignored() : LineOutcome::Skipped(SkipCode::kUnknownRecord);
 }
 
-void TechReader::AddLayer(std::string_view line) {
+LineOutcome TechReader::AddLayer(std::string_view line) {
   auto layer = std::make_unique<CMTechStackUpOrder>();
   ForEachArgument(line, [&](std::int64_t number, std::string_view argument) {
     switch (number) {
@@ -52,9 +48,10 @@ void TechReader::AddLayer(std::string_view line) {
     }
   });
   Append(*model_.m_pStackupArray, std::move(layer));
+  return LineOutcome::Imported();
 }
 
-void TechReader::AddViaRule(std::string_view line) {
+LineOutcome TechReader::AddViaRule(std::string_view line) {
   auto via = std::make_unique<CMTechVia>();
   ForEachArgument(line, [&](std::int64_t number, std::string_view argument) {
     switch (number) {
@@ -64,6 +61,7 @@ void TechReader::AddViaRule(std::string_view line) {
     }
   });
   Append(*model_.m_pViaArray, std::move(via));
+  return LineOutcome::Imported();
 }
 
 template <class Visit>

@@ -21,8 +21,8 @@ class TechReader {
   LineOutcome ReadLine(std::string_view line);
 
  private:
-  void AddLayer(std::string_view line);
-  void AddViaRule(std::string_view line);
+  LineOutcome AddLayer(std::string_view line);
+  LineOutcome AddViaRule(std::string_view line);
   /// Calls visit with every argument of a command and its number, from 1.
   template <class Visit>
   void ForEachArgument(std::string_view line, Visit visit);

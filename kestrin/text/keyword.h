@@ -3,8 +3,10 @@
 /// @file
 /// The words that say which record a line holds.
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <stdexcept>
 #include <string_view>
 
 namespace kestrin {
@@ -15,6 +17,7 @@ class Keyword {
  public:
   static constexpr std::size_t kLongest = 7;
 
+  constexpr Keyword() = default;
   constexpr explicit Keyword(std::string_view word) : number_(std::uint64_t{word.size()} << 56) {
     if (word.size() > kLongest) {
       number_ = ~std::uint64_t{0};
@@ -27,7 +30,36 @@ class Keyword {
   friend constexpr bool operator==(Keyword, Keyword) = default;
 
  private:
-  std::uint64_t number_;
+  std::uint64_t number_ = 0;
+};
+
+/// Finds the row of a keyword. Made at compile time from an array of rows, which have a member `name`; those
+/// of frequent keywords come first.
+template <class Row, std::size_t Count>
+class KeywordTable {
+ public:
+  constexpr explicit KeywordTable(const Row (&rows)[Count]) {
+    for (std::size_t i = 0; i < Count; ++i) {
+      if (rows[i].name.size() > Keyword::kLongest) throw std::length_error("a keyword is too long");
+      entries_[i] = {Keyword(rows[i].name), &rows[i]};
+    }
+  }
+
+  /// Null when no row has the keyword.
+  [[nodiscard]] constexpr const Row* Find(Keyword keyword) const {
+    for (const Entry& entry : entries_) {
+      if (entry.keyword == keyword) return entry.row;
+    }
+    return nullptr;
+  }
+
+ private:
+  struct Entry {
+    Keyword keyword;
+    const Row* row = nullptr;
+  };
+
+  std::array<Entry, Count> entries_;
 };
 
 }  // namespace kestrin

@@ -33,13 +33,19 @@ class LineFields {
   void Finish() {
     while (CutNext()) continue;
   }
-  /// Whether an apostrophe is open behind the last field that was cut.
+  /// Whether an apostrophe is open after the last field that was cut.
   [[nodiscard]] bool IsQuoted() const { return quoted_; }
 
   /// How many fields the line has.
   [[nodiscard]] std::size_t Count() {
     Finish();
     return count_;
+  }
+  [[nodiscard]] bool HasAtLeast(std::size_t count) {
+    while (count_ < count) {
+      if (!CutNext()) return false;
+    }
+    return true;
   }
   [[nodiscard]] bool Has(std::size_t number) {
     while (count_ <= number) {
@@ -53,7 +59,7 @@ class LineFields {
     return rest_.empty();
   }
 
-  /// A field as it stands, apostrophes included.
+  /// A field as the line has it, apostrophes included.
   [[nodiscard]] std::string_view Text(std::size_t number) {
     if (!Has(number)) AfxThrowInvalidArgException();
     return kept_[number];

@@ -1,17 +1,27 @@
 #include "kestrin/text/line_outcome.h"
 
+#include "kestrin/text/record_table.h"
+
 namespace kestrin {
+namespace {
+
+std::string DemandOf(const RecordRule& rule, SkipCode code, std::int32_t valueCount) {
+  switch (code) {
+    case SkipCode::kWrongValueCount: return rule.values.Text() + ", " + std::to_string(valueCount) + " found";
+    case SkipCode::kNoOwner: return std::string(rule.owner);
+    default: return std::string(rule.demand);
+  }
+}
+
+}  // namespace
 
 std::string LineOutcome::Reason() const {
   if (code_ == SkipCode::kOpenQuote && number_ > 0) {
-    return "line " + std::to_string(number_) +
-           " left an apostrophe open, so that the blanks of this line do not separate";
+    return "the line begins inside the apostrophe opened on line " + std::to_string(number_);
   }
-  if (rule_ == nullptr) return std::string(TextOf(code_).text);
-  std::string reason(rule_->record);
-  reason.append(number_ < 0 ? " needs " : " takes ").append(rule_->demand);
-  if (number_ >= 0) reason.append(", this line has ").append(std::to_string(number_));
-  return reason;
+  const std::string demand = rule_ == nullptr ? std::string() : DemandOf(*rule_, code_, number_);
+  if (demand.empty()) return std::string(TextOf(code_).text);
+  return std::string(rule_->name) + " needs " + demand;
 }
 
 }  // namespace kestrin

@@ -14,6 +14,8 @@
 
 namespace kestrin {
 
+struct RecordRule;
+
 /// Why a line was skipped.
 enum class SkipCode : std::uint8_t {
   kUnknownRecord,
@@ -35,15 +37,14 @@ struct SkipCodeText {
 
 /// The catalogue of skip codes, a row each in the order of SkipCode.
 inline constexpr std::array kSkipCodes{
-    SkipCodeText{"unknown-record", "the line holds no record that is read from this file"},
-    SkipCodeText{"unended-keyword", "no blank follows the keyword, so that the line is no record"},
-    SkipCodeText{"wrong-value-count", "the record does not have the number of values that its kind takes"},
-    SkipCodeText{"no-owner", "the record that this one belongs to does not stand before it"},
-    SkipCodeText{"open-quote",
-                 "a line before this one left an apostrophe open, so that its blanks do not separate"},
-    SkipCodeText{"unknown-command", "the command is none that is read from this file"},
-    SkipCodeText{"unknown-attribute", "the attribute is none that is read from this file"},
-    SkipCodeText{"missing-value", "a value that the record cannot do without is missing"},
+    SkipCodeText{"unknown-record", "unknown record"},
+    SkipCodeText{"unended-keyword", "no blank follows the keyword"},
+    SkipCodeText{"wrong-value-count", "wrong number of values"},
+    SkipCodeText{"no-owner", "the record that the line belongs to is missing"},
+    SkipCodeText{"open-quote", "the line begins inside an apostrophe from an earlier line"},
+    SkipCodeText{"unknown-command", "unknown command"},
+    SkipCodeText{"unknown-attribute", "unknown attribute"},
+    SkipCodeText{"missing-value", "a required value is missing"},
 };
 static_assert(kSkipCodes.size() == static_cast<std::size_t>(SkipCode::kCount));
 
@@ -51,13 +52,6 @@ static_assert(kSkipCodes.size() == static_cast<std::size_t>(SkipCode::kCount));
 [[nodiscard]] constexpr const SkipCodeText& TextOf(SkipCode code) {
   return kSkipCodes[static_cast<std::size_t>(code)];
 }
-
-/// What a kind of record asks of its lines, as users read it: "N_PIN" takes "at least 5 values", or needs "a
-/// NET before it". Stands as a constant beside the reader's table.
-struct RecordRule {
-  std::string_view record;  ///< the name of the record
-  std::string_view demand;  ///< what it takes or needs
-};
 
 /// The answer of a reader to one line: imported, ignored (it carries nothing: blank, a comment, outside what
 /// was asked for) or skipped for a reason. Small enough to be returned in registers.
@@ -76,17 +70,21 @@ class LineOutcome {
   [[nodiscard]] static constexpr LineOutcome Skipped(SkipCode code) {
     return {Kind::kSkipped, code, -1, nullptr};
   }
-  /// The line breaks this rule, which must be a constant.
+  ///@{
+  /// The line breaks this rule, which must be a constant. The reason is made from the rule.
   [[nodiscard]] static constexpr LineOutcome Skipped(SkipCode code, const RecordRule& rule) {
     return {Kind::kSkipped, code, -1, &rule};
   }
-  /// The line has this many values, which is not what the rule asks for.
+  [[nodiscard]] static constexpr LineOutcome NoOwner(const RecordRule& rule) {
+    return Skipped(SkipCode::kNoOwner, rule);
+  }
   [[nodiscard]] static constexpr LineOutcome WrongValueCount(const RecordRule& rule, std::size_t valueCount) {
     return {Kind::kSkipped, SkipCode::kWrongValueCount,
             static_cast<std::int32_t>(std::min<std::size_t>(valueCount, INT32_MAX)), &rule};
   }
+  ///@}
 
-  /// The line begins inside an apostrophe that a line before it, counted from 1, left open.
+  /// The line begins inside an apostrophe that an earlier line, counted from 1, left open.
   [[nodiscard]] static constexpr LineOutcome OpenQuote(std::int64_t openingLine) {
     return {Kind::kSkipped, SkipCode::kOpenQuote,
             openingLine <= INT32_MAX ? static_cast<std::int32_t>(openingLine) : -1, nullptr};

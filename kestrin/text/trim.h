@@ -24,13 +24,13 @@ namespace kestrin {
   return TrimmedRight(TrimmedLeft(text));
 }
 
-/// The text without a character at its left end, as often as it stands there.
+/// The text without a character at its left end, as often as it is there.
 [[nodiscard]] constexpr std::string_view WithoutLeading(std::string_view text, char c) {
   while (!text.empty() && text.front() == c) text.remove_prefix(1);
   return text;
 }
 
-/// The text without a character at its right end, as often as it stands there.
+/// The text without a character at its right end, as often as it is there.
 [[nodiscard]] constexpr std::string_view WithoutTrailing(std::string_view text, char c) {
   while (!text.empty() && text.back() == c) text.remove_suffix(1);
   return text;

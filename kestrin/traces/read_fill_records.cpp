@@ -70,49 +70,47 @@ void Read(LineFields& values, CMTracesTTI& record) {
 
 }  // namespace
 
-bool TracesReader::AddFil() {
+LineOutcome TracesReader::AddFil() {
   auto fill = records_.Make<CMTracesFIL>();
   Read(values_, *fill);
   fill_ = Append(*model_.m_pFilArray, std::move(fill));
   vertices_ = fill_->m_pVerArray;
-  return true;
+  return LineOutcome::Imported();
 }
 
-bool TracesReader::AddAre() { return AddArea(&CMTracesFIL::m_pAreArray); }
+LineOutcome TracesReader::AddAre() { return AddArea(&CMTracesFIL::m_pAreArray); }
 
-bool TracesReader::AddArs() { return AddArea(&CMTracesFIL::m_pArsArray); }
+LineOutcome TracesReader::AddArs() { return AddArea(&CMTracesFIL::m_pArsArray); }
 
-bool TracesReader::AddIsl() { return AddIsland(&CMTracesFIL::m_pIslArray); }
+LineOutcome TracesReader::AddIsl() { return AddIsland(&CMTracesFIL::m_pIslArray); }
 
-bool TracesReader::AddIss() { return AddIsland(&CMTracesFIL::m_pIssArray); }
+LineOutcome TracesReader::AddIss() { return AddIsland(&CMTracesFIL::m_pIssArray); }
 
-bool TracesReader::AddTti() {
+LineOutcome TracesReader::AddTti() {
   auto record = records_.Make<CMTracesTTI>();
   Read(values_, *record);
-  if (fill_ == nullptr) return false;
   record->m_sName1 = fill_->m_sName1;
   record->m_sName2 = fill_->m_sName2;
   Append(*fill_->m_pTtiArray, std::move(record));
-  return true;
+  return LineOutcome::Imported();
 }
 
-bool TracesReader::AddVer() {
+LineOutcome TracesReader::AddVer() {
   auto vertex = records_.Make<CMTracesVER>();
   vertex->m_dX = values_.Double(1);
   vertex->m_dY = values_.Double(2);
-  if (vertices_ == nullptr) return false;
   Append(*vertices_, std::move(vertex));
-  return true;
+  return LineOutcome::Imported();
 }
 
 /// An area goes to the current fill, whatever the names of both are.
-template <class AREA>
-bool TracesReader::AddArea(RecordArray<AREA>* CMTracesFIL::*list) {
-  auto area = records_.Make<AREA>();
+template <class Area>
+LineOutcome TracesReader::AddArea(RecordArray<Area>* CMTracesFIL::*list) {
+  auto area = records_.Make<Area>();
   Read(values_, *area);
   if (fill_ == nullptr) AddFillFor(*area);
   vertices_ = Append(*(fill_->*list), std::move(area))->m_pVerArray;
-  return true;
+  return LineOutcome::Imported();
 }
 
 /// Areas may come without a FIL line; the fill that they then belong to takes after the first of them.
@@ -125,13 +123,12 @@ void TracesReader::AddFillFor(const CMTracesArea& area) {
   fill_ = Append(*model_.m_pFilArray, std::move(fill));
 }
 
-template <class ISLAND>
-bool TracesReader::AddIsland(RecordArray<ISLAND>* CMTracesFIL::*list) {
-  auto island = records_.Make<ISLAND>();
+template <class Island>
+LineOutcome TracesReader::AddIsland(RecordArray<Island>* CMTracesFIL::*list) {
+  auto island = records_.Make<Island>();
   island->m_nValue1 = values_.Int(1);
-  if (fill_ == nullptr) return false;
   vertices_ = Append(*(fill_->*list), std::move(island))->m_pVerArray;
-  return true;
+  return LineOutcome::Imported();
 }
 
 }  // namespace kestrin

@@ -52,56 +52,53 @@ void Read(LineFields& values, CMTracesSEG& record) {
 
 }  // namespace
 
-void TracesReader::AddNet() {
+LineOutcome TracesReader::AddNet() {
   auto net = records_.Make<CMTracesNET>();
   net->m_sName = WithoutApostrophes(values_.Text(2));
   net_ = Append(*model_.m_pNetArray, std::move(net));
   fill_ = nullptr;
+  return LineOutcome::Imported();
 }
 
-bool TracesReader::AddWir() {
+LineOutcome TracesReader::AddWir() {
   constexpr std::size_t kComplete = 5;
   if (CountValues(values_) >= kComplete) return AddWithSegments(&CMTracesNET::m_pWirArray);
-  if (net_ == nullptr) return false;
   Append(*net_->m_pWirArray, records_.Make<CMTracesWIRANT>());
-  return true;
+  return LineOutcome::Imported();
 }
 
-bool TracesReader::AddInc() { return AddWithSegments(&CMTracesNET::m_pIncArray); }
+LineOutcome TracesReader::AddInc() { return AddWithSegments(&CMTracesNET::m_pIncArray); }
 
-bool TracesReader::AddAnt() {
+LineOutcome TracesReader::AddAnt() {
   return CountValues(values_) == 5 ? AddWithSegments(&CMTracesNET::m_pAntWirArray)
                                    : AddWithSegments(&CMTracesNET::m_pAntIncArray);
 }
 
-bool TracesReader::AddGui() { return AddGuiOrChg(&CMTracesNET::m_pGuiArray); }
+LineOutcome TracesReader::AddGui() { return AddGuiOrChg(&CMTracesNET::m_pGuiArray); }
 
-bool TracesReader::AddChg() { return AddGuiOrChg(&CMTracesNET::m_pChgArray); }
+LineOutcome TracesReader::AddChg() { return AddGuiOrChg(&CMTracesNET::m_pChgArray); }
 
-bool TracesReader::AddSeg() {
+LineOutcome TracesReader::AddSeg() {
   auto segment = records_.Make<CMTracesSEG>();
   Read(values_, *segment);
-  if (segments_ == nullptr) return false;
   Append(*segments_, std::move(segment));
-  return true;
+  return LineOutcome::Imported();
 }
 
 /// The SEG lines that follow go to the record.
-template <class RECORD>
-bool TracesReader::AddWithSegments(RecordArray<RECORD>* CMTracesNET::*list) {
-  auto record = records_.Make<RECORD>();
+template <class Wire>
+LineOutcome TracesReader::AddWithSegments(RecordArray<Wire>* CMTracesNET::*list) {
+  auto record = records_.Make<Wire>();
   Read(values_, *record);
-  if (net_ == nullptr) return false;
   segments_ = Append(*(net_->*list), std::move(record))->m_pSegArray;
-  return true;
+  return LineOutcome::Imported();
 }
 
-bool TracesReader::AddGuiOrChg(RecordArray<CMTracesGUICHG>* CMTracesNET::*list) {
+LineOutcome TracesReader::AddGuiOrChg(RecordArray<CMTracesGUICHG>* CMTracesNET::*list) {
   auto record = records_.Make<CMTracesGUICHG>();
   Read(values_, *record);
-  if (net_ == nullptr) return false;
   Append(*(net_->*list), std::move(record));
-  return true;
+  return LineOutcome::Imported();
 }
 
 }  // namespace kestrin

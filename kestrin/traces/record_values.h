@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The values of a record of a Traces file: the fields behind its code, numbered from 1.
+/// The values of a record of a Traces file: the fields after its code, numbered from 1.
 
 #include <cstddef>
 #include <string_view>

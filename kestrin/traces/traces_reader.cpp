@@ -1,9 +1,5 @@
 #include "kestrin/traces/traces_reader.h"
 
-#include <algorithm>
-#include <array>
-#include <cstddef>
-#include <iterator>
 #include <memory>
 #include <utility>
 
@@ -34,62 +30,35 @@ bool CarriesNothing(std::string_view line) {
   return text.front() == '(' && text.back() == ')';
 }
 
+OwnerState OwnerAt(const void* owner) { return owner == nullptr ? OwnerState::kMissing : OwnerState::kThere; }
+
 }  // namespace
 
-/// How the lines of a record code are read.
-struct TracesReader::RecordKind {
-  using ValueCounts = std::array<std::size_t, 3>;
-
-  constexpr RecordKind(std::string_view recordCode, std::string_view valueDemand, ValueCounts acceptedCounts,
-                       std::string_view ownerDemand, bool (TracesReader::*function)())
-      : code(recordCode),
-        values{recordCode, valueDemand},
-        counts(acceptedCounts),
-        owner{recordCode, ownerDemand},
-        read(function) {}
-
-  [[nodiscard]] bool Accepts(LineFields& line) const {
-    if (line.AtEnd()) return false;  // a code that stands alone is never read
-    return counts.front() == 0 || std::find(counts.begin(), counts.end(), CountValues(line)) != counts.end();
-  }
-
-  Keyword code;
-  RecordRule values;
-  ValueCounts counts;  // none: any number
-  RecordRule owner;
-  bool (TracesReader::*read)();
-};
-
-/// The kind of a record code, null for a code that is none.
-const TracesReader::RecordKind* TracesReader::FindKind(Keyword code) {
-  constexpr RecordKind::ValueCounts kAny{};
-  constexpr std::string_view kNet = "a net header before it";
-  constexpr std::string_view kFill = "a FIL, ARE or ARS before it, behind the last net header";
-  static constexpr RecordKind kKinds[] = {
+/// The row of a record code, null for a code that is none.
+const TracesReader::Row* TracesReader::Find(Keyword code) {
+  using Reader = TracesReader;
+  using Owner = kestrin::Owner<Reader>;
+  constexpr Owner kNet{"a net header before it", [](const Reader& reader) { return OwnerAt(reader.net_); }};
+  constexpr Owner kFill{"a FIL, ARE or ARS before it and after the last net header",
+                        [](const Reader& reader) { return OwnerAt(reader.fill_); }};
+  constexpr Owner kSegments{"a WIR of at least 5 values, an INC or an ANT before it",
+                            [](const Reader& reader) { return OwnerAt(reader.segments_); }};
+  constexpr Owner kVertices{"a FIL, ARE, ARS, ISL or ISS before it",
+                            [](const Reader& reader) { return OwnerAt(reader.vertices_); }};
+  static constexpr Row kRows[] = {
       // the most frequent first
-      {"VER", "at least 2 values", kAny, "a FIL, ARE, ARS, ISL or ISS before it", &TracesReader::AddVer},
-      {"SEG", "at least 1 value", kAny, "a WIR of at least 5 values, an INC or an ANT before it",
-       &TracesReader::AddSeg},
-      {"WIR", "at least 1 value", kAny, kNet, &TracesReader::AddWir},
-      {"ISL", "at least 1 value", kAny, kFill, &TracesReader::AddIsl},
-      {"ISS", "at least 1 value", kAny, kFill, &TracesReader::AddIss},
-      {"ARE", "at least 1 value", kAny, "", &TracesReader::AddAre},
-      {"ARS", "at least 1 value", kAny, "", &TracesReader::AddArs},
-      {"FIL", "at least 1 value", kAny, "", &TracesReader::AddFil},
-      {"TTI", "3 or 7 values", {3, 7}, kFill, &TracesReader::AddTti},
-      {"INC", "7 values", {7}, kNet, &TracesReader::AddInc},
-      {"ANT", "5 or 7 values", {5, 7}, kNet, &TracesReader::AddAnt},
-      {"GUI", "at least 6 values", kAny, kNet, &TracesReader::AddGui},
-      {"CHG", "at least 6 values", kAny, kNet, &TracesReader::AddChg},
-      {"XRF", "at least 2 values", kAny, "", &TracesReader::AddXrf},
-      {"TET", "at least 5 values", kAny, "", &TracesReader::AddTet},
-      {"TTT", "at least 5 values", kAny, "", &TracesReader::AddTtt},
-      {"UNITS", "at least 1 value", kAny, "", &TracesReader::SetUnits},
-      {"ST", "4, 6 or 8 values", {4, 6, 8}, "", &TracesReader::SetSt},
+      {"VER", AtLeast(2), kVertices, &Reader::AddVer},   {"SEG", AtLeast(1), kSegments, &Reader::AddSeg},
+      {"WIR", AtLeast(1), kNet, &Reader::AddWir},        {"ISL", AtLeast(1), kFill, &Reader::AddIsl},
+      {"ISS", AtLeast(1), kFill, &Reader::AddIss},       {"ARE", AtLeast(1), kNobody, &Reader::AddAre},
+      {"ARS", AtLeast(1), kNobody, &Reader::AddArs},     {"FIL", AtLeast(1), kNobody, &Reader::AddFil},
+      {"TTI", OneOf(3, 7), kFill, &Reader::AddTti},      {"INC", Exactly(7), kNet, &Reader::AddInc},
+      {"ANT", OneOf(5, 7), kNet, &Reader::AddAnt},       {"GUI", AtLeast(6), kNet, &Reader::AddGui},
+      {"CHG", AtLeast(6), kNet, &Reader::AddChg},        {"XRF", AtLeast(2), kNobody, &Reader::AddXrf},
+      {"TET", AtLeast(5), kNobody, &Reader::AddTet},     {"TTT", AtLeast(5), kNobody, &Reader::AddTtt},
+      {"UNITS", AtLeast(1), kNobody, &Reader::SetUnits}, {"ST", OneOf(4, 6, 8), kNobody, &Reader::SetSt},
   };
-  const auto* found = std::find_if(std::begin(kKinds), std::end(kKinds),
-                                   [code](const RecordKind& kind) { return kind.code == code; });
-  return found == std::end(kKinds) ? nullptr : found;
+  static constexpr KeywordTable kTable(kRows);
+  return kTable.Find(code);
 }
 
 LineOutcome TracesReader::ReadLine(std::string_view line) {
@@ -104,19 +73,21 @@ LineOutcome TracesReader::ReadLine(std::string_view line) {
 LineOutcome TracesReader::ReadRecord(std::string_view line) {
   quotingLine_ = lineNumber_;
   const Keyword code(values_.Has(0) ? values_.Text(0) : std::string_view());
-  if (code == Keyword("#") && values_.Has(1) && values_.Text(1) == "NET") {
-    AddNet();
-    return LineOutcome::Imported();
+  if (code == Keyword("#") && values_.Has(1) && values_.Text(1) == "NET") return AddNet();
+  const Row* row = Find(code);
+  if (row == nullptr) {
+    return CarriesNothing(line) ? LineOutcome::Ignored() : LineOutcome::Skipped(SkipCode::kUnknownRecord);
   }
-  if (const RecordKind* kind = FindKind(code)) {
-    if (!kind->Accepts(values_)) return LineOutcome::WrongValueCount(kind->values, CountValues(values_));
-    return (this->*kind->read)() ? LineOutcome::Imported()
-                                 : LineOutcome::Skipped(SkipCode::kNoOwner, kind->owner);
-  }
-  return CarriesNothing(line) ? LineOutcome::Ignored() : LineOutcome::Skipped(SkipCode::kUnknownRecord);
+  // A line with some of the values that it must have at least is no other form of the record: it raises when
+  // the missing one is asked for.
+  const bool fits = row->values.IsOpenEnded() ? !values_.AtEnd() : row->values.Accepts(CountValues(values_));
+  if (!fits) return LineOutcome::WrongValueCount(*row, CountValues(values_));
+  if (row->FindOwner(*this) == OwnerState::kThere) return (this->*row->read)();
+  static_cast<void>(values_.Text(row->values.fewest));  // raises also for a record without an owner
+  return LineOutcome::NoOwner(*row);
 }
 
-/// A line that begins inside an apostrophe has no code: what stands first reaches to the closing apostrophe.
+/// A line that begins inside an apostrophe has no code: its first value reaches to the closing apostrophe.
 LineOutcome TracesReader::SkipQuoted(std::string_view line) {
   if (Trimmed(line).empty()) return LineOutcome::Ignored();
   const LineOutcome outcome = LineOutcome::OpenQuote(quotingLine_);
@@ -124,33 +95,33 @@ LineOutcome TracesReader::SkipQuoted(std::string_view line) {
   return outcome;
 }
 
-bool TracesReader::SetUnits() {
+LineOutcome TracesReader::SetUnits() {
   model_.m_sUnits = values_.Text(1);
-  return true;
+  return LineOutcome::Imported();
 }
 
-bool TracesReader::SetSt() {
+LineOutcome TracesReader::SetSt() {
   if (CountValues(values_) == 4) {
     model_.m_dStValue1 = values_.Double(1);
     model_.m_dStValue2 = values_.Double(2);
     model_.m_nStValue3 = values_.Int(3);
     model_.m_nStValue4 = values_.Int(4);
-    return true;
+    return LineOutcome::Imported();
   }
   SetLongStValues(model_, values_.Int(1), values_.Int(2), values_.Int(3), values_.Int(4), values_.Int(5),
                   values_.Int(6));
-  return true;
+  return LineOutcome::Imported();
 }
 
-bool TracesReader::AddXrf() {
+LineOutcome TracesReader::AddXrf() {
   auto record = records_.Make<CMTracesXRF>();
   record->m_nValue1 = values_.Int(1);
   SetValue2(*record, values_.Text(2));
   Append(*model_.m_pXrfArray, std::move(record));
-  return true;
+  return LineOutcome::Imported();
 }
 
-bool TracesReader::AddTet() {
+LineOutcome TracesReader::AddTet() {
   auto record = records_.Make<CMTracesTET>();
   record->m_nValue1 = values_.Int(1);
   record->m_sValue2 = values_.Text(2);
@@ -158,10 +129,10 @@ bool TracesReader::AddTet() {
   record->m_dValue4 = values_.Double(4);
   record->m_dValue5 = values_.Double(5);
   Append(*model_.m_pTetArray, std::move(record));
-  return true;
+  return LineOutcome::Imported();
 }
 
-bool TracesReader::AddTtt() {
+LineOutcome TracesReader::AddTtt() {
   auto record = records_.Make<CMTracesTTT>();
   record->m_nValue1 = values_.Int(1);
   record->m_dValue2 = values_.Double(2);
@@ -169,7 +140,7 @@ bool TracesReader::AddTtt() {
   record->m_nValue4 = values_.Int(4);
   record->m_nValue5 = values_.Int(5);
   Append(*model_.m_pTttArray, std::move(record));
-  return true;
+  return LineOutcome::Imported();
 }
 
 }  // namespace kestrin

@@ -10,6 +10,7 @@
 #include "kestrin/text/keyword.h"
 #include "kestrin/text/line_fields.h"
 #include "kestrin/text/line_outcome.h"
+#include "kestrin/text/record_table.h"
 #include "kestrin/traces/traces_model.h"
 
 namespace kestrin {
@@ -26,40 +27,40 @@ class TracesReader {
   LineOutcome ReadLine(std::string_view line);
 
  private:
-  struct RecordKind;
-  static const RecordKind* FindKind(Keyword code);
+  using Row = Record<TracesReader, LineOutcome (TracesReader::*)()>;
+  static const Row* Find(Keyword code);
   LineOutcome ReadRecord(std::string_view line);
   LineOutcome SkipQuoted(std::string_view line);
 
-  // A function for every record code. It reads the values first, so that a missing one raises whatever the
-  // record belongs to, and gives false when there is no owner to add the record to.
-  bool SetUnits();
-  bool SetSt();
-  bool AddXrf();
-  bool AddTet();
-  bool AddTtt();
-  void AddNet();
-  bool AddWir();
-  bool AddInc();
-  bool AddAnt();
-  bool AddGui();
-  bool AddChg();
-  bool AddSeg();
-  bool AddFil();
-  bool AddAre();
-  bool AddArs();
-  bool AddIsl();
-  bool AddIss();
-  bool AddTti();
-  bool AddVer();
+  // What records do with their values. Their owner is there. A handler reads all values before it changes
+  // anything, so that a missing one leaves the model as it was.
+  LineOutcome SetUnits();
+  LineOutcome SetSt();
+  LineOutcome AddXrf();
+  LineOutcome AddTet();
+  LineOutcome AddTtt();
+  LineOutcome AddNet();
+  LineOutcome AddWir();
+  LineOutcome AddInc();
+  LineOutcome AddAnt();
+  LineOutcome AddGui();
+  LineOutcome AddChg();
+  LineOutcome AddSeg();
+  LineOutcome AddFil();
+  LineOutcome AddAre();
+  LineOutcome AddArs();
+  LineOutcome AddIsl();
+  LineOutcome AddIss();
+  LineOutcome AddTti();
+  LineOutcome AddVer();
 
-  template <class RECORD>
-  bool AddWithSegments(RecordArray<RECORD>* CMTracesNET::*list);
-  bool AddGuiOrChg(RecordArray<CMTracesGUICHG>* CMTracesNET::*list);
-  template <class AREA>
-  bool AddArea(RecordArray<AREA>* CMTracesFIL::*list);
-  template <class ISLAND>
-  bool AddIsland(RecordArray<ISLAND>* CMTracesFIL::*list);
+  template <class Wire>
+  LineOutcome AddWithSegments(RecordArray<Wire>* CMTracesNET::*list);
+  LineOutcome AddGuiOrChg(RecordArray<CMTracesGUICHG>* CMTracesNET::*list);
+  template <class Area>
+  LineOutcome AddArea(RecordArray<Area>* CMTracesFIL::*list);
+  template <class Island>
+  LineOutcome AddIsland(RecordArray<Island>* CMTracesFIL::*list);
   void AddFillFor(const CMTracesArea& area);
 
   CMTraces& model_;

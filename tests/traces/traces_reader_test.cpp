@@ -185,8 +185,7 @@ TEST(TracesReader, ALineTooShortForItsRecordRaisesAndChangesNothing) {
 }
 
 std::string OpenedBy(int line) {
-  return "line " + std::to_string(line) +
-         " left an apostrophe open, so that the blanks of this line do not separate";
+  return "the line begins inside the apostrophe opened on line " + std::to_string(line);
 }
 
 TEST(TracesReader, TellsWhatBecameOfALine) {
@@ -206,13 +205,13 @@ TEST(TracesReader, TellsWhatBecameOfALine) {
       {"# NETWORK of A", "ignored"},
       {"(a note) VER 1 2", unknown},
       {"WIRE 1 2", unknown},
-      {"ST 1 2 3 4 5", "ST takes 4, 6 or 8 values, this line has 5"},
-      {"VER", "VER takes at least 2 values, this line has 0"},
-      {"FIL", "FIL takes at least 1 value, this line has 0"},
-      {"ST ", "ST takes 4, 6 or 8 values, this line has 0"},
-      {"INC", "INC takes 7 values, this line has 0"},
-      {"TTI", "TTI takes 3 or 7 values, this line has 0"},
-      {"TTI 1 2", "TTI takes 3 or 7 values, this line has 2"},
+      {"ST 1 2 3 4 5", "ST needs 4, 6 or 8 values, 5 found"},
+      {"VER", "VER needs at least 2 values, 0 found"},
+      {"FIL", "FIL needs at least 1 value, 0 found"},
+      {"ST ", "ST needs 4, 6 or 8 values, 0 found"},
+      {"INC", "INC needs exactly 7 values, 0 found"},
+      {"TTI", "TTI needs 3 or 7 values, 0 found"},
+      {"TTI 1 2", "TTI needs 3 or 7 values, 2 found"},
       {"VER 1 2", "VER needs a FIL, ARE, ARS, ISL or ISS before it"},
       {"SEG 1", "SEG needs a WIR of at least 5 values, an INC or an ANT before it"},
       {"WIR 1", "WIR needs a net header before it"},
@@ -220,7 +219,7 @@ TEST(TracesReader, TellsWhatBecameOfALine) {
       {"ANT 1 2 3 4 5", "ANT needs a net header before it"},
       {"INC 1 2 3 4 5 6 7", "INC needs a net header before it"},
       {"GUI 1 2 3 4 5 6", "GUI needs a net header before it"},
-      {"ISS 1", "ISS needs a FIL, ARE or ARS before it, behind the last net header"},
+      {"ISS 1", "ISS needs a FIL, ARE or ARS before it and after the last net header"},
       {"#'\nUNITS MM", OpenedBy(1)},
       {"\n# don't\n''\n'\n'\n# NET 'A", OpenedBy(5)},
       {"#'\n# NET 'A'", OpenedBy(1)},

@@ -1,0 +1,77 @@
+#pragma once
+
+/// @file
+/// The rows of the tables of commands and attributes.
+
+#include <cstdint>
+#include <string_view>
+
+#include "kestrin/geometry/owners.h"
+#include "kestrin/geometry/reader_state.h"
+#include "kestrin/text/record_table.h"
+
+namespace kestrin {
+
+/// Reads the values of a line. The owner is there, and so are the values that the row asks for.
+using GeometryHandler = LineOutcome (*)(ReaderState& state);
+
+/// Whom a record belongs to, and the handler that fills it.
+struct OwnerAndHandler {
+  Owner<ReaderState> owner;
+  GeometryHandler read;
+};
+
+/// The handler gets what the owner lends: the member that is to be filled.
+template <class TheOwner, auto Handler>
+[[nodiscard]] constexpr OwnerAndHandler To() {
+  return {{TheOwner::kDemand, [](const ReaderState& state) { return TheOwner::Find(state.geometry); }},
+          [](ReaderState& state) {
+            LineOutcome outcome = LineOutcome::Ignored();
+            TheOwner::Lend(state.geometry, [&](auto& member) { outcome = Handler(state, member); });
+            return outcome;
+          }};
+}
+
+/// What a line without its owner does to the pending points.
+enum class Ownerless : std::uint8_t { kKeepsPoints, kConsumesPoints };
+
+/// A command or an attribute. The first value of an attribute is its name.
+struct GeometryRow : Record<ReaderState, GeometryHandler> {
+  constexpr GeometryRow(std::string_view itsName, Commas itsCommas, ValueCount itsValues,
+                        OwnerAndHandler parts, std::string_view otherDemand)
+      : GeometryRow(itsName, itsCommas, itsValues, parts, Ownerless::kKeepsPoints, otherDemand) {}
+  constexpr GeometryRow(std::string_view itsName, Commas itsCommas, ValueCount itsValues,
+                        OwnerAndHandler parts, Ownerless itsOwnerless = Ownerless::kKeepsPoints,
+                        std::string_view otherDemand = {})
+      : Record(itsName, itsValues, parts.owner, parts.read, otherDemand),
+        commas(itsCommas),
+        ownerless(itsOwnerless) {}
+  /// One that belongs to nobody.
+  constexpr GeometryRow(std::string_view itsName, Commas itsCommas, ValueCount itsValues, Nobody itsOwner,
+                        GeometryHandler handler, std::string_view otherDemand = {})
+      : Record(itsName, itsValues, itsOwner, handler, otherDemand), commas(itsCommas) {}
+  /// One that carries nothing.
+  constexpr explicit GeometryRow(std::string_view itsName) : Record(itsName) {}
+
+  Commas commas = Commas::kEvery;  ///< that separate its values
+  Ownerless ownerless = Ownerless::kKeepsPoints;
+};
+
+/// Reads a line by its row. Of its values none are cut yet but an attribute's name.
+[[nodiscard]] inline LineOutcome ReadByRow(const GeometryRow& row, ReaderState& state) {
+  if (row.read == nullptr) return LineOutcome::Ignored();
+  const OwnerState owner = row.FindOwner(state);
+  if (owner == OwnerState::kElsewhere) return LineOutcome::Ignored();
+  if (owner == OwnerState::kMissing) {
+    if (row.ownerless == Ownerless::kConsumesPoints) state.pending.Clear();
+    return LineOutcome::NoOwner(row);
+  }
+  state.values.GoOnWith(row.commas);
+  if (!row.values.AcceptsValuesOf(state.values)) {
+    return LineOutcome::WrongValueCount(row, state.values.Count());
+  }
+  state.rule = &row;
+  return row.read(state);
+}
+
+}  // namespace kestrin

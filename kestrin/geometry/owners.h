@@ -1,0 +1,106 @@
+#pragma once
+
+/// @file
+/// Whom commands and attributes belong to. Each of these finds out whether the owner is there, lends the
+/// member of it that is to be filled, and names it for messages.
+
+#include <string_view>
+#include <type_traits>
+
+#include "kestrin/geometry/current_geometry.h"
+#include "kestrin/geometry/kinds_before.h"
+#include "kestrin/text/record_table.h"
+
+namespace kestrin {
+
+/// What a pointer to a member points into.
+template <class Member>
+struct ClassOfMember;
+template <class Class, class Value>
+struct ClassOfMember<Value Class::*> {
+  using Type = Class;
+};
+template <auto Member>
+using ClassOf = typename ClassOfMember<decltype(Member)>::Type;
+
+/// A member of a record, or the list that it points to.
+template <auto Member>
+[[nodiscard]] auto& MemberOf(ClassOf<Member>& record) {
+  if constexpr (std::is_pointer_v<std::remove_reference_t<decltype(record.*Member)>>) {
+    return *(record.*Member);
+  } else {
+    return record.*Member;
+  }
+}
+
+[[nodiscard]] constexpr OwnerState StateOf(const void* owner) {
+  return owner == nullptr ? OwnerState::kMissing : OwnerState::kThere;
+}
+
+/// The open geometry, which must be of one of the kinds that have such a member.
+template <auto... Members>
+struct OfOpen {
+  static constexpr std::string_view kDemand = kBefore<ClassOf<Members>...>.Text();
+
+  static OwnerState Find(const CurrentGeometry& geometry) {
+    const bool isOpen = ((geometry.Open<ClassOf<Members>>() != nullptr) || ...);
+    return isOpen ? OwnerState::kThere : OwnerState::kMissing;
+  }
+  template <class Fill>
+  static void Lend(const CurrentGeometry& geometry, Fill fill) {
+    static_cast<void>((LendIfOpen<Members>(geometry, fill) || ...));
+  }
+
+ private:
+  template <auto Member, class Fill>
+  static bool LendIfOpen(const CurrentGeometry& geometry, Fill fill) {
+    auto* record = geometry.Open<ClassOf<Member>>();
+    if (record != nullptr) fill(MemberOf<Member>(*record));
+    return record != nullptr;
+  }
+};
+
+/// The board once it is bound, whatever geometry is open.
+template <auto Member>
+struct OfBoundBoard {
+  static constexpr std::string_view kDemand = "$$lock_windows or $$create_board before it";
+  static OwnerState Find(const CurrentGeometry& geometry) { return StateOf(geometry.BoundBoard()); }
+  template <class Fill>
+  static void Lend(const CurrentGeometry& geometry, Fill fill) {
+    fill(MemberOf<Member>(*geometry.BoundBoard()));
+  }
+};
+
+/// The last component, whatever geometry is open.
+template <auto Member>
+struct OfLastComponent {
+  static constexpr std::string_view kDemand = kBefore<CMGeomComponent>.Text();
+  static OwnerState Find(const CurrentGeometry& geometry) { return StateOf(geometry.LastComponent()); }
+  template <class Fill>
+  static void Lend(const CurrentGeometry& geometry, Fill fill) {
+    fill(MemberOf<Member>(*geometry.LastComponent()));
+  }
+};
+
+/// A list of the geometry that takes drawing objects, texts or adds: not always the one that is open.
+template <auto List>
+struct OfTaker {
+  static constexpr std::string_view kDemand = "a geometry before it";
+  static OwnerState Find(const CurrentGeometry& geometry) { return StateOf((geometry.*List)()); }
+  template <class Fill>
+  static void Lend(const CurrentGeometry& geometry, Fill fill) {
+    fill(*(geometry.*List)());
+  }
+};
+
+/// The unit of the open geometry. One that is not kept needs none.
+struct UnitOfOpen : OfOpen<&CMGeomPanel::m_sUnits, &CMGeomBoard::m_sUnits, &CMGeomComponent::m_sUnits,
+                           &CMGeomDrawing::m_sUnits, &CMGeomGenericPart::m_sUnits, &CMGeomPin::m_sUnits,
+                           &CMGeomStackup::m_sUnits, &CMGeomVia::m_sUnits> {
+  static constexpr std::string_view kDemand = "a geometry before it";
+  static OwnerState Find(const CurrentGeometry& geometry) {
+    return geometry.IsUnkept() ? OwnerState::kElsewhere : OfOpen::Find(geometry);
+  }
+};
+
+}  // namespace kestrin
