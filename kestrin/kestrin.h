@@ -1,8 +1,10 @@
 #pragma once
 
 /// @file
-/// All that a host needs: the import session, the models and the framework services that they are made of.
+/// All that a host needs: the import session, the models, the board that they describe, and the framework
+/// services that they are made of.
 
+#include "kestrin/board/read_board.h"
 #include "kestrin/framework/archive.h"
 #include "kestrin/framework/stdio_file.h"
 #include "kestrin/geometry/geometry_model.h"

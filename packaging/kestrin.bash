@@ -5,13 +5,19 @@ _kestrin() {
   case $before in
     --tech | --neutral | --geometry | --traces) ;;
     --format) mapfile -t COMPREPLY < <(compgen -W 'text json' -- "$word"); return ;;
+    --rotation | --bottom) mapfile -t COMPREPLY < <(compgen -W 'ccw cw' -- "$word"); return ;;
+    --bottom-turn) mapfile -t COMPREPLY < <(compgen -W '0 180' -- "$word"); return ;;
+    --width-step) return ;;
     *)
       if [ "$COMP_CWORD" = 1 ]; then
-        mapfile -t COMPREPLY < <(compgen -W 'summary dump check --help --version' -- "$word")
+        mapfile -t COMPREPLY < <(compgen -W 'summary board dump check --help --version' -- "$word")
         return
       fi
       case ${COMP_WORDS[1]} in
         summary | dump) mapfile -t COMPREPLY < <(compgen -W "$files --strict --help" -- "$word") ;;
+        board)
+          mapfile -t COMPREPLY < <(
+            compgen -W "$files --strict --rotation --bottom --bottom-turn --width-step --help" -- "$word") ;;
         check) mapfile -t COMPREPLY < <(compgen -W "$files --strict --format --help" -- "$word") ;;
       esac
       ;;

@@ -32,6 +32,7 @@ class JsonWriter {
   void EndArray();
 
   void Null() { writer_.Null(); }
+  void Bool(bool value) { writer_.Bool(value); }
   void Int(std::int64_t value) { writer_.Int64(value); }
   /// In the shortest form that reads back to the same double; infinities as strings.
   void Double(double value);

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "kestrin/version.h"
+#include "tool/board.h"
 #include "tool/check.h"
 #include "tool/dump.h"
 #include "tool/exit_status.h"
@@ -18,6 +19,7 @@ struct Arguments {
   std::string folder;
   ExportSet files;
   std::string format;
+  ReadingWords reading;
 };
 
 constexpr char kExitStatuses[] =
@@ -50,6 +52,25 @@ void AddFolder(CLI::App& command, Arguments& arguments) {
       ->option_text(" ");
 }
 
+void AddReadingOptions(CLI::App& command, ReadingWords& words) {
+  const CLI::IsMember senses({kCounterClockwise, kClockwise});
+  command
+      .add_option("--rotation", words.rotation,
+                  "Which way components on the top turn, as fits the data if not said")
+      ->check(senses)
+      ->option_text("ccw|cw");
+  command.add_option("--bottom", words.bottom, "Which way components on the bottom turn, likewise")
+      ->check(senses)
+      ->option_text("ccw|cw");
+  command.add_option("--bottom-turn", words.bottomTurn, "Degrees added to their angle, likewise")
+      ->check(CLI::IsMember({"0", "180"}))
+      ->option_text("0|180");
+  command
+      .add_option("--width-step", words.widthStep,
+                  "What widths of digits alone count, in the unit of the Traces file, likewise")
+      ->option_text("NUMBER");
+}
+
 /// Parses the command line and carries it out. Returns the exit status.
 int Run(int count, char** words) {
   CLI::App app("Imports a printed-circuit board from its four export files and shows what they hold.",
@@ -70,6 +91,11 @@ int Run(int count, char** words) {
   check->add_option("--format", arguments.format, "How to print them, as text if not said")
       ->check(CLI::IsMember({"text", "json"}))
       ->option_text("text|json");
+  CLI::App* board =
+      AddCommand(app, arguments, "board", "Print the board that the files describe together as JSON",
+                 "kestrin board examples/board --rotation ccw");
+  AddFolder(*board, arguments);
+  AddReadingOptions(*board, arguments.reading);
 
   try {
     app.parse(count, words);
@@ -80,6 +106,7 @@ int Run(int count, char** words) {
   }
   if (app.get_subcommands().empty()) throw UsageError("no command is given; try kestrin --help");
   if (!arguments.folder.empty()) arguments.files.FindInFolder(arguments.folder);
+  if (board->parsed()) return PrintBoard(arguments.files, arguments.reading);
   if (dump->parsed()) return Dump(arguments.files);
   if (check->parsed()) {
     return Check(arguments.files, arguments.format == "json" ? CheckFormat::kJson : CheckFormat::kText);

@@ -15,26 +15,12 @@ namespace {
 
 using Align = TextTable::Align;
 
-std::string Number(double value) {
-  CString text;
-  text.Format("%g", value);
-  return text.GetString();
-}
-
 void PrintPanel(const CMComps& components) {
   std::printf("\nPanel: %" PRId64 " placements\n", components.m_pPanels->GetSize());
-  TextTable table({{"placement", Align::kRight},
-                   {"board"},
-                   {"value 4", Align::kRight},
-                   {"value 5", Align::kRight},
-                   {"value 6", Align::kRight},
-                   {"value 7", Align::kRight},
-                   {"value 8", Align::kRight}});
+  TextTable table({{"placement", Align::kRight}, {"board"}});
   std::int64_t number = 0;
   for (const CMCompsPanel* panel : *components.m_pPanels) {
-    table.AddRow({std::to_string(++number), ToTerminal(panel->m_sBoardName.View()), Number(panel->m_dValue4),
-                  Number(panel->m_dValue5), std::to_string(panel->m_nValue6),
-                  std::to_string(panel->m_nValue7), std::to_string(panel->m_nValue8)});
+    table.AddRow({std::to_string(++number), ToTerminal(panel->m_sBoardName.View())});
   }
   table.Print();
 }
@@ -59,7 +45,7 @@ void PrintComponents(const CMComps& components) {
   rows.reserve(counts.size());
   for (const auto& [geometry, count] : counts) rows.push_back({ToTerminal(geometry), count});
   std::printf("\nComponents: %" PRId64 "\n", components.m_pInfos->GetSize());
-  PrintGreatest(rows, "value 4 (geometry)", "components");
+  PrintGreatest(rows, "geometry", "components");
 }
 
 void PrintNets(const CMNetList& nets) {
@@ -76,9 +62,8 @@ void PrintNets(const CMNetList& nets) {
 }  // namespace
 
 void PrintNeutral(const CMComps& components, const CMNetList& nets, const BoardSelection& selection) {
-  std::printf("\nBoard values: units \"%s\", value 3 is %s, value 4 is %s\n",
-              ToTerminal(components.m_sUnits.View()).c_str(), Number(components.m_dBoardValue3).c_str(),
-              Number(components.m_dBoardValue4).c_str());
+  std::printf("\nUnit of the Neutral file: %s\n",
+              components.m_sUnits.IsEmpty() ? "not given" : ToTerminal(components.m_sUnits.View()).c_str());
   PrintPanel(components);
   PrintSelection(components, selection);
   PrintComponents(components);

@@ -3,6 +3,8 @@
 #include <cstdio>
 #include <string>
 
+#include "tool/board.h"
+#include "tool/board_summary.h"
 #include "tool/exit_status.h"
 #include "tool/geom_summary.h"
 #include "tool/import.h"
@@ -64,6 +66,7 @@ int Summary(const ExportSet& files) {
   }
   if (const CMGeom* geom = session.GetGeom()) PrintGeometry(*geom);
   if (const CMTraces* traces = imported.Traces()) PrintTraces(*traces);
+  PrintBoardSummary(BoardOf(imported));
   return FinishOutput(stopped.empty() ? kSuccess : ReportError(stopped, kIncomplete));
 }
 

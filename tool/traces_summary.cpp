@@ -1,12 +1,8 @@
 #include "tool/traces_summary.h"
 
-#include <algorithm>
-#include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <string>
-#include <utility>
-#include <vector>
 
 #include "tool/readable_text.h"
 #include "tool/text_table.h"
@@ -24,7 +20,6 @@ struct NetCounts {
     segments += other.segments;
   }
 
-  std::string name;
   std::int64_t wires = 0;
   std::int64_t incomplete = 0;
   std::int64_t antennas = 0;
@@ -39,8 +34,7 @@ std::int64_t SegmentsOf(const RecordArray<RECORD>* records) {
 }
 
 NetCounts CountsOf(const CMTracesNET& net) {
-  return {.name = ToTerminal(net.m_sName.View()),
-          .wires = net.m_pWirArray->GetSize(),
+  return {.wires = net.m_pWirArray->GetSize(),
           .incomplete = net.m_pIncArray->GetSize(),
           .antennas = net.m_pAntWirArray->GetSize() + net.m_pAntIncArray->GetSize(),
           .segments = SegmentsOf(net.m_pWirArray) + SegmentsOf(net.m_pIncArray) +
@@ -88,36 +82,12 @@ void PrintCounts(const CMTraces& traces, const NetCounts& nets) {
   table.Print();
 }
 
-void PrintLongest(std::vector<NetCounts> nets) {
-  constexpr std::size_t kShown = 10;
-  std::stable_sort(nets.begin(), nets.end(),
-                   [](const NetCounts& a, const NetCounts& b) { return a.segments > b.segments; });
-  const std::size_t shown = std::min(nets.size(), kShown);
-  std::printf("\nLongest nets: %zu of %zu\n", shown, nets.size());
-  TextTable table({{"net"},
-                   {"segments", Align::kRight},
-                   {"wires", Align::kRight},
-                   {"incomplete", Align::kRight},
-                   {"antennas", Align::kRight}});
-  for (std::size_t i = 0; i < shown; ++i) {
-    const NetCounts& net = nets[i];
-    table.AddRow({net.name, std::to_string(net.segments), std::to_string(net.wires),
-                  std::to_string(net.incomplete), std::to_string(net.antennas)});
-  }
-  table.Print();
-}
-
 }  // namespace
 
 void PrintTraces(const CMTraces& traces) {
   NetCounts all;
-  std::vector<NetCounts> nets;
-  for (const CMTracesNET* net : *traces.m_pNetArray) {
-    nets.push_back(CountsOf(*net));
-    all.Add(nets.back());
-  }
+  for (const CMTracesNET* net : *traces.m_pNetArray) all.Add(CountsOf(*net));
   PrintCounts(traces, all);
-  PrintLongest(std::move(nets));
 }
 
 }  // namespace kestrin::tool

@@ -7,7 +7,7 @@
 
 namespace kestrin::tool {
 
-/// Prints how much routed copper there is, and the nets with the most segments.
+/// Prints how many records of each kind there are.
 void PrintTraces(const CMTraces& traces);
 
 }  // namespace kestrin::tool

@@ -10,6 +10,7 @@ memcheck() {
 files="--tech $board/board.tech --neutral $board/board.neutral --geometry $board/board.geometry
        --traces $board/board.traces"
 memcheck summary "$board"
+memcheck board "$board"
 memcheck check "$board" --strict --format json
 # shellcheck disable=SC2086  # a list of words
 memcheck dump $files

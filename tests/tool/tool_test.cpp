@@ -42,6 +42,11 @@ TEST(Tool, WrongUsageAndUnreadableFilesGiveOneLineAndStatus2) {
       {"summary " + folder.Path(), "both end in .tech; choose one with --tech"},
       {"summary " + folder.Path() + " --tech " + file, "no file ends in .neutral; name one with --neutral"},
       {"check --format xml --tech " + file, "--format"},
+      {"board --rotation left --tech " + file, "--rotation"},
+      {"board --bottom-turn 90 --tech " + file, "--bottom-turn"},
+      {"board --width-step 0 --tech " + file, "--width-step"},
+      {"board --width-step nan --tech " + file, "--width-step"},
+      {"board --width-step inf --tech " + file, "--width-step"},
   };
   for (const Case& c : cases) {
     const auto result = RunTool(c.arguments);
@@ -53,7 +58,7 @@ TEST(Tool, WrongUsageAndUnreadableFilesGiveOneLineAndStatus2) {
 }
 
 TEST(Tool, ExplainsItselfOnEveryLevel) {
-  for (const char* arguments : {"--help", "summary --help", "dump --help", "check --help"}) {
+  for (const char* arguments : {"--help", "summary --help", "dump --help", "check --help", "board --help"}) {
     const auto result = RunTool(arguments);
     EXPECT_EQ(result.status, 0);
     EXPECT_NE(result.out.find("Example:"), std::string::npos) << arguments;
@@ -187,7 +192,7 @@ TEST(Tool, ChecksWhatAnImportSkips) {
 
 TEST(Tool, SaysThatItsOutputCannotBeWrittenOrAFileNotRead) {
   const std::string ofTheBoard = " --tech " + kBoard + "/board.tech";
-  for (const std::string command : {"summary", "dump", "check", "check --format json"}) {
+  for (const std::string command : {"summary", "dump", "board", "check", "check --format json"}) {
     const auto unwritten = RunTool(command + ofTheBoard + " 2>&1 >/dev/full | cat");
     EXPECT_EQ(unwritten.out, "kestrin: standard output could not be written\n") << command;
     const auto unreadable = RunTool(command + " --tech /proc/self/mem");
@@ -216,16 +221,31 @@ TEST(Tool, SummarizesTheSampleBoardAndFindsNothingSkipped) {
   const auto summary = RunTool("summary " + kBoard);
   EXPECT_EQ(summary.status, 0);
   EXPECT_EQ(summary.err, "");
-  for (const char* line :
-       {"Stack-up: 4 physical layers", "INNER_1         SIGNAL_2, POWER_1", "Via rules: 4",
-        "Board values: units \"MM\", value 3 is 60, value 4 is 40",
-        "Selected: nets section 2 of 2, component section 2 of 2, chosen by placement 3",
-        " by placement 3 (SENSOR_NODE, value 6 is 1)", "7  CHIP_0805", "Nets: 15 with 53 pins", "14  GND",
-        "Traces: units MM", "segments                  100", "islands                    26",
-        "GND            22     11", "Board: SENSOR_NODE, MM, 4 routing layers",
-        "routing outline    59 x 39, from (0.5, 0.5) to (59.5, 39.5)",
-        "board              1                1      2     7       3          3",
-        "stack-up: 7 layer definitions"}) {
+  for (const char* line : {"Stack-up: 4 physical layers",
+                           "INNER_1         SIGNAL_2, POWER_1",
+                           "Via rules: 4",
+                           "Unit of the Neutral file: MM",
+                           "3  SENSOR_NODE",
+                           "Selected: nets section 2 of 2, component section 2 of 2, chosen by placement 3",
+                           " by placement 3 (SENSOR_NODE, value 6 is 1)",
+                           "7  CHIP_0805",
+                           "Nets: 15 with 53 pins",
+                           "14  GND",
+                           "Traces: units MM",
+                           "segments                  100",
+                           "islands                    26",
+                           "components turn counter-clockwise on the top, counter-clockwise on the bottom: "
+                           "confirmed by the copper",
+                           "pins that touch copper of their net: 51 of 51",
+                           "count 0.01 of the Traces file's unit",
+                           "components: 14, 13 on the top and 1 on the bottom",
+                           "4  BOTTOM   27.735",
+                           "GND         12.750    14      11    11      2     0",
+                           "all nets   228.114    53      38    18      5     1",
+                           "Board: SENSOR_NODE, MM, 4 routing layers",
+                           "routing outline    59 x 39, from (0.5, 0.5) to (59.5, 39.5)",
+                           "board              1                1      2     7       3          3",
+                           "stack-up: 7 layer definitions"}) {
     EXPECT_NE(summary.out.find(line), std::string::npos) << summary.out;
   }
   const auto check = RunTool("check " + kBoard);

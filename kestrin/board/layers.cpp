@@ -1,0 +1,126 @@
+#include "kestrin/board/layers.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include "kestrin/board/read_board.h"
+#include "kestrin/board/records.h"
+#include "kestrin/geometry/geometry_model.h"
+#include "kestrin/tech/tech_model.h"
+
+namespace kestrin {
+namespace {
+
+/// The logical layers that there are on both sides; "_1" is the top, "_2" the bottom.
+constexpr std::string_view kSideLayers[] = {
+    "SILKSCREEN", "BREAKOUT", "DRAWING", "GLUE_MASK", "PAD", "PASTE_MASK", "PLACE", "SOLDER_MASK", "THERMAL",
+};
+
+constexpr std::string_view kSignal = "SIGNAL_";
+
+/// No board has as many, and a Geometry file may name any number without a line for each.
+constexpr int kMostLayersWithoutTech = 1000;
+
+void ReadPhysicalLayers(const CMTech& tech, std::vector<Layer>& layers) {
+  ForEachRecord(tech.m_pStackupArray, [&](const CMTechStackUpOrder& record, std::size_t index) {
+    Layer& layer = layers.emplace_back();
+    layer.number = record.m_nPhysicalLayerNumber;
+    layer.name = ComparedName(record.m_sPhysicalLayerName.View());
+    for (const CString& name : record.m_arrLogicalLayerNames)
+      layer.names.emplace_back(ComparedName(name.View()));
+    layer.sourceIndex = index;
+  });
+  std::stable_sort(layers.begin(), layers.end(),
+                   [](const Layer& a, const Layer& b) { return a.number < b.number; });
+}
+
+/// Convention: without a Tech file the routing layers are numbered from the top, as their names suggest.
+void NumberRoutingLayers(int count, Board& board) {
+  for (int number = 1; number <= std::min(count, kMostLayersWithoutTech); ++number) {
+    Layer& layer = board.layers.emplace_back();
+    layer.number = number;
+    layer.name = std::string(kSignal) + std::to_string(number);
+    board.layersByName.emplace(layer.name, board.layers.size() - 1);
+  }
+}
+
+/// Convention: a side's names belong to the outermost layer of that side, which the Tech file need not say.
+void NameSides(Board& board) {
+  if (board.layers.empty()) return;
+  for (const std::string_view name : kSideLayers) {
+    board.layersByName.emplace(std::string(name) + "_1", 0);
+    board.layersByName.emplace(std::string(name) + "_2", board.layers.size() - 1);
+  }
+}
+
+std::optional<int> SignalNumber(std::string_view layer) {
+  if (!layer.starts_with(kSignal)) return std::nullopt;
+  layer.remove_prefix(kSignal.size());
+  int number = 0;
+  const auto read = std::from_chars(layer.data(), layer.data() + layer.size(), number);
+  if (read.ec != std::errc() || read.ptr != layer.data() + layer.size() || number < 0) return std::nullopt;
+  return number;
+}
+
+void FindOuterSignalLayers(Board& board) {
+  std::optional<int> first;
+  std::optional<int> last;
+  for (const auto& [name, layer] : board.layersByName) {
+    const std::optional<int> number = SignalNumber(name);
+    if (!number) continue;
+    if (!first || *number < *first) {
+      first = number;
+      board.firstSignalLayer = name;
+    }
+    if (!last || *number > *last) {
+      last = number;
+      board.lastSignalLayer = name;
+    }
+  }
+}
+
+/// "PAD_2" for "PAD_1" and the other way round; empty for what is no name of a side.
+std::string OtherSide(std::string_view layer) {
+  for (const std::string_view name : kSideLayers) {
+    if (layer.size() != name.size() + 2 || !layer.starts_with(name)) continue;
+    if (layer.ends_with("_1")) return std::string(name) + "_2";
+    if (layer.ends_with("_2")) return std::string(name) + "_1";
+  }
+  return {};
+}
+
+}  // namespace
+
+void ReadLayers(const BoardModels& models, Board& board) {
+  if (models.tech != nullptr) ReadPhysicalLayers(*models.tech, board.layers);
+  for (std::size_t i = 0; i < board.layers.size(); ++i) {
+    for (const std::string& name : board.layers[i].names) board.layersByName.emplace(name, i);
+  }
+  if (board.layers.empty() && models.geometry != nullptr) {
+    NumberRoutingLayers(models.geometry->m_pBoard->m_nRoutingLayers, board);
+  }
+  NameSides(board);
+  FindOuterSignalLayers(board);
+}
+
+const Layer* Board::FindLayer(int number) const {
+  const auto found = std::lower_bound(layers.begin(), layers.end(), number,
+                                      [](const Layer& layer, int wanted) { return layer.number < wanted; });
+  return found == layers.end() || found->number != number ? nullptr : &*found;
+}
+
+const Layer* Board::FindLayer(std::string_view name) const {
+  const auto found = layersByName.find(ComparedName(name));
+  return found == layersByName.end() ? nullptr : &layers[found->second];
+}
+
+std::string Board::LayerOn(Side side, std::string_view layer) const {
+  const std::string_view name = ComparedName(layer);
+  if (side == Side::kTop || name.empty()) return std::string(name);
+  if (name == firstSignalLayer) return lastSignalLayer;
+  if (name == lastSignalLayer) return firstSignalLayer;
+  const std::string other = OtherSide(name);
+  return other.empty() ? std::string(name) : other;
+}
+
+}  // namespace kestrin

@@ -1,0 +1,40 @@
+#pragma once
+
+/// @file
+/// Lengths as the board holds them.
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
+#include "kestrin/board/board.h"
+
+namespace kestrin {
+
+/// The length rounded to 1e-9, so that points that were one in the other system compare equal whatever units
+/// they were written in. What cannot be computed is infinite.
+[[nodiscard]] inline double Rounded(double millimetres) {
+  constexpr double kSteps = 1e9;
+  constexpr double kMost = 4e6;  // beyond, doubles are coarser than that or nearly so
+  if (!(std::abs(millimetres) < kMost)) {
+    return std::isnan(millimetres) ? std::numeric_limits<double>::infinity() : millimetres;
+  }
+  const double steps = millimetres * kSteps + (millimetres < 0.0 ? -0.5 : 0.5);
+  return static_cast<double>(static_cast<std::int64_t>(steps)) / kSteps;
+}
+
+[[nodiscard]] inline Point PointAt(double x, double y, double unit) {
+  return {Rounded(x * unit), Rounded(y * unit)};
+}
+
+/// The distance of two points; infinite where it cannot be computed.
+[[nodiscard]] inline double Distance(Point a, Point b) {
+  const double x = b.x - a.x;
+  const double y = b.y - a.y;
+  const double square = x * x + y * y;
+  if (std::isfinite(square)) return std::sqrt(square);
+  const double distance = std::hypot(x, y);
+  return std::isnan(distance) ? std::numeric_limits<double>::infinity() : distance;
+}
+
+}  // namespace kestrin

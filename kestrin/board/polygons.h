@@ -1,0 +1,41 @@
+#pragma once
+
+/// @file
+/// Closed outlines from the lists of the models.
+
+#include "kestrin/board/millimetres.h"
+#include "kestrin/board/records.h"
+#include "kestrin/geometry/number_list.h"
+#include "kestrin/traces/fill_records.h"
+
+namespace kestrin {
+
+/// Drops a last point that repeats the first: files close their outlines or do not.
+inline void DropRepeatedFirstPoint(Polygon& outline) {
+  if (outline.size() > 1 && outline.front() == outline.back()) outline.pop_back();
+}
+
+/// From x, y, x, y, …; a number without its pair is left out.
+[[nodiscard]] inline Polygon PolygonOf(const NumberArray& numbers, double unit) {
+  Polygon outline;
+  outline.reserve(static_cast<std::size_t>(numbers.GetSize() / 2));
+  for (std::int64_t i = 0; i + 1 < numbers.GetSize(); i += 2) {
+    outline.push_back(PointAt(numbers[i], numbers[i + 1], unit));
+  }
+  DropRepeatedFirstPoint(outline);
+  return outline;
+}
+
+/// From the vertices of an area or an island.
+template <class Record>
+[[nodiscard]] Polygon VerticesOf(const Record& record, double unit) {
+  Polygon outline;
+  outline.reserve(static_cast<std::size_t>(record.m_pVerArray->GetSize()));
+  ForEachRecord(record.m_pVerArray, [&](const CMTracesVER& vertex, std::size_t) {
+    outline.push_back(PointAt(vertex.m_dX, vertex.m_dY, unit));
+  });
+  DropRepeatedFirstPoint(outline);
+  return outline;
+}
+
+}  // namespace kestrin

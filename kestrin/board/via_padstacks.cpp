@@ -1,0 +1,62 @@
+#include <algorithm>
+
+#include "kestrin/board/copper.h"
+#include "kestrin/board/read_board.h"
+#include "kestrin/board/records.h"
+#include "kestrin/geometry/geometry_model.h"
+#include "kestrin/tech/tech_model.h"
+
+namespace kestrin {
+namespace {
+
+std::string_view LayerOf(const CMGeomDrawObj& object) {
+  const std::string_view kind = object.m_sType.View();
+  if (kind == "LINE") return static_cast<const CMGeomPath&>(object).m_sLayer.View();
+  if (kind == "POLYGON") return static_cast<const CMGeomPolygon&>(object).m_sLayer.View();
+  if (kind == "ARC") return static_cast<const CMGeomArc&>(object).m_sLayer.View();
+  if (kind == "CIRCLE") return static_cast<const CMGeomCircle&>(object).m_sLayer.View();
+  return {};
+}
+
+/// Convention: a via joins the layers on which it has a pad.
+std::vector<std::size_t> LayersOf(const CMGeomVia& via, const Board& board) {
+  std::vector<std::size_t> layers;
+  ForEachRecord(via.m_pDrawObjs, [&](const CMGeomDrawObj& object, std::size_t) {
+    const auto found = board.layersByName.find(ComparedName(LayerOf(object)));
+    if (found != board.layersByName.end()) layers.push_back(found->second);
+  });
+  std::sort(layers.begin(), layers.end());
+  layers.erase(std::unique(layers.begin(), layers.end()), layers.end());
+  return layers;
+}
+
+}  // namespace
+
+NameIndex ReadViaPadstacks(const BoardModels& models, Board& board) {
+  NameIndex byName;
+  /// Null where the name is empty or there is a padstack of it.
+  const auto addNew = [&](std::string_view name) -> ViaPadstack* {
+    const std::size_t next = board.viaPadstacks.size();
+    if (name.empty() || byName.Add(name, next) != next) return nullptr;
+    ViaPadstack& padstack = board.viaPadstacks.emplace_back();
+    padstack.name = name;
+    padstack.unit = board.units.geometry;
+    return &padstack;
+  };
+  if (models.geometry != nullptr) {
+    ForEachRecord(models.geometry->m_pVias, [&](const CMGeomVia& via, std::size_t index) {
+      ViaPadstack* padstack = addNew(ComparedName(via.m_sName.View()));
+      if (padstack == nullptr) return;
+      padstack->unit = board.units.OfGeometry(via.m_sUnits.View());
+      padstack->layers = LayersOf(via, board);
+      padstack->sourceIndex = index;
+    });
+  }
+  if (models.tech != nullptr) {
+    ForEachRecord(models.tech->m_pViaArray,
+                  [&](const CMTechVia& rule, std::size_t) { addNew(ComparedName(rule.m_sArg1.View())); });
+  }
+  return byName;
+}
+
+}  // namespace kestrin

@@ -1,0 +1,53 @@
+#include "tool/board.h"
+
+#include <cmath>
+
+#include "tool/board_json.h"
+#include "tool/exit_status.h"
+#include "tool/output.h"
+#include "tool/usage_error.h"
+
+namespace kestrin::tool {
+namespace {
+
+std::optional<Sense> SenseOf(const std::string& word) {
+  if (word.empty()) return std::nullopt;
+  return word == kClockwise ? Sense::kClockwise : Sense::kCounterClockwise;
+}
+
+BoardOptions OptionsOf(const ReadingWords& words) {
+  BoardOptions options;
+  options.rotation = SenseOf(words.rotation);
+  options.bottom = SenseOf(words.bottom);
+  if (!words.bottomTurn.empty()) options.bottomTurn = words.bottomTurn == "180" ? 180 : 0;
+  options.widthStep = words.widthStep;
+  if (words.widthStep && !(*words.widthStep > 0.0 && std::isfinite(*words.widthStep))) {
+    throw UsageError("--width-step needs a number greater than 0");
+  }
+  return options;
+}
+
+}  // namespace
+
+Board BoardOf(const Imported& imported, const BoardOptions& options) {
+  const CPC_KESTRIN_GET& session = imported.session;
+  return ReadBoard({.tech = session.GetTech(),
+                    .components = session.GetComps(),
+                    .nets = session.GetNetList(),
+                    .geometry = session.GetGeom(),
+                    .traces = imported.Traces()},
+                   options);
+}
+
+int PrintBoard(const ExportSet& files, const ReadingWords& words) {
+  const BoardOptions options = OptionsOf(words);
+  files.CheckReadable();
+  Imported imported;
+  const std::string stopped = Import(imported, files);
+  JsonWriter json;
+  WriteJson(json, BoardOf(imported, options));
+  json.Finish();
+  return FinishOutput(stopped.empty() ? kSuccess : ReportError(stopped, kIncomplete));
+}
+
+}  // namespace kestrin::tool
