@@ -4,6 +4,6 @@
 set -euo pipefail
 board=$(cd "$(dirname "$0")/../../examples/board" && pwd)
 printed=$("$1" "$board"/board.{tech,neutral,geometry,traces} 2>&1)
-for line in 'XIN: 5 segments, pins U_1-6 Y_1-1 C_4-1' "$board/board.traces: 382 lines, 377 imported, 0 skipped"; do
+for line in 'XIN: 5 segments, pins U_1-6 Y_1-1 C_4-1' "$board/board.traces: 404 lines, 399 imported, 0 skipped"; do
   grep -qxF "$line" <<<"$printed" || { echo "$1 does not print: $line, but:"; echo "$printed"; exit 1; }
 done

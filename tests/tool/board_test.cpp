@@ -87,7 +87,7 @@ TEST(ToolBoard, ReadsTheSampleBoard) {
   EXPECT_TRUE(board["reading"]["confirmed"].GetBool());
   EXPECT_EQ(board["reading"]["pinsTouching"].GetInt(), board["reading"]["pinsCounted"].GetInt());
   EXPECT_EQ(board["reading"]["widthStep"].GetDouble(), 0.01);
-  EXPECT_EQ(board["components"].Size(), 14U);
+  EXPECT_EQ(board["components"].Size(), 16U);
   EXPECT_EQ(board["nets"].Size(), 15U);
   EXPECT_EQ(RunTool("board " + kBoard + " --strict").out, result.out);
 }

@@ -77,7 +77,7 @@ TEST(ToolGeometry, DumpsTheSampleBoard) {
   ASSERT_FALSE(document.Parse(result.out.c_str()).HasParseError());
   const auto& geometry = document["geometry"];
   EXPECT_STREQ(geometry["m_pBoard"]["m_pTexts"][1]["m_sMirror"].GetString(), "@Mirror");
-  EXPECT_EQ(geometry["m_pComponents"].Size(), 8U);
+  EXPECT_EQ(geometry["m_pComponents"].Size(), 9U);
   EXPECT_EQ(geometry["m_pComponents"][0]["m_pPinDefs"][15]["m_dY"].GetDouble(), 4.0);
   EXPECT_EQ(geometry["m_pGenericParts"][0]["m_pPlacementOutline"]["m_pCoords"].Size(), 16U);
   EXPECT_EQ(geometry["m_pVias"][3]["m_nViaType"].GetInt(), 2);

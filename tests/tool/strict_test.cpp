@@ -23,12 +23,12 @@ TEST(ToolStrict, ReadsTheSampleBoardAsTheSessionDoes) {
   std::string expected = RunTool("dump" + traces).out;
   expected.replace(
       expected.rfind("\n}"), std::string::npos,
-      ",\n  \"strict\": {\n    \"result\": 0,\n    \"error\": \"\",\n    \"line\": 382\n  }\n}\n");
+      ",\n  \"strict\": {\n    \"result\": 0,\n    \"error\": \"\",\n    \"line\": 404\n  }\n}\n");
   EXPECT_EQ(strict.out, expected);
   const auto summary = RunTool("summary --strict " + kBoard);
   EXPECT_EQ(summary.status, 0);
   for (const char* line :
-       {"Nets: 15 with 53 pins", "segments                  100", "accepted with 0 syntax errors"}) {
+       {"Nets: 15 with 55 pins", "segments                  103", "accepted with 0 syntax errors"}) {
     EXPECT_NE(summary.out.find(line), std::string::npos) << summary.out;
   }
   EXPECT_EQ(RunTool("check --strict " + kBoard).status, 0);
