@@ -1,15 +1,15 @@
 #pragma once
 
 /// @file
-/// How readers hand records to lists.
+/// Appending new records to the lists that own them.
 
 #include <memory>
 
 namespace kestrin {
 
-/// Appends a record to a list that owns its records, and returns it.
-template <class ARRAY, class RECORD>
-RECORD* Append(ARRAY& list, std::unique_ptr<RECORD> record) {
+/// Appends a record to a list, which then owns it. Returns the record.
+template <class Array, class Record>
+Record* Append(Array& list, std::unique_ptr<Record> record) {
   list.Add(record.get());
   return record.release();
 }

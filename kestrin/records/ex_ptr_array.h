@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The array of record pointers with search, move and delete operations.
+/// An array of record pointers that can search, move and delete records.
 
 #include <algorithm>
 #include <cstdint>
@@ -13,128 +13,139 @@
 
 namespace kestrin {
 
-/// An array of pointers to records, compared by identity. It never deletes records by itself: only Delete,
-/// DeleteAt, DeleteLastElement and DeleteAll do. A record stands in at most one slot of such an array and in
-/// no other array that deletes it.
+/// An array of pointers to records. Pointers are compared, never the records.
 ///
-/// Unlike the framework's array it answers null, -1 or false to an index or a record that it does not have;
-/// of its own operations only MoveElementTo and DeleteAt raise CInvalidArgException for indexes outside it.
-/// The type that elements are handed over as may be named as it is for the framework's array: the pointer
-/// too.
-template <class POINTER, class ARG_POINTER = POINTER>
-class CExPtrArray : public CArray<POINTER, ARG_POINTER> {
-  static_assert(std::is_pointer_v<POINTER> && std::is_same_v<POINTER, ARG_POINTER>);
-  using Base = CArray<POINTER, POINTER>;
+///     CExPtrArray<Layer*> layers;
+///     layers.Add(new Layer);
+///     Layer* top = layers.GetAt(0);
+///     layers.Remove(top);   // the record is yours again
+///     layers.GetAt(0);      // null: the array is empty
+///
+/// The array does not own its records: only Delete, DeleteAt, DeleteLastElement and DeleteAll delete them. If
+/// you use these, put each record into one slot of one array only.
+///
+/// An index outside the array or a pointer that is not in it is no error: you get null, -1 or false. The
+/// exceptions are MoveElementTo, DeleteAt and the operations inherited from CArray, such as operator[]: they
+/// raise CInvalidArgException for an index outside the array.
+///
+/// The second template parameter exists because CArray has one. It must equal the first.
+template <class Pointer, class ArgPointer = Pointer>
+class CExPtrArray : public CArray<Pointer, ArgPointer> {
+  static_assert(std::is_pointer_v<Pointer> && std::is_same_v<Pointer, ArgPointer>);
+  using Base = CArray<Pointer, Pointer>;
 
  public:
   /// Removes every null slot.
   virtual void RemoveNullElement();
-  /// Keeps the first slot of every pointer.
+  /// Removes every slot whose pointer already appears in an earlier slot.
   virtual void RemoveDuplicatedElements();
 
-  /// The element, null outside the array.
-  [[nodiscard]] POINTER GetAt(std::int64_t index) const {
+  /// The element at the index; null outside the array.
+  [[nodiscard]] Pointer GetAt(std::int64_t index) const {
     return IsInside(index) ? this->m_pData[index] : nullptr;
   }
-  /// Replaces an element without deleting it; outside the array nothing happens.
-  void SetAt(std::int64_t index, POINTER element) {
+  /// Replaces an element without deleting it. Does nothing outside the array.
+  void SetAt(std::int64_t index, Pointer element) {
     if (IsInside(index)) this->m_pData[index] = element;
   }
-  /// Null when empty.
-  [[nodiscard]] POINTER GetLastElement() const { return GetAt(GetLastIndex()); }
-  /// -1 when empty.
+  /// The last element; null if the array is empty.
+  [[nodiscard]] Pointer GetLastElement() const { return GetAt(GetLastIndex()); }
+  /// The index of the last element; -1 if the array is empty.
   [[nodiscard]] std::int64_t GetLastIndex() const { return this->GetUpperBound(); }
   /// Whether there is an element at the index.
   [[nodiscard]] bool IsValidIndex(const std::int32_t& index) const { return IsInside(index); }
 
-  /// The first slot of this pointer, or -1.
-  [[nodiscard]] std::int32_t FindIndex(POINTER element) const {
+  /// The index of the first slot with this pointer; -1 if there is none.
+  [[nodiscard]] std::int32_t FindIndex(Pointer element) const {
     const auto* found = std::find(this->begin(), this->end(), element);
     return found == this->end() ? -1 : static_cast<std::int32_t>(found - this->begin());
   }
-  /// Whether the pointer stands in some slot.
-  [[nodiscard]] bool Exists(POINTER element) const { return FindIndex(element) != -1; }
-  /// The new index, or -1 when the pointer is in the array already.
-  std::int64_t Add_if_only_do_not_exists(POINTER element) {
+  /// Whether any slot holds this pointer.
+  [[nodiscard]] bool Exists(Pointer element) const { return FindIndex(element) != -1; }
+  /// Appends the pointer and returns its index; returns -1 if it is already in the array.
+  std::int64_t Add_if_only_do_not_exists(Pointer element) {
     return Exists(element) ? -1 : this->Add(element);
   }
-  /// Whether both have the same pointers in the same order.
+  /// Whether both arrays hold the same pointers in the same order.
   [[nodiscard]] bool IsElementEqual(const Base& other) const {
     return std::equal(this->begin(), this->end(), other.begin(), other.end());
   }
 
-  /// Removes the first slot of this pointer; false when there is none.
-  bool Remove(POINTER element);
-  /// Removes the last slot and hands its record to the caller; null when empty.
-  POINTER RemoveLastElement();
-  /// Removes one slot for every slot of the other array that holds the same pointer.
+  /// Removes the first slot with this pointer; returns false if there is none. Does not delete the record.
+  bool Remove(Pointer element);
+  /// Removes the last slot and returns its pointer, null if the array is empty. Does not delete the record.
+  Pointer RemoveLastElement();
+  /// For every slot of the other array, removes one slot with the same pointer from this one, if there is
+  /// any.
   void Subtract(const Base& other);
-  /// Turns the order of the slots round.
+  /// Reverses the order of the slots.
   void Reverse() { std::reverse(this->begin(), this->end()); }
-  /// Moves the slots first to last to the end of the destination. False when last is below first; raises for
-  /// indexes outside this array, and both arrays stay as they were.
+  /// Moves the slots first to last, both included, to the end of the destination. Returns false and does
+  /// nothing if last is less than first. Raises CInvalidArgException for an index outside this array; both
+  /// arrays are then unchanged.
   bool MoveElementTo(Base& destination, const std::int32_t& first, const std::int32_t& last);
 
   // A destructor may look at the array: its record's slot is removed only after it. Where several records are
   // deleted, the slots of those before it are null until all are gone.
 
-  /// Deletes the record and removes its first slot; false when there is none.
-  bool Delete(POINTER element);
-  /// Deletes the records in a range, in order, and removes their slots. Raises once it has run beyond the
-  /// end.
+  /// Deletes the record and removes its first slot; returns false if there is none.
+  bool Delete(Pointer element);
+  /// Deletes count records from the index on, in order, and removes their slots; does nothing if count is not
+  /// positive. Raises CInvalidArgException for an index outside the array. Also raises it if count reaches
+  /// beyond the end: the records up to the end are then deleted.
   void DeleteAt(std::int32_t index, std::int32_t count = 1);
-  /// Deletes the last record and removes its slot; false when empty.
+  /// Deletes the last record and removes its slot; returns false if the array is empty.
   bool DeleteLastElement();
-  /// Deletes every record, in order, and releases the memory.
+  /// Deletes every record, in order, and frees the array's memory.
   void DeleteAll();
 
  private:
   void DeleteRecords(std::int64_t first, std::int64_t count);
   [[nodiscard]] bool IsInside(std::int64_t index) const { return index >= 0 && index < this->m_nSize; }
-  void CutAt(const POINTER* newEnd) { this->RemoveAt(newEnd - this->begin(), this->end() - newEnd); }
+  void CutAt(const Pointer* newEnd) { this->RemoveAt(newEnd - this->begin(), this->end() - newEnd); }
 };
 
-template <class POINTER, class ARG_POINTER>
-void CExPtrArray<POINTER, ARG_POINTER>::RemoveNullElement() {
+template <class Pointer, class ArgPointer>
+void CExPtrArray<Pointer, ArgPointer>::RemoveNullElement() {
   CutAt(std::remove(this->begin(), this->end(), nullptr));
 }
 
-template <class POINTER, class ARG_POINTER>
-void CExPtrArray<POINTER, ARG_POINTER>::RemoveDuplicatedElements() {
-  std::unordered_set<POINTER> seen;
+template <class Pointer, class ArgPointer>
+void CExPtrArray<Pointer, ArgPointer>::RemoveDuplicatedElements() {
+  std::unordered_set<Pointer> seen;
   CutAt(std::remove_if(this->begin(), this->end(),
-                       [&](POINTER element) { return !seen.insert(element).second; }));
+                       [&](Pointer element) { return !seen.insert(element).second; }));
 }
 
-template <class POINTER, class ARG_POINTER>
-bool CExPtrArray<POINTER, ARG_POINTER>::Remove(POINTER element) {
+template <class Pointer, class ArgPointer>
+bool CExPtrArray<Pointer, ArgPointer>::Remove(Pointer element) {
   const std::int64_t index = FindIndex(element);
   if (index < 0) return false;
   this->RemoveAt(index);
   return true;
 }
 
-template <class POINTER, class ARG_POINTER>
-POINTER CExPtrArray<POINTER, ARG_POINTER>::RemoveLastElement() {
+template <class Pointer, class ArgPointer>
+Pointer CExPtrArray<Pointer, ArgPointer>::RemoveLastElement() {
   if (this->IsEmpty()) return nullptr;
-  POINTER last = GetLastElement();
+  Pointer last = GetLastElement();
   this->RemoveAt(GetLastIndex());
   return last;
 }
 
-template <class POINTER, class ARG_POINTER>
-void CExPtrArray<POINTER, ARG_POINTER>::Subtract(const Base& other) {
-  std::unordered_map<POINTER, std::int64_t> left;
-  for (POINTER element : other) ++left[element];
-  CutAt(std::remove_if(this->begin(), this->end(), [&](POINTER element) {
+template <class Pointer, class ArgPointer>
+void CExPtrArray<Pointer, ArgPointer>::Subtract(const Base& other) {
+  std::unordered_map<Pointer, std::int64_t> left;
+  for (Pointer element : other) ++left[element];
+  CutAt(std::remove_if(this->begin(), this->end(), [&](Pointer element) {
     const auto found = left.find(element);
     return found != left.end() && found->second-- > 0;
   }));
 }
 
-template <class POINTER, class ARG_POINTER>
-bool CExPtrArray<POINTER, ARG_POINTER>::MoveElementTo(Base& destination, const std::int32_t& first,
-                                                      const std::int32_t& last) {
+template <class Pointer, class ArgPointer>
+bool CExPtrArray<Pointer, ArgPointer>::MoveElementTo(Base& destination, const std::int32_t& first,
+                                                     const std::int32_t& last) {
   if (last < first) return false;
   if (!IsInside(first) || !IsInside(last)) AfxThrowInvalidArgException();
   const std::int64_t start = first;
@@ -144,16 +155,16 @@ bool CExPtrArray<POINTER, ARG_POINTER>::MoveElementTo(Base& destination, const s
   return true;
 }
 
-template <class POINTER, class ARG_POINTER>
-bool CExPtrArray<POINTER, ARG_POINTER>::Delete(POINTER element) {
+template <class Pointer, class ArgPointer>
+bool CExPtrArray<Pointer, ArgPointer>::Delete(Pointer element) {
   const std::int32_t index = FindIndex(element);
   if (index < 0) return false;
   DeleteAt(index);
   return true;
 }
 
-template <class POINTER, class ARG_POINTER>
-void CExPtrArray<POINTER, ARG_POINTER>::DeleteAt(std::int32_t index, std::int32_t count) {
+template <class Pointer, class ArgPointer>
+void CExPtrArray<Pointer, ArgPointer>::DeleteAt(std::int32_t index, std::int32_t count) {
   if (count <= 0) return;
   if (!IsInside(index)) AfxThrowInvalidArgException();
   const std::int64_t inside = std::min<std::int64_t>(count, this->m_nSize - index);
@@ -162,8 +173,8 @@ void CExPtrArray<POINTER, ARG_POINTER>::DeleteAt(std::int32_t index, std::int32_
   if (inside < count) AfxThrowInvalidArgException();
 }
 
-template <class POINTER, class ARG_POINTER>
-bool CExPtrArray<POINTER, ARG_POINTER>::DeleteLastElement() {
+template <class Pointer, class ArgPointer>
+bool CExPtrArray<Pointer, ArgPointer>::DeleteLastElement() {
   if (this->IsEmpty()) return false;
   const std::int64_t last = GetLastIndex();
   DeleteRecords(last, 1);
@@ -171,15 +182,15 @@ bool CExPtrArray<POINTER, ARG_POINTER>::DeleteLastElement() {
   return true;
 }
 
-template <class POINTER, class ARG_POINTER>
-void CExPtrArray<POINTER, ARG_POINTER>::DeleteAll() {
+template <class Pointer, class ArgPointer>
+void CExPtrArray<Pointer, ArgPointer>::DeleteAll() {
   DeleteRecords(0, this->m_nSize);
   this->SetSize(0);
 }
 
 /// Leaves the slots null. Every access is checked, as a destructor may even shorten the array.
-template <class POINTER, class ARG_POINTER>
-void CExPtrArray<POINTER, ARG_POINTER>::DeleteRecords(std::int64_t first, std::int64_t count) {
+template <class Pointer, class ArgPointer>
+void CExPtrArray<Pointer, ArgPointer>::DeleteRecords(std::int64_t first, std::int64_t count) {
   for (std::int64_t i = first; i < first + count; ++i) {
     delete GetAt(i);  // NOLINT(cppcoreguidelines-owning-memory): a delete operation owns its records
     SetAt(i, nullptr);

@@ -1,7 +1,8 @@
 #pragma once
 
 /// @file
-/// Who owns the lists of a record. Hosts see each list through a plain pointer and delete nothing.
+/// How records own their lists, and lists their records. You see each list through a plain pointer and delete
+/// nothing.
 
 #include <array>
 #include <cstddef>
@@ -14,22 +15,22 @@
 
 namespace kestrin {
 
-/// A list of records: the framework's array of pointers to them.
-template <class RECORD>
-using RecordArray = CArray<RECORD*, RECORD*>;
+/// A list of records: a framework array of pointers to them.
+template <class Record>
+using RecordArray = CArray<Record*, Record*>;
 
-/// Deletes every record of a list, in index order, and empties it. Null slots are skipped.
-template <class ARRAY>
-void DeleteRecords(ARRAY& list) {
+/// Deletes every record of a list, in index order, and empties the list. Skips null slots.
+template <class Array>
+void DeleteRecords(Array& list) {
   // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the one place that deletes the records of lists
   for (auto* record : list) delete record;
   list.RemoveAll();
 }
 
-/// An array of record pointers that deletes its records when it is destroyed. Removing a record from the
-/// array or clearing the array does not delete anything.
-template <class ARRAY>
-class Owning : public ARRAY {
+/// An array of record pointers that deletes its records when it is destroyed. Removing a record, or clearing
+/// the array, deletes nothing: those records are yours.
+template <class Array>
+class Owning : public Array {
  public:
   Owning() = default;
   Owning(const Owning&) = delete;
@@ -37,7 +38,8 @@ class Owning : public ARRAY {
   ~Owning() override { DeleteRecords(*this); }
 };
 
-/// The lists that a record owns, kept inside the record. Each is made where the pointer to it is declared:
+/// Base class of records that own lists: it stores up to Count lists inside the record. Create each list
+/// where you declare the pointer to it:
 ///
 ///     class Net : private OwnedLists<2> {
 ///      public:
@@ -45,9 +47,9 @@ class Owning : public ARRAY {
 ///       RecordArray<Property>* m_pProperties = MakeList();
 ///     };
 ///
-/// The lists and their records are destroyed with the record, in the order in which the lists were made. The
-/// record cannot be copied.
-template <std::size_t COUNT>
+/// The lists and their records are destroyed with the record, in the order in which the lists were created.
+/// Such a record cannot be copied.
+template <std::size_t Count>
 class OwnedLists {
  public:
   OwnedLists(const OwnedLists&) = delete;
@@ -59,13 +61,13 @@ class OwnedLists {
     for (std::size_t i = 0; i < made_; ++i) std::destroy_at(At(i));
   }
 
-  /// Becomes a new list of the type that a pointer is declared with.
+  /// What MakeList returns: converts to a pointer to a new list, whose type is that of the pointer.
   class NewList {
    public:
-    /// Makes the list.
-    template <class LIST>
-    operator LIST*() const {
-      return owner_.template Make<LIST>();
+    /// Creates the list.
+    template <class List>
+    operator List*() const {
+      return owner_.template Make<List>();
     }
 
    private:
@@ -73,36 +75,36 @@ class OwnedLists {
     explicit NewList(OwnedLists& owner) : owner_(owner) {}
     OwnedLists& owner_;
   };
-  /// A list for the pointer that this initialises.
+  /// Creates a list for the pointer that it initializes. Raises std::logic_error at more than Count lists.
   [[nodiscard]] NewList MakeList() { return NewList(*this); }
 
  private:
-  template <class LIST>
+  /// The type that is created for a list: one that owns its elements if they are records.
+  template <class List>
   struct Owner {
-    using Type = LIST;
+    using Type = List;
   };
-  /// A list of records owns them.
-  template <class RECORD>
-  struct Owner<RecordArray<RECORD>> {
-    using Type = Owning<RecordArray<RECORD>>;
+  template <class Record>
+  struct Owner<RecordArray<Record>> {
+    using Type = Owning<RecordArray<Record>>;
   };
 
   struct alignas(CObject) Place {
-    std::array<std::byte, sizeof(CArray<void*>)> bytes;  // every list is of this size
+    std::array<std::byte, sizeof(CArray<void*>)> bytes;  // every list has this size
   };
 
-  template <class LIST>
-  LIST* Make() {
-    using ListType = typename Owner<LIST>::Type;
+  template <class List>
+  List* Make() {
+    using ListType = typename Owner<List>::Type;
     static_assert(sizeof(ListType) == sizeof(Place) && alignof(ListType) == alignof(Place));
-    if (made_ == COUNT) throw std::logic_error("a record class makes more lists than it has room for");
+    if (made_ == Count) throw std::logic_error("OwnedLists: more lists than the record class declares");
     return std::construct_at(reinterpret_cast<ListType*>(&places_[made_++]));
   }
   [[nodiscard]] CObject* At(std::size_t index) noexcept {
     return std::launder(reinterpret_cast<CObject*>(&places_[index]));
   }
 
-  std::array<Place, COUNT> places_;
+  std::array<Place, Count> places_;
   std::uint8_t made_ = 0;
 };
 

@@ -8,11 +8,11 @@
 namespace kestrin {
 namespace {
 
-/// Fills an empty array with clones of another's elements; on an exception it stays empty.
-template <class ELEMENT>
-void CloneElements(CExPtrArray<ELEMENT*>& target, const CExPtrArray<ELEMENT*>& source) {
-  std::vector<std::unique_ptr<ELEMENT>> clones;
-  for (const ELEMENT* element : source) clones.emplace_back(element == nullptr ? nullptr : element->clone());
+/// Fills an empty array with clones of another array's elements. If this raises, the array stays empty.
+template <class Element>
+void CloneElements(CExPtrArray<Element*>& target, const CExPtrArray<Element*>& source) {
+  std::vector<std::unique_ptr<Element>> clones;
+  for (const Element* element : source) clones.emplace_back(element == nullptr ? nullptr : element->clone());
   target.SetSize(source.GetSize());
   for (std::int64_t i = 0; auto& clone : clones) target.SetAt(i++, clone.release());
 }
@@ -62,7 +62,7 @@ void CArrayPointD::Serialize(CArchive& archive) {
     }
     return;
   }
-  CArrayPointD loaded;  // grown as points arrive, so that a false count costs no memory
+  CArrayPointD loaded;  // grows as points arrive, so a corrupt count cannot exhaust memory
   for (std::uint64_t left = archive.ReadCount(); left > 0; --left) {
     const double x = archive.ReadDouble();
     const double y = archive.ReadDouble();

@@ -1,8 +1,8 @@
 #pragma once
 
 /// @file
-/// Points and point arrays, for exchange with the host; the models keep numbers of their own. Coordinates are
-/// in the unit of whatever they come from.
+/// Points and arrays of points, for passing coordinates to and from a host. The models do not use them: they
+/// store plain numbers. No unit is attached: coordinates are in the unit of the data they were copied from.
 
 #include "kestrin/base/export.h"
 #include "kestrin/framework/array.h"
@@ -14,17 +14,17 @@ namespace kestrin {
 class KESTRIN_EXPORT CPointD {
  public:
   ///@{
-  /// A coordinate.
+  /// A coordinate, 0 in a new point.
   double x = 0.0;
   double y = 0.0;
   ///@}
 
   CPointD() = default;
-  /// The point with these coordinates.
+  /// Makes a point from its coordinates.
   CPointD(double newX, double newY) : x(newX), y(newY) {}
 
   ///@{
-  /// A coordinate; the references are valid as long as the point.
+  /// Returns a coordinate. The references are valid as long as the point is.
   [[nodiscard]] double& GetX() { return x; }
   [[nodiscard]] double& GetY() { return y; }
   [[nodiscard]] double GetX() const { return x; }
@@ -48,30 +48,31 @@ class KESTRIN_EXPORT CPointD {
 class KESTRIN_EXPORT CPoint3D {
  public:
   ///@{
-  /// A coordinate.
+  /// A coordinate, 0 in a new point.
   double x = 0.0;
   double y = 0.0;
   double z = 0.0;
   ///@}
 
   CPoint3D() = default;
-  /// The point with these coordinates.
+  /// Makes a point from its coordinates.
   CPoint3D(double newX, double newY, double newZ) : x(newX), y(newY), z(newZ) {}
   CPoint3D(const CPoint3D&) = default;
   CPoint3D& operator=(const CPoint3D&) = default;
   virtual ~CPoint3D();
 
   ///@{
-  /// Equal is the same object, and are coordinates that are equal as doubles; 1 for true, 0 for false.
+  /// Compares the coordinates exactly, without a tolerance; returns 1 for true, 0 for false. A point equals
+  /// itself even if a coordinate is not a number.
   virtual int operator==(const CPoint3D& other) const;
   virtual int operator!=(const CPoint3D& other) const;
   ///@}
 
-  /// A new point, which the caller owns.
+  /// Returns a copy on the heap, which the caller owns.
   [[nodiscard]] virtual CPoint3D* clone() const;
 
   ///@{
-  /// A coordinate; the references are valid as long as the point.
+  /// Returns a coordinate. The references are valid as long as the point is.
   [[nodiscard]] double& GetX() { return x; }
   [[nodiscard]] double& GetY() { return y; }
   [[nodiscard]] double& GetZ() { return z; }
@@ -89,39 +90,40 @@ class KESTRIN_EXPORT CPoint3D {
 
   /// Sets all coordinates.
   void SetData(const double& newX, const double& newY, const double& newZ);
-  /// Gives all coordinates.
+  /// Copies all coordinates to the arguments.
   void GetData(double& outX, double& outY, double& outZ) const;
 };
 
-/// An array of point values.
+/// An array of points, stored by value.
 class KESTRIN_EXPORT CArrayPointD : public CArray<CPointD, CPointD&> {
  public:
   CArrayPointD() = default;
   CArrayPointD(const CArrayPointD& source) : CArray() { Copy(source); }
   CArrayPointD& operator=(const CArrayPointD& source);
 
-  /// A new array with the same points, which the caller owns.
+  /// Returns a copy on the heap, which the caller owns.
   [[nodiscard]] virtual CArrayPointD* clone() const;
 
-  /// Writes the count, then x and y of every point; or replaces the points by those of the archive. Raises
-  /// CArchiveException when the archive ends early, and then the points are as they were.
+  /// If the archive is storing, writes the number of points, then x and y of each. Otherwise replaces the
+  /// points with those of the archive; if the archive ends early, raises CArchiveException and leaves the
+  /// points unchanged.
   void Serialize(CArchive& archive) override;
 };
 
-/// An array of point arrays. A copy has arrays of its own; as with every CExPtrArray they are deleted by the
-/// delete operations only.
+/// An array of pointers to point arrays. Copying clones the point arrays. Like every CExPtrArray, the array
+/// deletes them only when you call one of its delete operations.
 class KESTRIN_EXPORT CArrayArrayPointD : public CExPtrArray<CArrayPointD*> {
  public:
   CArrayArrayPointD() = default;
   CArrayArrayPointD(const CArrayArrayPointD& source);
   CArrayArrayPointD& operator=(const CArrayArrayPointD&) = delete;
 
-  /// A new array with copies of the arrays, which the caller owns.
+  /// Returns a copy on the heap, which the caller owns, with clones of the point arrays.
   [[nodiscard]] virtual CArrayArrayPointD* clone() const;
 };
 
-/// An array of points in space. A copy has points of its own; as with every CExPtrArray they are deleted by
-/// the delete operations only.
+/// An array of pointers to points in space. Copying clones the points. Like every CExPtrArray, the array
+/// deletes them only when you call one of its delete operations.
 class KESTRIN_EXPORT CArrayPoint3D : public CExPtrArray<CPoint3D*> {
  public:
   CArrayPoint3D() = default;
@@ -129,12 +131,13 @@ class KESTRIN_EXPORT CArrayPoint3D : public CExPtrArray<CPoint3D*> {
   CArrayPoint3D& operator=(const CArrayPoint3D&) = delete;
 
   ///@{
-  /// Equal is the same array, and are equal points in the same order; 1 for true, 0 for false.
+  /// Compares the points pairwise with CPoint3D's operators; returns 1 for true, 0 for false. A null slot
+  /// equals only a null slot. An array equals itself.
   virtual int operator==(const CArrayPoint3D& other) const;
   virtual int operator!=(const CArrayPoint3D& other) const;
   ///@}
 
-  /// A new array with copies of the points, which the caller owns.
+  /// Returns a copy on the heap, which the caller owns, with clones of the points.
   [[nodiscard]] virtual CArrayPoint3D* clone() const;
 };
 

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Records by the million in little memory.
+/// The base class of records that exist in large numbers.
 
 #include <cstddef>
 #include <new>
@@ -12,19 +12,25 @@ namespace kestrin {
 
 class RecordPool;
 
-/// The base of the records that a file has most of. Readers make them in an arena: side by side in blocks of
-/// up to 16 MiB, each of which is freed with the last of its records. Records that a host makes with new are
-/// on the heap like any other object. Both end with delete, on any thread and in any order.
+/// The base class of the records that files contain in large numbers. You use them like any object:
+///
+///     auto* pin = new CMRefPin;
+///     net->m_pPins->Add(pin);  // the list deletes it
+///
+/// Records that you create with new are on the heap. Readers allocate theirs in an arena instead, which saves
+/// time and memory: in blocks of up to 16 MiB, each freed when its last record is deleted. So a single record
+/// that you keep from a model can keep 16 MiB alive. Either kind is freed with delete, on any thread and in
+/// any order.
 class PooledRecord {
  public:
   ///@{
-  /// Memory for a record that a host makes.
+  /// Allocates on the heap; used by new.
   [[nodiscard]] KESTRIN_EXPORT static void* operator new(std::size_t size);
   [[nodiscard]] KESTRIN_EXPORT static void* operator new(std::size_t size,
                                                          const std::nothrow_t& tag) noexcept;
   ///@}
   ///@{
-  /// The same for a derived class that asks for an alignment of its own.
+  /// Allocates on the heap, for a derived class that specifies its own alignment.
   [[nodiscard]] static void* operator new(std::size_t size, std::align_val_t alignment) {
     return ::operator new(size, alignment);
   }
@@ -33,20 +39,20 @@ class PooledRecord {
     return ::operator new(size, alignment, tag);
   }
   ///@}
-  /// A record in memory of the host's, which only its destructor ends.
+  /// Constructs in memory that you supply. Destroy such a record with its destructor, not with delete.
   [[nodiscard]] static void* operator new(std::size_t /*size*/, void* memory) noexcept { return memory; }
-  /// Memory for a reader's record.
+  /// Allocates in a reader's arena.
   [[nodiscard]] static void* operator new(std::size_t size, RecordPool& pool);
 
   ///@{
-  /// Frees the memory of a record, whoever made it.
+  /// Frees the memory of a record, on the heap or in an arena.
   KESTRIN_EXPORT static void operator delete(void* record, std::size_t size) noexcept;
   static void operator delete(void* record, std::size_t /*size*/, std::align_val_t alignment) noexcept {
     ::operator delete(record, alignment);
   }
   ///@}
   ///@{
-  /// Called when a constructor throws.
+  /// Called if a constructor throws.
   static void operator delete(void* record, const std::nothrow_t& /*tag*/) noexcept {
     operator delete (record, std::size_t{0});
   }

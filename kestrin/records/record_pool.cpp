@@ -11,25 +11,26 @@
 namespace kestrin {
 namespace {
 
-/// Slabs begin at multiples of this, so that a record's address tells its slab.
+/// Slabs begin at multiples of their size, so a record's address tells its slab.
 constexpr std::size_t kSlabSize = std::size_t{64} * 1024;
 
-/// Blocks double from one slab up to this: little memory for a small file, few blocks for a large one.
+/// Blocks double from one slab up to this size: a small file takes little memory, a large one few blocks.
 constexpr std::size_t kLargestBlock = 8 * kHugePage;
 
-/// What a block leaves to the heap, whose own words then fit in between one block and the next.
+/// A block is smaller than its size by this much, so that the heap's header fits between two blocks and the
+/// next one can still begin at a multiple.
 constexpr std::size_t kHeapWords = 64;
 
-/// The last slab of a block is smaller than the others, but not too small for a record.
+/// The last slab of a block is the smallest.
 constexpr std::size_t kSmallestSlab = kSlabSize - kHeapWords;
 
 }  // namespace
 
-/// The header of a slab, before its records.
+/// The header of a slab; its records follow.
 struct RecordPool::Slab {
-  /// Begins a block of that size.
+  /// The first slab of a block of this size.
   explicit Slab(std::size_t size) : first(this), blockSize(size) {}
-  /// Continues a block.
+  /// A further slab of a block.
   explicit Slab(Slab& firstOfBlock) : first(&firstOfBlock) {}
 
   [[nodiscard]] static std::align_val_t AlignmentOf(std::size_t size) {
@@ -50,22 +51,23 @@ struct RecordPool::Slab {
     return Begin() + sizeof(Slab);
   }
 
-  /// Lets go of a block, of which this is the first slab.
-  void LetGo(std::size_t count) noexcept {
-    if (held.fetch_sub(count, std::memory_order_acq_rel) > count) return;
+  /// Drops references to a block, of which this is the first slab, and frees it with the last.
+  void Release(std::size_t count) noexcept {
+    if (references.fetch_sub(count, std::memory_order_acq_rel) > count) return;
     ::operator delete(this, AlignmentOf(blockSize));
   }
 
-  /// More than a block ever has records: making one need not touch the count, which other threads may lower.
+  /// The references that the pool takes when it opens a block: more than a block can have records. So making
+  /// a record need not touch the count, which other threads may be lowering; the pool returns what is unused
+  /// when it closes the block.
   static constexpr std::size_t kHeldByPool = std::size_t{1} << 40;
 
   Slab* first;  // of the block
   std::size_t blockSize = 0;
-  std::atomic<std::size_t> held{
-      kHeldByPool};  // the block, by its records, and by the pool while it makes more
+  std::atomic<std::size_t> references{kHeldByPool};  // to the block; in its first slab only
 };
 
-/// Goes on to the next slab, of the block or of a new one.
+/// Continues with the next slab of the block, or with a new block.
 void RecordPool::OpenSlab() {
   if (static_cast<std::size_t>(blockEnd_ - end_) < kSmallestSlab) return OpenBlock();
   BeginSlab(*std::construct_at(reinterpret_cast<Slab*>(end_), *block_));
@@ -89,7 +91,7 @@ void RecordPool::OpenBlock() {
 }
 
 void RecordPool::CloseBlock() noexcept {
-  if (block_ != nullptr) block_->LetGo(Slab::kHeldByPool - std::exchange(made_, 0));
+  if (block_ != nullptr) block_->Release(Slab::kHeldByPool - std::exchange(made_, 0));
 }
 
 void* PooledRecord::operator new(std::size_t size) { return ::operator new(RecordPool::RoomFor(size)); }
@@ -101,7 +103,7 @@ void* PooledRecord::operator new(std::size_t size, const std::nothrow_t& tag) no
 void PooledRecord::operator delete(void* record, std::size_t size) noexcept {
   if (!RecordPool::Made(record)) return ::operator delete(record);
   MarkUnused(record, size);
-  RecordPool::Slab::Of(record)->first->LetGo(1);
+  RecordPool::Slab::Of(record)->first->Release(1);
 }
 
 void PooledRecord::operator delete(void* record, RecordPool& /*pool*/) noexcept {

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Where readers make their records.
+/// The arena in which readers allocate records.
 
 #include <cstddef>
 #include <cstdint>
@@ -13,8 +13,9 @@
 
 namespace kestrin {
 
-/// An arena: makes records side by side, in the order of the calls. The records outlive the pool. A pool is
-/// used by one thread at a time; meanwhile its records may be deleted on any thread.
+/// An arena for records: places them side by side in large blocks, in the order of the calls. That is faster
+/// than the heap and costs no header per record. The records outlive the pool: a block counts its records and
+/// is freed with the last. One thread at a time may use a pool; meanwhile any thread may delete its records.
 class RecordPool {
  public:
   RecordPool() = default;
@@ -22,10 +23,10 @@ class RecordPool {
   RecordPool& operator=(const RecordPool&) = delete;
   ~RecordPool() { CloseBlock(); }
 
-  template <class RECORD, class... Arguments>
-  [[nodiscard]] std::unique_ptr<RECORD> Make(Arguments&&... arguments) {
-    static_assert(alignof(RECORD) <= kPlace && sizeof(RECORD) <= kLargestRecord);
-    return std::unique_ptr<RECORD>(new (*this) RECORD(std::forward<Arguments>(arguments)...));
+  template <class Record, class... Arguments>
+  [[nodiscard]] std::unique_ptr<Record> Make(Arguments&&... arguments) {
+    static_assert(alignof(Record) <= kPlace && sizeof(Record) <= kLargestRecord);
+    return std::unique_ptr<Record>(new (*this) Record(std::forward<Arguments>(arguments)...));
   }
 
  private:
@@ -44,8 +45,8 @@ class RecordPool {
   void BeginSlab(Slab& slab);
   void CloseBlock() noexcept;
 
-  /// The heap aligns to 16 bytes. A pool's records are 8 bytes past such an address, so that the address of a
-  /// record tells which of the two it came from.
+  /// The heap returns multiples of 16. A pool's records are at 8 past a multiple of 16, so delete can tell by
+  /// the address where a record came from.
   static constexpr std::size_t kStep = 16;
   static constexpr std::size_t kPlace = 8;
   static_assert(__STDCPP_DEFAULT_NEW_ALIGNMENT__ % kStep == 0);
@@ -58,12 +59,12 @@ class RecordPool {
 
   static constexpr std::size_t kLargestRecord = 4096;
 
-  Slab* block_ = nullptr;      // the first slab of the block that records are made in
-  std::size_t made_ = 0;       // records in the block
-  std::size_t blockSize_ = 0;  // with what it leaves to the heap
+  Slab* block_ = nullptr;      // the first slab of the current block
+  std::size_t made_ = 0;       // records made in the current block
+  std::size_t blockSize_ = 0;  // of the current block, including kHeapWords
   std::byte* blockEnd_ = nullptr;
-  std::byte* next_ = nullptr;  // in the slab
-  std::byte* end_ = nullptr;   // of the slab
+  std::byte* next_ = nullptr;  // the next free place in the current slab
+  std::byte* end_ = nullptr;   // of the current slab
 };
 
 inline void* PooledRecord::operator new(std::size_t size, RecordPool& pool) { return pool.Allocate(size); }
