@@ -1,8 +1,8 @@
 #pragma once
 
 /// @file
-/// All that a host needs: the import session, the models, the board that they describe, and the framework
-/// services that they are made of.
+/// Includes every header that a host needs: the import session, the models, the board that they describe, the
+/// strict Traces reader, and the framework classes that these use.
 
 #include "kestrin/board/read_board.h"
 #include "kestrin/framework/archive.h"

@@ -1,11 +1,11 @@
 #pragma once
 
 /// @file
-/// Classes and case of single bytes, for ASCII and whatever the locale.
+/// Character classes and case conversion of single bytes: ASCII only, independent of the locale.
 
 namespace kestrin {
 
-/// White space as the C runtime and the framework's trims know it.
+/// Whether a byte is white space: a space, \t, \n, \v, \f or \r.
 [[nodiscard]] constexpr bool IsSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
 [[nodiscard]] constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }

@@ -1,7 +1,8 @@
 #pragma once
 
 /// @file
-/// What every public header needs first: C++20, and the mark of what the shared library shows to its hosts.
+/// What every public header needs first: C++20, and the mark of what the shared library exports. Everything
+/// else is hidden.
 
 #if __cplusplus < 202002L && (!defined(_MSVC_LANG) || _MSVC_LANG < 202002L)
 #error "kestrin needs C++20; compile with -std=c++20 (/std:c++20)"
@@ -17,6 +18,6 @@
 #define KESTRIN_EXPORT
 #endif
 #else
-/// Stands before the name of whatever hosts may use.
+/// Marks a class or function that hosts may use.
 #define KESTRIN_EXPORT [[gnu::visibility("default")]]
 #endif

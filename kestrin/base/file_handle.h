@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// An open file of the C library that closes itself.
+/// A C library file that is closed automatically.
 
 #include <cstdio>
 #include <memory>

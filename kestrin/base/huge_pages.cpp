@@ -8,7 +8,7 @@ namespace kestrin {
 
 void PreferHugePages([[maybe_unused]] void* block, [[maybe_unused]] std::size_t size) noexcept {
 #ifdef MADV_HUGEPAGE
-  static_cast<void>(madvise(block, size, MADV_HUGEPAGE));  // advice that is not taken changes nothing
+  static_cast<void>(madvise(block, size, MADV_HUGEPAGE));  // only advice: a failure does no harm
 #endif
 }
 

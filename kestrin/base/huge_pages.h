@@ -1,17 +1,17 @@
 #pragma once
 
 /// @file
-/// Advice to the system about large blocks of memory.
+/// Asking the system for huge pages.
 
 #include <cstddef>
 
 namespace kestrin {
 
-/// The size of a huge page where there are such: a block should begin at a multiple of it.
+/// The usual size of a huge page. A block gains from huge pages if it begins at a multiple of this size.
 inline constexpr std::size_t kHugePage = std::size_t{2} * 1024 * 1024;
 
-/// Says that a block is going to be used from its start to its end, so that a system with huge pages may hand
-/// it out in these. A page at a time, that takes as long as filling it.
+/// Advises the system to back a block with huge pages. Do this for a block that will be used whole: getting
+/// its memory in ordinary pages takes as long as filling it.
 void PreferHugePages(void* block, std::size_t size) noexcept;
 
 }  // namespace kestrin

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Tells the address sanitizer, where there is one, which parts of a larger piece of memory are in use.
+/// Tells the address sanitizer which parts of a block are in use. In builds without it, nothing happens.
 
 #include <cstddef>
 
@@ -19,14 +19,14 @@
 
 namespace kestrin {
 
-/// Whoever touches this memory from now on is at fault.
+/// Poisons the range: the address sanitizer reports any access.
 inline void MarkUnused([[maybe_unused]] void* memory, [[maybe_unused]] std::size_t size) noexcept {
 #ifdef KESTRIN_ADDRESS_SANITIZER
   __asan_poison_memory_region(memory, size);
 #endif
 }
 
-/// The memory may be touched again.
+/// Unpoisons the range: accesses are valid again.
 inline void MarkUsed([[maybe_unused]] void* memory, [[maybe_unused]] std::size_t size) noexcept {
 #ifdef KESTRIN_ADDRESS_SANITIZER
   __asan_unpoison_memory_region(memory, size);

@@ -31,10 +31,10 @@ bool StartsDecimal(std::string_view text) {
   return !text.empty() && IsDigit(text.front());
 }
 
-/// Whether a decimal number that no double can hold is too large, rather than too small.
+/// Tells why a decimal number is out of the range of a double: true if it is too large, false if too small.
 bool IsHuge(std::string_view digits) {
   constexpr std::int64_t kFarOut = 1'000'000'000'000'000;
-  std::int64_t places = 0;  // the number is 0.d… times ten to this power, d its first digit that is not 0
+  std::int64_t places = 0;  // the number is 0.d… times ten to this power, where d is its first nonzero digit
   bool started = false;
   bool fraction = false;
   std::size_t i = 0;

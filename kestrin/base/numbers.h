@@ -1,9 +1,9 @@
 #pragma once
 
 /// @file
-/// Text to number with the rules of the C runtime's atoi and atof, whatever the locale: leading white space
-/// is skipped, then the longest decimal prefix counts, and text without one is 0. "0x10", "inf" and "nan" are
-/// 0.
+/// Converts text to numbers like atoi and atof of the C library, but independent of the locale and for
+/// decimal numbers only: " 12.5mm" is 12.5, "mm" is 0, and so are "0x10", "inf" and "nan". Leading white
+/// space is skipped; then the longest prefix that is a number counts.
 
 #include <array>
 #include <cstddef>
@@ -14,24 +14,26 @@
 
 namespace kestrin {
 
-/// Reads what nearly every number of a file is: a sign, digits and a point between them, as far as there are
-/// any, and no more digits than a double holds exactly. Gives the number at the beginning of the text, the
-/// same that ToDouble gives, and returns its length; 0 for anything else.
+/// Reads a number at the beginning of the text in one pass and returns its length. Reads only the form that
+/// nearly all numbers of a file have: an optional sign, digits with an optional point, no exponent, and few
+/// enough digits to be exact in a double. The number is the one that ToDouble returns. Returns 0 for any
+/// other form, even if ToDouble reads it.
 [[nodiscard]] inline std::size_t ReadPlainNumber(std::string_view text, double& number);
 
-/// The integer that the text starts with; one out of range becomes the nearest 32-bit limit.
+/// The integer at the beginning of the text. A value out of range becomes the nearest limit of an int.
 [[nodiscard]] int ToInt(std::string_view text);
 
-/// The number that the text starts with; one too large becomes plus or minus infinity, one too small the
-/// nearest denormal or zero.
+/// The number at the beginning of the text, correctly rounded. A value too large for a double becomes
+/// positive or negative infinity; one too small becomes the nearest denormal or zero.
 [[nodiscard]] double ToDouble(std::string_view text);
 
-/// The value truncated toward zero; out of range it becomes the nearest 32-bit limit, not-a-number 0.
+/// The value truncated toward zero. A value out of range becomes the nearest limit of an int; not-a-number
+/// becomes 0.
 [[nodiscard]] int ToInt(double value);
 
 std::size_t ReadPlainNumber(std::string_view text, double& number) {
   constexpr std::uint64_t kExact = std::uint64_t{1} << 53;
-  constexpr std::size_t kMostDigits = 19;  // of which no number overflows 64 bits
+  constexpr std::size_t kMostDigits = 19;  // cannot overflow 64 bits
   static constexpr std::array kPowersOfTen{1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,
                                            1e10, 1e11, 1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19};
   static constexpr std::array kSigns{1.0, -1.0};
@@ -56,7 +58,7 @@ std::size_t ReadPlainNumber(std::string_view text, double& number) {
   }
   if (count == 0 || count > kMostDigits || digits > kExact) return 0;
   if (place != end && (*place == 'e' || *place == 'E')) return 0;
-  // Both are exact, so that their quotient is the double that is nearest to the number.
+  // Both operands are exact, so the quotient is the double nearest to the number.
   const double magnitude = static_cast<double>(static_cast<std::int64_t>(digits)) / kPowersOfTen[decimals];
   number = magnitude * kSigns[static_cast<std::size_t>(negative)];
   return static_cast<std::size_t>(place - text.data());

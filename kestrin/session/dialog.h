@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The session's side of the talk with the host's dialog: its progress bars, its messages.
+/// What the session does with the host's windows: pumps messages, moves progress bars, refreshes the dialog.
 
 #include <cstdint>
 
@@ -10,36 +10,36 @@
 
 namespace kestrin {
 
-/// Removes and dispatches every message that waits for the calling thread, until none is left.
+/// Dispatches the messages in the calling thread's queue until it is empty.
 void PumpMessages();
 
-/// The dialog that a progress bar stands on, null without a bar or a parent.
+/// The dialog of a progress bar, which is the bar's parent; null without a bar or a parent.
 [[nodiscard]] HWND DialogOf(const CProgressCtrl* bar);
 
-/// Refreshes a dialog, if it still exists.
+/// Refreshes a dialog if it still exists.
 void RefreshDialog(HWND dialog);
 
-/// A pointer to a window of the host, which a message handler may destroy under way.
-template <class WINDOW>
+/// A pointer to a window of the host, which a message handler may destroy during an import.
+template <class Window>
 class WatchedWindow {
  public:
-  /// The window lives, or the pointer is null.
-  explicit WatchedWindow(WINDOW*& pointer)
+  /// Watches the pointer's window, which exists, or a null pointer.
+  explicit WatchedWindow(Window*& pointer)
       : pointer_(pointer), window_(pointer), handle_(pointer == nullptr ? nullptr : pointer->GetSafeHwnd()) {}
 
-  /// Sets the pointer to null if the window has gone.
-  void ForgetIfGone() {
+  /// Sets the pointer to null if the window has been destroyed, unless it points elsewhere by now.
+  void ResetIfDestroyed() {
     if (pointer_ == window_ && CWnd::FromHandle(handle_) == nullptr) pointer_ = nullptr;
   }
 
  private:
-  WINDOW*& pointer_;
-  const WINDOW* window_;
+  Window*& pointer_;
+  const Window* window_;
   HWND handle_;
 };
 
-/// Moves a reader's progress bar by whole percentages of the lines read. Windows are named by their handles,
-/// so that a message handler may destroy them under way.
+/// Moves a reader's progress bar each time the whole percentage of the lines read changes. It keeps handles,
+/// not pointers, because a message handler may destroy the windows during an import.
 class ProgressDisplay {
  public:
   ProgressDisplay(const CProgressCtrl* bar, bool disablesBar);
@@ -48,7 +48,7 @@ class ProgressDisplay {
   [[nodiscard]] bool IsShown() const { return dialog_ != nullptr; }
   void SetLineCount(int lineCount) { lineCount_ = lineCount; }
 
-  /// The line of this number, counted from 1, has been read.
+  /// Call after reading the line with this number, counted from 1.
   void LineRead(std::int64_t number) {
     if (!IsShown()) return;
     const int percent = ToInt(static_cast<double>(number) / lineCount_ * 100.0);

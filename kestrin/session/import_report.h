@@ -1,7 +1,8 @@
 #pragma once
 
 /// @file
-/// What became of the lines of an import, as data: an import itself shows and throws nothing because of it.
+/// The report of an import: what became of every line. Skipped lines are data here; an import shows no
+/// message and raises no exception because of them.
 
 #include <array>
 #include <chrono>
@@ -18,59 +19,64 @@ namespace kestrin {
 
 /// The files of an export set, in the order in which they are read.
 enum class ImportFile : std::uint8_t { kTech, kNeutral, kGeometry, kTraces };
-/// How many they are.
+/// The number of files in an export set.
 inline constexpr std::size_t kImportFileCount = 4;
 
-/// How far the reading of a file came.
+/// How the reading of a file ended.
 enum class ReadingEnd : std::uint8_t {
-  kNotRead,    ///< its reader did not run
+  kNotRead,    ///< the file has not been read
   kNotOpened,  ///< the file could not be opened
-  kStopped,    ///< an exception ended the reading at the last line read
+  kStopped,    ///< an exception stopped the reading at the last line read
   kComplete,   ///< the whole file was read
 };
 
-/// A line that a reader skipped.
+/// A line that was skipped.
 struct SkippedLine {
-  std::int64_t number = 0;  ///< counted from 1
-  std::string reason;       ///< why, in one sentence
-  std::string text;         ///< its beginning, up to FileReport::kKeptBytes
+  std::int64_t number = 0;  ///< the line number, counted from 1
+  std::string reason;       ///< why it was skipped, in one sentence
+  std::string text;         ///< the first FileReport::kKeptBytes bytes of the line
 };
 
-/// The skipped lines of one code: all are counted, the first are kept.
+/// The lines that were skipped with the same code.
 struct SkippedLines {
-  std::int64_t count = 0;          ///< of all of them
-  std::vector<SkippedLine> first;  ///< up to FileReport::kKeptLines, in file order
+  std::int64_t count = 0;          ///< how many there are
+  std::vector<SkippedLine> first;  ///< the first FileReport::kKeptLines of them, in file order
 };
 
-/// What became of the lines of one file. Every line read is imported, ignored or skipped; only the line at
-/// which an exception stopped the reading is none of these.
+/// What became of the lines of one file. Each line read is imported, ignored or skipped. The exception is a
+/// line at which an exception stopped the reading: it is counted in linesRead only.
+///
+///     const FileReport& report = session.GetReport().Of(ImportFile::kTraces);
+///     for (const SkippedLine& line : report.Skipped(SkipCode::kUnknownRecord).first) {
+///       std::cerr << report.path << ':' << line.number << ": " << line.reason << '\n';
+///     }
 class FileReport {
  public:
-  static constexpr std::size_t kKeptLines = 100;  ///< lines kept of each skip code
-  static constexpr std::size_t kKeptBytes = 200;  ///< bytes kept of a line
+  static constexpr std::size_t kKeptLines = 100;  ///< how many lines are kept for each skip code
+  static constexpr std::size_t kKeptBytes = 200;  ///< how many bytes are kept of each line
 
   ///@{
-  /// How many lines were imported, ignored, skipped.
+  /// How many lines were imported, ignored or skipped.
   [[nodiscard]] std::int64_t Imported() const { return CountOf(LineOutcome::Kind::kImported); }
   [[nodiscard]] std::int64_t Ignored() const { return CountOf(LineOutcome::Kind::kIgnored); }
   [[nodiscard]] std::int64_t Skipped() const { return CountOf(LineOutcome::Kind::kSkipped); }
   ///@}
 
-  /// The lines that were skipped with a code; valid until the file is read again.
+  /// The lines that were skipped with this code. The reference is valid until the file is read again.
   [[nodiscard]] const SkippedLines& Skipped(SkipCode code) const {
     return skipped_[static_cast<std::size_t>(code)];
   }
 
-  /// Counts the line that was read last. Readers' loops call it; a host need not.
+  /// Counts the last line read. Called by the library while it reads.
   void CountLine(LineOutcome outcome, std::string_view line) {
     ++counts_[static_cast<std::size_t>(outcome.GetKind())];
     if (outcome.GetKind() == LineOutcome::Kind::kSkipped) CountSkipped(outcome, line);
   }
 
-  std::string path;                       ///< as it was given
-  ReadingEnd end = ReadingEnd::kNotRead;  ///< how far the reading came
+  std::string path;                       ///< the path as the host gave it
+  ReadingEnd end = ReadingEnd::kNotRead;  ///< how the reading ended
   std::int64_t linesRead = 0;             ///< the number of the last line read
-  std::chrono::nanoseconds duration{};    ///< of the whole reading, progress and messages included
+  std::chrono::nanoseconds duration{};    ///< how long the reading took, with progress and messages
 
  private:
   void CountSkipped(LineOutcome outcome, std::string_view line);
@@ -82,13 +88,13 @@ class FileReport {
   std::array<SkippedLines, kSkipCodes.size()> skipped_;
 };
 
-/// The reports of a session's files; each reading of a file replaces the report of the one before.
+/// The reports of a session's files. Reading a file again replaces its report.
 class ImportReport {
  public:
-  /// The report of a file; it lives as long as this report.
+  /// The report of one file. The reference is valid as long as this object is.
   [[nodiscard]] const FileReport& Of(ImportFile file) const { return files_[static_cast<std::size_t>(file)]; }
 
-  /// Which of the boards of the Neutral file was imported.
+  /// Which board of the Neutral file was imported.
   BoardSelection boardSelection;
 
  private:

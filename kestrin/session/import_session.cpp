@@ -15,7 +15,8 @@
 namespace kestrin {
 namespace {
 
-/// The windows that a host gave to a session, while files are read.
+/// The host's windows during an import. Message handlers may destroy them: their pointers in the session are
+/// then set to null.
 class HostWindows {
  public:
   explicit HostWindows(CPC_KESTRIN_GET& session)
@@ -24,12 +25,11 @@ class HostWindows {
               WatchedWindow(session.m_pGeomProgress), WatchedWindow(session.m_pTraceProgress)} {}
   HostWindows(const HostWindows&) = delete;
   HostWindows& operator=(const HostWindows&) = delete;
-  ~HostWindows() { ForgetTheGone(); }
+  ~HostWindows() { ResetDestroyed(); }
 
-  /// Sets the session's pointers to windows that the host has destroyed to null.
-  void ForgetTheGone() {
-    status_.ForgetIfGone();
-    for (auto& bar : bars_) bar.ForgetIfGone();
+  void ResetDestroyed() {
+    status_.ResetIfDestroyed();
+    for (auto& bar : bars_) bar.ResetIfDestroyed();
   }
 
  private:
@@ -37,9 +37,9 @@ class HostWindows {
   WatchedWindow<CProgressCtrl> bars_[4];
 };
 
-/// Makes a root the session's.
-template <class ROOT>
-void Replace(std::shared_ptr<ROOT>& owner, ROOT*& pointer, const std::shared_ptr<ROOT>& root) {
+/// Replaces a root of the session and the public pointer to it.
+template <class Root>
+void Replace(std::shared_ptr<Root>& owner, Root*& pointer, const std::shared_ptr<Root>& root) {
   pointer = root.get();
   owner = root;
 }
@@ -85,9 +85,9 @@ void CPC_KESTRIN_GET::ParseGivenFiles() {
   RefreshHost();
   for (const Step& step : steps) {
     if (step.path.IsEmpty()) continue;
-    windows.ForgetTheGone();
+    windows.ResetDestroyed();
     if (m_pStatusWnd != nullptr) m_pStatusWnd->SetWindowTextA(step.status);
-    windows.ForgetTheGone();
+    windows.ResetDestroyed();
     (this->*step.read)(step.path);
   }
 }
@@ -110,7 +110,7 @@ bool CPC_KESTRIN_GET::HasMandatoryPaths() const {
   return true;
 }
 
-/// Lets the host work off its messages and repaint its dialog before the import keeps the thread busy.
+/// Pumps messages and refreshes the dialog once before the import keeps the thread busy.
 void CPC_KESTRIN_GET::RefreshHost() const {
   for (const CProgressCtrl* bar : {m_pTechProgress, m_pNeutralProgress, m_pGeomProgress, m_pTraceProgress}) {
     if (bar == nullptr) continue;

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The import session: the class through which a host imports an export set.
+/// The import session: reads an export set into models.
 
 #include <memory>
 
@@ -19,22 +19,38 @@ class CMNetList;
 class CMTech;
 class CMTraces;
 
-/// Reads the four files of an export set into the model roots that it owns.
+/// Reads the four files of an export set into models, whose roots it owns.
 ///
-/// Use: construct; set the paths, and a status window and progress bars if wanted; vParse; walk the roots.
-/// All of it happens on one thread. Messages of the host are dispatched under way: their handlers must not
-/// touch the session or its models until vParse returns. Different sessions may work in different threads.
+///     #include <iostream>
+///     #include <kestrin/kestrin.h>
 ///
-/// Roots: a reader replaces the root of its file. The pointer from a getter is valid until the file is read
-/// again or the session goes or is assigned to, and longer while a copy of the session shares the root:
-/// copies share roots, and every one of them may be destroyed.
+///     int main() {
+///       kestrin::CPC_KESTRIN_GET session;
+///       session.vSetNeutralFilePath("board.neutral");
+///       session.ParseGivenFiles();
+///       for (const auto* net : *session.GetNetList()->m_pNets) std::cout << net->m_sName << '\n';
+///     }
 ///
-/// Errors: a file that cannot be opened leaves an empty root; lines that cannot be read are skipped;
-/// GetReport tells of both. Exceptions of the framework (CInvalidArgException at a line of the Traces file
-/// that is too short for its record, CFileException on a read error, memory exhaustion) and of the host's own
-/// message handlers pass through; what was read before them stays in the roots.
+/// To show progress, set m_pStatusWnd and call SetProgressPtr before you parse. To learn what became of each
+/// line, call GetReport afterwards.
+///
+/// How long are the models valid? A pointer from a getter is valid until its file is read again, or until the
+/// session is destroyed or assigned to. A copy of the session shares the roots and keeps them alive, whatever
+/// happens to the original.
+///
+/// What happens on bad input? A file that cannot be opened leaves an empty root. A line that cannot be read
+/// is skipped. The report tells you of both.
+///
+/// Which exceptions can a parse raise? CInvalidArgException at a line of the Traces file that has too few
+/// values for its record, CFileException on a read error, std::bad_alloc when memory runs out, and whatever
+/// your message handlers and windows throw. What was read before stays in the roots, and you can use the
+/// session again.
+///
+/// May threads share a session? Use a session and its models on one thread at a time; different sessions may
+/// work on different threads at once. During a parse, messages of your windows are dispatched on the calling
+/// thread: their handlers must not use the session or its models until vParse returns.
 class KESTRIN_EXPORT CPC_KESTRIN_GET {
-  // The owners of the roots, which copies share. Members are destroyed last first.
+  // The owners of the roots, which copies share. Destroyed from last to first.
   std::shared_ptr<CMTech> tech_;
   std::shared_ptr<CMTraces> traces_;
   std::shared_ptr<CMNetList> netList_;
@@ -48,26 +64,28 @@ class KESTRIN_EXPORT CPC_KESTRIN_GET {
   virtual ~CPC_KESTRIN_GET();
 
   ///@{
-  /// Set the path of a file for vParse.
+  /// Sets the path of a file for vParse and ParseGivenFiles. An empty path means no file.
   void vSetTechFilePath(CString path);
   void vSetNeutralFilePath(CString path);
   void vSetGeomFilePath(CString path);
   void vSetTraceFilePath(CString path);
   ///@}
 
-  /// The bars stay the host's. Any may be null, and vParse sets those to null that the host destroys under
-  /// way. The parent of a bar is what is refreshed.
+  /// Sets the progress bars; any may be null. A bar's parent is the dialog that is refreshed; a bar without a
+  /// parent is not moved. The host keeps the bars. It may destroy them during a parse: vParse and
+  /// ParseGivenFiles then set the session's pointers to null.
   void SetProgressPtr(CProgressCtrl* geomProgress, CProgressCtrl* neutralProgress,
                       CProgressCtrl* traceProgress, CProgressCtrl* techProgress);
 
-  /// Reads the files in the order Tech, Neutral, Geometry, Traces. Without a Geometry, Neutral or Traces path
-  /// it shows a warning box for the first that is missing and reads nothing; the Tech path is optional.
+  /// Reads the files in the order Tech, Neutral, Geometry, Traces. The Tech path is optional. If the
+  /// Geometry, Neutral or Traces path is empty, shows a message box about the first of them that is, in this
+  /// order, and reads nothing.
   void vParse();
-  /// Reads those of the files whose paths are set as vParse does, without asking for any.
+  /// Like vParse, but reads only the files whose paths are set and requires none.
   void ParseGivenFiles();
 
   ///@{
-  /// Read one file each, replacing its roots; vParse calls them.
+  /// Reads one file and replaces its root; the Neutral file has two. vParse calls these.
   void TechFileParse(CString path);
   void NeutralFileParse(CString path);
   void GeomFileParse(CString path);
@@ -75,7 +93,7 @@ class KESTRIN_EXPORT CPC_KESTRIN_GET {
   ///@}
 
   ///@{
-  /// The roots, null before their file was first read. They stay the session's.
+  /// Returns a root; null if its file has not been read. The session owns it.
   [[nodiscard]] CMTech* GetTech() const;
   [[nodiscard]] CMComps* GetComps() const;
   [[nodiscard]] CMNetList* GetNetList() const;
@@ -83,30 +101,35 @@ class KESTRIN_EXPORT CPC_KESTRIN_GET {
   [[nodiscard]] CMTraces* GetTraces() const;
   ///@}
 
-  /// What became of the lines of the files that were read.
+  /// What became of each line of the files that were read. The reference is valid as long as the session is.
   [[nodiscard]] const ImportReport& GetReport() const { return report_; }
 
-  /// Empty: no reader sets an error text.
+  /// Returns m_sErrorMsg, which no reader sets. Use GetReport instead.
   [[nodiscard]] CString sGetErrorMsg() const;
 
-  /// One more than the line feeds in the file; 1 when it cannot be opened.
+  /// The number of line feeds in a file plus one, at most the largest int; 1 if the file cannot be opened.
   [[nodiscard]] int nGetFileLineCount(CString path) const;
 
-  ///@{
-  /// Cut a line into fields, which are appended to the array. Commas between double quotes do not separate,
-  /// nor do spaces between apostrophes; quotes stay in the fields, and no field is empty. The scan begins
-  /// behind the start index, -1 for the whole line; a start index below -1 raises CInvalidArgException.
+  /// Appends the fields between the commas of a line: `A,"B,C",,D` has the fields `A`, `"B,C"` and `D`. A
+  /// comma between double quotes does not separate; a quote after a backslash does not count. Quotes stay in
+  /// the fields; empty fields are left out.
   void SeparateLineBasedonComma(CString line, CStringArray& fields) const;
-  void SeparateLineBasedonSpace(CString line, int start, CStringArray& fields) const;
-  ///@}
 
-  /// Groups in parentheses, without the spaces outside double quotes. Text that a closing parenthesis ends is
-  /// dropped unless it begins with an opening one; text behind the last group is a field.
+  /// Appends the fields between the spaces of a line: `A 'B C'  D` has the fields `A`, `'B C'` and `D`. A
+  /// space between apostrophes does not separate. Apostrophes stay in the fields; empty fields are left out.
+  /// Begins after the start index; -1 is the whole line. A start index less than -1 raises
+  /// CInvalidArgException.
+  void SeparateLineBasedonSpace(CString line, int start, CStringArray& fields) const;
+
+  /// Appends the groups in parentheses of a line: `(A,"B C") (D, E)` has the fields `(A,"B C")` and `(D,E)`.
+  /// Spaces outside double quotes are removed. A group that does not begin with its opening parenthesis is
+  /// dropped: `x(A) (B)` has the field `(B)` only. Text after the last group is a field. The start index is
+  /// that of SeparateLineBasedonSpace.
   void SeparateLineForCompProperty(CString line, int start, CStringArray& fields) const;
 
-  CWnd* m_pStatusWnd = nullptr;  ///< the host's; its text says which file is being read
+  CWnd* m_pStatusWnd = nullptr;  ///< the host's status window: its text says which file is being read
   ///@{
-  /// A root, null before its file was first read. The session stays its owner whatever a host sets these to.
+  /// A root; null if its file has not been read. Setting the pointer does not change what the session owns.
   CMGeom* m_pGeom = nullptr;
   CMComps* m_pComps = nullptr;
   CMNetList* m_pNetList = nullptr;
@@ -123,14 +146,14 @@ class KESTRIN_EXPORT CPC_KESTRIN_GET {
   ///@}
 
   ///@{
-  /// A path for vParse.
+  /// The path of a file for vParse and ParseGivenFiles; empty for none.
   CString m_sGeomFilePath;
   CString m_sNeutralFilePath;
   CString m_sTraceFilePath;
   CString m_sTechFilePath;
   ///@}
 
-  CString m_sErrorMsg;  ///< always empty
+  CString m_sErrorMsg;  ///< never set by a reader
 
  private:
   [[nodiscard]] bool HasMandatoryPaths() const;

@@ -22,7 +22,7 @@ int CountLines(const char* path) {
       lines += std::count(block.data(), block.data() + count, '\n');
     }
   } catch (const CFileException&) {
-    // The reader that follows meets the same error and lets it through.
+    // The reader will meet the same error and report it.
   }
   return static_cast<int>(std::min<std::int64_t>(lines, std::numeric_limits<int>::max()));
 }

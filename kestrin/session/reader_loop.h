@@ -1,7 +1,8 @@
 #pragma once
 
 /// @file
-/// The loop that feeds a file's lines to a reader: the one place that knows files, progress and messages.
+/// The loop that feeds the lines of a file to a reader. No other code deals with files, progress and
+/// messages.
 
 #include <chrono>
 
@@ -13,15 +14,15 @@
 
 namespace kestrin {
 
-/// How a reader's file is read.
+/// What to read, and how.
 struct Reading {
   CString path;
   const CProgressCtrl* bar = nullptr;
-  bool pumpsMessages = false;  // before each line is interpreted, also without a bar
+  bool pumpsMessages = false;  // before each line, even without a bar
   bool disablesBar = false;    // after each move
 };
 
-/// Adds the time until it goes to a duration.
+/// Adds its own lifetime to a duration.
 class Stopwatch {
  public:
   explicit Stopwatch(std::chrono::nanoseconds& elapsed) : elapsed_(elapsed) {}
@@ -34,10 +35,10 @@ class Stopwatch {
   std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
 };
 
-/// Feeds every line of a file to the reader and reports what became of it. A file that cannot be opened has
-/// no lines. Exceptions of the reader, of the file and of the host's windows pass through.
-template <class READER>
-void ReadLines(const Reading& reading, READER& reader, FileReport& report) {
+/// Feeds every line of a file to the reader and reports what became of it. A file that cannot be opened is
+/// treated as having no lines. Exceptions of the reader, of the file and of the host's windows pass through.
+template <class Reader>
+void ReadLines(const Reading& reading, Reader& reader, FileReport& report) {
   report = FileReport();
   report.end = ReadingEnd::kStopped;
   const Stopwatch stopwatch(report.duration);

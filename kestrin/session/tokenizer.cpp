@@ -9,7 +9,7 @@
 namespace kestrin {
 namespace {
 
-/// A character that the string does not hold, to stand for a longer delimiter; empty when it holds them all.
+/// A character that does not occur in the string, to replace a longer delimiter; empty if all of them occur.
 std::string Placeholder(std::string_view string) {
   constexpr std::string_view kCandidates = "!@#$%^";
   const auto* found = std::find_if(kCandidates.begin(), kCandidates.end(),

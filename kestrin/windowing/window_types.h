@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The windowing system's types and numbers, as far as an import and its host need them.
+/// The windowing system's types and constants that imports and hosts need.
 
 #include <cstdint>
 
@@ -10,7 +10,7 @@
 namespace kestrin {
 
 ///@{
-/// A number of the windowing system.
+/// An integer type of the windowing system.
 using BOOL = int;
 using UINT = unsigned;
 using WPARAM = std::uintptr_t;
@@ -19,8 +19,8 @@ using LRESULT = std::intptr_t;
 ///@}
 
 ///@{
-/// What a BOOL is: 0, or not 0. Many C headers define macros with these names and values, and a host may
-/// include them first; then the macros do instead.
+/// A value of a BOOL. Any value other than FALSE means true. Many C headers define macros with these names and
+/// values; where a host includes one of those first, the macros are used.
 #ifndef FALSE
 inline constexpr BOOL FALSE = 0;
 #endif
@@ -30,38 +30,38 @@ inline constexpr BOOL TRUE = 1;
 ///@}
 
 class WindowHandle;
-/// Names a window. A handle is never used twice; one whose window is gone names nothing.
+/// Identifies a window. Handles are never reused: after a window is destroyed its handle identifies none.
 using HWND = WindowHandle*;
 
-/// A message that waits in, or was taken from, a thread's queue.
+/// A message in a thread's queue.
 struct MSG {
-  HWND hwnd;     ///< the window that it is for
-  UINT message;  ///< its number
+  HWND hwnd;     ///< the receiving window
+  UINT message;  ///< the message number, such as PBM_SETPOS
   ///@{
-  /// What the number gives a meaning to.
+  /// An argument; its meaning depends on the message number.
   WPARAM wParam;
   LPARAM lParam;
   ///@}
 };
 
 ///@{
-/// Whether PeekMessageA leaves the message in the queue or takes it out.
+/// A flag of PeekMessageA: leave the message in the queue, or remove it.
 inline constexpr UINT PM_NOREMOVE = 0;
 inline constexpr UINT PM_REMOVE = 1;
 ///@}
 
-/// The first message number that is free for applications.
+/// The first message number that applications may use for their own messages.
 inline constexpr UINT WM_USER = 0x400;
-/// Moves a progress bar to the position in wParam.
+/// Sets a progress bar to the position in wParam.
 inline constexpr UINT PBM_SETPOS = WM_USER + 2;
 
 ///@{
-/// The style of a message box: with one button, with the sign of a warning.
+/// A style of a message box: an OK button only, or a warning sign.
 inline constexpr UINT MB_OK = 0x00;
 inline constexpr UINT MB_ICONWARNING = 0x30;
 ///@}
 
-/// The number of the button of a box that has but one.
+/// The result of a message box: the OK button.
 inline constexpr int IDOK = 1;
 
 }  // namespace kestrin

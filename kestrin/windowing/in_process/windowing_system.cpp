@@ -20,7 +20,7 @@ const std::shared_ptr<MessageQueue>& WindowingSystem::QueueOfThisThread() {
 
 HWND WindowingSystem::Register(CWnd* window, HWND parent) {
   const std::lock_guard lock(mutex_);
-  // NOLINTNEXTLINE(performance-no-int-to-ptr): a handle is a number that is never followed
+  // NOLINTNEXTLINE(performance-no-int-to-ptr): a handle is a number and never dereferenced
   const auto handle = reinterpret_cast<HWND>(++lastHandle_);
   windows_.emplace(handle, Entry{window, parent, QueueOfThisThread()});
   return handle;

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The in-process windowing system: which windows there are, and the threads' message queues.
+/// The in-process windowing system: the table of windows and the threads' message queues.
 
 #include <algorithm>
 #include <atomic>
@@ -18,16 +18,16 @@ namespace kestrin {
 
 class CWnd;
 
-/// The messages that wait for one thread. Any thread may post; only its own takes.
+/// The message queue of a thread. Any thread may post; only the owning thread takes.
 class MessageQueue {
  public:
   void Post(const MSG& message);
-  /// The first waiting message that the filter accepts.
+  /// Returns the first message that the filter accepts.
   template <class Filter>
   [[nodiscard]] std::optional<MSG> Take(bool remove, Filter accepts);
 
  private:
-  std::atomic<bool> waiting_ = false;  // lets the owner see an empty queue without the lock
+  std::atomic<bool> waiting_ = false;  // lets the owner find the queue empty without locking
   std::mutex mutex_;
   std::deque<MSG> messages_;
 };
@@ -44,7 +44,7 @@ std::optional<MSG> MessageQueue::Take(bool remove, Filter accepts) {
   return message;
 }
 
-/// All windows of the process. Safe to use from any thread.
+/// The windows of the process. May be used from any thread.
 class WindowingSystem {
  public:
   static WindowingSystem& Instance();
