@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Where the strict reader takes a file from.
+/// The input of the strict reader.
 
 #include <cstddef>
 #include <functional>
@@ -10,7 +10,11 @@
 
 namespace kestrin {
 
-/// Reads up to that many bytes of a file to a place and returns how many; 0 at the end of the file.
+/// Copies up to size bytes of the input to bytes and returns how many it copied; 0 means the end of the
+/// input.
+///
+///     ByteSource source = [file](char* bytes, std::size_t size) { return std::fread(bytes, 1, size, file);
+///     };
 using ByteSource = std::function<std::size_t(char* bytes, std::size_t size)>;
 
 }  // namespace kestrin

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Who hears of syntax errors while a file is still read.
+/// Receiving syntax errors during a parse.
 
 #include <functional>
 
@@ -9,7 +9,7 @@
 
 namespace kestrin {
 
-/// Called with every error that is reported, when the parser notices it.
+/// Called with each reported error as soon as the parser detects it.
 using ErrorListener = std::function<void(const SyntaxError&)>;
 
 }  // namespace kestrin

@@ -7,7 +7,7 @@
 namespace kestrin {
 namespace {
 
-/// Without any apostrophe, wherever it stands.
+/// Removes every apostrophe of the text, not only those around it.
 CString Unquoted(CString text) {
   text.Remove('\'');
   return text;
@@ -208,7 +208,7 @@ bool ModelBuilder::HasNamesOf(const CMTracesFIL& fill, const CMTracesArea& area)
   return fill.m_sName1 == area.m_sName1 && fill.m_sName2 == area.m_sName2;
 }
 
-ModelBuilder::Record<CMTracesFIL> ModelBuilder::MakeFillFor(const CMTracesArea& area) {
+ModelBuilder::Owned<CMTracesFIL> ModelBuilder::MakeFillFor(const CMTracesArea& area) {
   auto fill = records_.Make<CMTracesFIL>();
   fill->m_sName1 = area.m_sName1;
   fill->m_sName2 = area.m_sName2;

@@ -17,8 +17,8 @@ ByteSource BlocksOf(std::FILE* file) {
   return [file](char* bytes, std::size_t size) { return std::fread(bytes, 1, size, file); };
 }
 
-/// Lines one by one: whoever writes them may wait for what the parser has to say, and what a parse leaves
-/// unread may be meant for others.
+/// Reads one line at a time. A program that writes the lines may be waiting for an error message, and lines
+/// that a parse leaves unread may be meant for others.
 std::size_t ReadLineOfStandardInput(char* bytes, std::size_t size) {
   std::size_t count = 0;
   while (count < size) {
@@ -30,18 +30,18 @@ std::size_t ReadLineOfStandardInput(char* bytes, std::size_t size) {
   return count;
 }
 
-/// An open file, read as far as its parses came.
+/// An open file with its parser, which reads ahead of what is parsed.
 struct ParsedFile {
   explicit ParsedFile(FileHandle opened) : file(std::move(opened)), parser(BlocksOf(file.get())) {}
   FileHandle file;
   TracesParser parser;
 };
 
-/// What all parsers of the process share.
+/// The state that all objects of the class share.
 struct SharedState {
   TracesParser standardInput{ReadLineOfStandardInput};
   std::optional<ParsedFile> file;
-  CMTraces* traces = nullptr;  // the caller's from the moment it is made
+  CMTraces* traces = nullptr;  // owned by the caller
   CString error;
   std::int64_t line = 0;
 };

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The strict reader of the Traces file as hosts know it.
+/// The strict reader of the Traces file as a class with shared state. New code should use ParseStrictly.
 
 #include "kestrin/base/export.h"
 #include "kestrin/framework/string.h"
@@ -10,51 +10,60 @@ namespace kestrin {
 
 class CMTraces;
 
-/// Reads a Traces file by its grammar: checks the order of its records and the form of every value, which the
+/// Reads a Traces file by its grammar: checks the order of the records and the form of every value, which the
 /// import session does not.
 ///
-/// Use: construct with a path; Parse; GetTraces and GetError; Close.
+///     char path[] = "board.traces";
+///     MPTracesParser parser(path);
+///     if (parser.Parse() == 0) {
+///       std::unique_ptr<CMTraces> traces(parser.GetTraces());
+///       …
+///     }
+///     parser.Close();
 ///
-/// All objects share one state, the process's: the input and how far it was read, the model, the error text,
-/// the line. So one parse may run at a time, and its results hold until the next. A syntax error is also
-/// written to standard error, at the moment when it is noticed.
+/// All objects of the class share the same state, for the whole process: the input and the position in it,
+/// the model, the error text and the line. So only one parse may run at a time, and its results are valid
+/// until the next. Each syntax error is also printed to standard error as soon as it is detected.
+/// ParseStrictly has none of these restrictions.
 class KESTRIN_EXPORT MPTracesParser {
  public:
   MPTracesParser();
-  /// As SetFile.
+  /// Calls SetFile.
   MPTracesParser(char* file);
   ///@{
-  /// There is nothing to copy: all objects share one state.
+  /// Copies nothing: all objects share the same state.
   MPTracesParser(const MPTracesParser&);
   MPTracesParser(MPTracesParser&&) noexcept;
   MPTracesParser& operator=(const MPTracesParser&);
   MPTracesParser& operator=(MPTracesParser&&) noexcept;
   ///@}
 
-  /// Opens a file, closing the one that is open. The next parse begins at its beginning, whatever the last
-  /// one left unread. Where none can be opened, Parse reads standard input.
+  /// Closes the open file, if any, and opens this one; the next parse starts at its beginning. If the file
+  /// cannot be opened, the parser silently reads standard input.
   void SetFile(char* file);
 
-  /// Reads the input to its end, unless there is an error that nothing can be resumed after. Then the next
-  /// parse goes on after the token that is wrong there: it makes a model of its own and counts lines from
-  /// there. Returns 0 when the input was accepted, perhaps with errors that the parser resumed after; 1 when
-  /// it was not; 2 when memory or a limit of the parser ended the parse, and what was read ahead is lost.
+  /// Reads the input up to its end or to an error that the parser cannot resume after.
   ///
-  /// Standard input is read line by line: an error is noticed when its line has come, and the lines after one
-  /// that ended the parse are still there to be read. It keeps its place while a file is open.
+  /// Returns 0 if the input was accepted, perhaps with syntax errors that the parser resumed after. Returns 1
+  /// if the parser had to give up: the next Parse then continues after the wrong token, with a new model and
+  /// a line count that starts there. Returns 2 if memory or a limit of the parser was exhausted: what was
+  /// read ahead is lost.
+  ///
+  /// Standard input is read line by line. So an error is detected as soon as its line has arrived, and lines
+  /// after the one at which the parser gave up are left to be read. Opening a file does not lose the position
+  /// in standard input.
   int Parse();
 
-  /// The model of the last parse that came as far as the units line, whatever it returned; null when none
-  /// did. It belongs to the caller: nothing here deletes it, nor does a later parse that makes another. After
-  /// a parse that did not come so far it is still an earlier one's, which its owner may have deleted; a parse
-  /// that returned 0 has made its own.
+  /// The model of the last parse that read a units line, whatever Parse returned; null if none did. You own
+  /// it: nothing here deletes it. If the last parse stopped before the units line, this is still an earlier
+  /// model, which you may have deleted already. A parse that returned 0 always has its own.
   CMTraces* GetTraces();
-  /// The error that the last parse reported last, empty when it reported none.
+  /// The last error of the last parse; empty if there was none.
   CString GetError();
-  /// How many line ends the last parse has read.
+  /// The number of line ends that the last parse read, at most the largest int.
   int GetCurrentLineNum();
 
-  /// Closes the file, if one is open.
+  /// Closes the open file, if any. Further parses read standard input.
   void Close();
 };
 

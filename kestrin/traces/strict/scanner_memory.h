@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The memory of the strict scanner's automaton.
+/// The memory of the generated scanner.
 
 #include <array>
 #include <cstddef>
@@ -11,18 +11,19 @@
 
 namespace kestrin {
 
-/// The scanner cannot go on: its memory, or a text that is too long for it.
+/// The scanner cannot continue: out of memory, or a text is too long.
 class ScannerError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
 
-/// Owns all that the automaton takes: an exception may leave the automaton half made, and it would lose it.
+/// Owns every block that the automaton allocates. The automaton itself would leak them if an exception
+/// interrupted it.
 class ScannerMemory {
  public:
-  /// Null when there is none.
+  /// Returns null if memory is exhausted.
   [[nodiscard]] void* Allocate(std::size_t size);
-  /// Raises ScannerError when there is none, or when the text in the buffer is too long.
+  /// Raises ScannerError if memory is exhausted or the text in the buffer is too long.
   [[nodiscard]] void* Reallocate(void* bytes, std::size_t size);
   void Free(void* bytes);
 
@@ -35,7 +36,7 @@ class ScannerMemory {
 
   [[nodiscard]] Block& BlockAt(const void* bytes);
 
-  std::array<Block, 8> blocks_{};  // the automaton itself, its buffer, and a little around it
+  std::array<Block, 8> blocks_{};  // the automaton needs fewer: itself, its buffer, and some housekeeping
 };
 
 }  // namespace kestrin

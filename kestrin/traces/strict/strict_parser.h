@@ -1,8 +1,8 @@
 #pragma once
 
 /// @file
-/// Reading a Traces file by its grammar: what the line reader takes as it comes, this reader takes only in
-/// the order and the form that the grammar gives it, and says where a file breaks it.
+/// The strict reader of the Traces file. Unlike the import session, which reads lines in any order, it
+/// accepts records only in the order and form of the grammar, and reports each place that breaks it.
 
 #include <cstdint>
 #include <memory>
@@ -18,22 +18,29 @@ namespace kestrin {
 
 /// How a parse ended.
 enum class ParseResult : std::uint8_t {
-  kAccepted,   ///< the file was read to its end, perhaps with errors that the parser resumed behind
-  kRejected,   ///< the parser found no place to resume at behind an error
-  kExhausted,  ///< memory or a limit of the parser ended the parse
+  kAccepted,   ///< the file was read to its end, perhaps with errors that the parser resumed after
+  kRejected,   ///< the parser gave up: it found no place to resume after an error
+  kExhausted,  ///< memory or a limit of the parser was exhausted
 };
 
-/// What a parse leaves.
+/// The result of a parse.
 struct StrictParse {
-  std::unique_ptr<CMTraces> traces;  ///< as far as it was read; null when that is not behind the units line
+  std::unique_ptr<CMTraces> traces;  ///< the model as far as it was read; null before the units line
   ParseResult result = ParseResult::kAccepted;  ///< how the parse ended
-  std::string error;                ///< the error reported last, as hosts show it; empty without one
-  std::int64_t line = 0;            ///< the number of line ends read
-  std::vector<SyntaxError> errors;  ///< all errors reported, in file order
+  std::string error;                            ///< the last error as a message; empty if there is none
+  std::int64_t line = 0;                        ///< the number of line ends read
+  std::vector<SyntaxError> errors;              ///< all reported syntax errors, in file order
 };
 
-/// Parses one file. Prints nothing and shares nothing: any number of parses may run at a time. Exceptions of
-/// the source pass through.
+/// Parses one file.
+///
+///     StrictParse parse = ParseStrictly(source);
+///     for (const SyntaxError& error : parse.errors) {
+///       std::cerr << "line " << error.line + 1 << ": " << error.Describe() << '\n';
+///     }
+///
+/// Prints nothing. May be called on several threads at once. Exceptions of the source pass through; if memory
+/// is exhausted, the result is kExhausted.
 [[nodiscard]] KESTRIN_EXPORT StrictParse ParseStrictly(ByteSource source);
 
 }  // namespace kestrin

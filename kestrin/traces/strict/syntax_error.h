@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// What the strict reader says of a place in a file that the grammar does not allow.
+/// A syntax error of a Traces file.
 
 #include <bitset>
 #include <cstdint>
@@ -11,14 +11,14 @@
 
 namespace kestrin {
 
-/// A token that cannot stand where it does.
+/// A token that the grammar does not allow where it appears.
 struct SyntaxError {
-  std::int64_t line = 0;     ///< the number of line ends before the token
-  int found = 0;             ///< the kind of the token, as the grammar counts them
-  std::string text;          ///< its text, up to 255 bytes
-  std::bitset<64> expected;  ///< the kinds that can stand there
+  std::int64_t line = 0;  ///< the number of line ends before the token: its line number less one
+  int found = 0;     ///< the kind of the token, as a symbol number of the grammar; 0 is the end of the file
+  std::string text;  ///< the first 255 bytes of the token's text
+  std::bitset<64> expected;  ///< the kinds of token that the grammar allows there
 
-  /// What was found and what was expected, in words.
+  /// What was found and what was expected: "found a real number (3.5), expected a whole number".
   [[nodiscard]] KESTRIN_EXPORT std::string Describe() const;
 };
 

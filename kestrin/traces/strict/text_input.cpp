@@ -31,7 +31,7 @@ bool TextInput::ReadBlock() {
   return !rest_.empty();
 }
 
-/// What is left at the end of the file, after so many characters; there is room for one more.
+/// Called at the end of the file with count characters taken and room for at least one more.
 std::size_t TextInput::TakeEnd(char* text, std::size_t count) {
   if (std::exchange(returnWaits_, false)) text[count++] = '\r';
   endIsKnown_ = count > 0;

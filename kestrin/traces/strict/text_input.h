@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The characters of a text file as the scanner takes them.
+/// The input of the scanner, prepared from the bytes of a file.
 
 #include <cstddef>
 #include <string>
@@ -14,22 +14,22 @@
 
 namespace kestrin {
 
-/// Takes blocks from a source, removes every carriage return that stands directly before a line feed, and
-/// escapes zero bytes.
+/// Reads blocks from a source, removes each carriage return that directly precedes a line feed, and escapes
+/// zero bytes.
 class TextInput {
  public:
   explicit TextInput(ByteSource source) : source_(std::move(source)) {}
   TextInput(const TextInput&) = delete;
   TextInput& operator=(const TextInput&) = delete;
 
-  /// As many characters as there is room for; fewer at the end of the file, and where the source's block and
-  /// a line end together: the next line may be long in coming. After it has returned 0 it asks the source
-  /// anew.
+  /// Fills text with up to size characters and returns how many; 0 at the end of the file. Returns early if a
+  /// block of the source ends with a line, because the next line may take long to arrive. A call after the
+  /// end asks the source again.
   [[nodiscard]] std::size_t Read(char* text, std::size_t size);
 
-  /// Whether texts may differ from what the file has.
+  /// Whether the text of a token may contain escapes.
   [[nodiscard]] bool HasEscapes() const { return escapesSeen_; }
-  /// A token's text as the file has it, up to so many bytes.
+  /// The first bytes of a token's text, without escapes.
   [[nodiscard]] std::string Original(std::string_view text, std::size_t longest) const {
     return escapesSeen_ ? ZeroEscapes::Undone(text, longest) : std::string(text.substr(0, longest));
   }
@@ -41,10 +41,10 @@ class TextInput {
 
   ByteSource source_;
   std::vector<char> block_;
-  std::string escaped_;       // the block, where it needs escapes
-  std::string_view rest_;     // of either, not taken yet
-  bool returnWaits_ = false;  // a carriage return was taken, and what follows it is not known yet
-  bool endIsKnown_ = false;   // the source has ended, and that is not told yet
+  std::string escaped_;       // the block with escapes, if it needs any
+  std::string_view rest_;     // the part of either that has not been read yet
+  bool returnWaits_ = false;  // a carriage return is held back until the next character is known
+  bool endIsKnown_ = false;   // the source has ended, but no call has returned 0 yet
   bool escapesSeen_ = false;
 };
 

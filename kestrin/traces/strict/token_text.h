@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The texts that tokens of a Traces file carry from the scanner to the grammar.
+/// The texts of tokens, between scanner and parser.
 
 #include <algorithm>
 #include <array>
@@ -11,10 +11,10 @@
 
 namespace kestrin {
 
-/// A text on the parser's stack, which copies it more than once: a reference to one in TokenTexts.
+/// A reference to a text in TokenTexts. It is small because the parser copies the values on its stack often.
 class TokenText {
  public:
-  /// The longest one; the rest of a longer text is passed over.
+  /// Longer texts are cut to this length.
   static constexpr std::size_t kLongest = 255;
 
   operator std::string_view() const { return {place_->bytes.data(), place_->size}; }
@@ -29,11 +29,11 @@ class TokenText {
   const Place* place_;
 };
 
-/// Texts of tokens, for as long as a rule needs them: the scanner's buffer moves on before a rule is
-/// complete.
+/// A ring buffer for the texts of tokens. A rule needs its texts until it is complete; the scanner overwrites
+/// its own buffer before that.
 class TokenTexts {
  public:
-  /// A copy of the beginning of a text, which stays until as many others were kept as there is room for.
+  /// Copies a text, cut to TokenText::kLongest. The copy is overwritten when the ring comes round.
   [[nodiscard]] TokenText Keep(std::string_view text) {
     const auto kept = text.substr(0, TokenText::kLongest);
     TokenText::Place& place = places_[next_++ % places_.size()];
@@ -45,7 +45,7 @@ class TokenTexts {
   }
 
  private:
-  std::array<TokenText::Place, 16> places_{};  // rules have up to 6 texts, and there is the next token
+  std::array<TokenText::Place, 16> places_{};  // enough: a rule has up to 6 texts, plus a look-ahead token
   std::size_t next_ = 0;
 };
 

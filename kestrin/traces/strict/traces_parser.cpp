@@ -30,7 +30,7 @@ ParseResult ParseTokens(TracesScanner& scanner, ModelBuilder& model, const Error
 StrictParse TracesParser::Parse(const ErrorListener& listener) {
   StrictParse parse;
   ModelBuilder model;
-  // Put back at the end, unless an exception has left it half done.
+  // Moved back at the end, unless an exception left it in an undefined state.
   std::unique_ptr<TracesScanner> scanner = std::move(scanner_);
   const auto keep = [&](const SyntaxError& error) {
     if (listener) listener(error);

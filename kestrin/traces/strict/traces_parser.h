@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The strict reader as an object: an input that may be parsed more than once.
+/// The strict reader as an object that can parse its input in several steps.
 
 #include <memory>
 #include <utility>
@@ -13,27 +13,27 @@
 
 namespace kestrin {
 
-/// Parses one input. A parse that gives up leaves the rest of it to the next, which goes on after the last
-/// token:
+/// Parses one input. If a parse gives up, the next one continues with the rest, after the wrong token:
 ///
 ///     TracesParser parser(source);
 ///     StrictParse parse = parser.Parse();
 ///     if (parse.result == ParseResult::kRejected) parse = parser.Parse();
 ///
-/// Once the input has ended, a parse asks the source anew. Once memory, a limit or an exception has ended a
-/// parse, what was read ahead is lost.
+/// After the end of the input, a further parse asks the source again. After a parse that ended with an
+/// exception or with kExhausted, what was read ahead is lost.
 class TracesParser {
  public:
   explicit TracesParser(ByteSource source) : source_(std::move(source)) {}
   TracesParser(const TracesParser&) = delete;
   TracesParser& operator=(const TracesParser&) = delete;
 
-  /// Counts lines from where it begins. Exceptions of the source pass through.
+  /// Parses the input from the current position; lines are counted from there. Calls the listener with each
+  /// error. Exceptions of the source pass through.
   [[nodiscard]] StrictParse Parse(const ErrorListener& listener = {});
 
  private:
   ByteSource source_;
-  std::unique_ptr<TracesScanner> scanner_;  // none until a parse needs one
+  std::unique_ptr<TracesScanner> scanner_;  // null before the first parse, and when one was interrupted
 };
 
 }  // namespace kestrin

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The scanner of the strict reader: turns the characters of a Traces file into the tokens of its grammar.
+/// The scanner of the strict reader: splits a Traces file into tokens.
 
 #include <cstdint>
 #include <string>
@@ -14,30 +14,30 @@
 
 namespace kestrin {
 
-/// Scans one file. Line ends are no tokens; the scanner counts them.
+/// Scans one file. Line ends are not tokens; the scanner counts them. If Next raises an exception, the
+/// scanner can no longer be used.
 class TracesScanner {
  public:
-  /// The scanner is of no more use once an exception has come out of Next.
   explicit TracesScanner(ByteSource source);
   TracesScanner(const TracesScanner&) = delete;
   TracesScanner& operator=(const TracesScanner&) = delete;
 
-  /// Counts lines anew, and takes an ARE for one before the first FIL again. What was read ahead and the
-  /// condition that the last token has left stay.
+  /// Resets the line count, and expects areas before the first fill again. Keeps the start condition and what
+  /// was read ahead.
   void StartParse();
 
-  /// The next token's number, 0 at the end of the file; its value is put into the place given. A text stays
-  /// while the rule that it belongs to is read. After the end it goes on with what the source gives then.
+  /// Returns the number of the next token, 0 at the end of the file, and stores its value. A text is valid
+  /// until the rule that it belongs to is complete. After the end, asks the source again.
   [[nodiscard]] int Next(TracesGrammar::value_type& value);
 
-  /// The text of the token read last as the file has it, up to 255 bytes; empty at the end of the file.
+  /// The first 255 bytes of the last token's text, as in the file; empty at the end of the file.
   [[nodiscard]] std::string Text() const;
-  /// How many line ends this parse has read so far.
+  /// The number of line ends read since StartParse.
   [[nodiscard]] std::int64_t LineEnds() const { return state_.lineEnds; }
 
-  /// What the rules read and write.
+  /// What the scanner's rules use.
   struct State {
-    /// A token's text up to its first zero byte.
+    /// Keeps a token's text up to its first zero byte.
     [[nodiscard]] TokenText Keep(std::string_view matched) {
       return input.HasEscapes() ? KeepOriginal(matched) : texts.Keep(matched);
     }
@@ -47,8 +47,8 @@ class TracesScanner {
     TokenTexts texts;
     ScannerMemory memory;
     std::int64_t lineEnds = 0;
-    bool fillSeen = false;  // an ARE behind the first FIL belongs to a fill
-    bool opened = false;    // an opening parenthesis was seen on this line
+    bool fillSeen = false;  // an ARE after the first FIL belongs to a fill
+    bool opened = false;    // this line has had an opening parenthesis
   };
 
  private:

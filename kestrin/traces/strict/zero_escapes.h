@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// How zero bytes of a file come through the scanner.
+/// Escapes for zero bytes, which the scanner handles slowly.
 
 #include <cstddef>
 #include <string>
@@ -9,19 +9,20 @@
 
 namespace kestrin {
 
-/// The scanner's automaton marks the end of its buffer with a zero byte. Where it finds one that is the
-/// file's, it goes through the text around it again from the start: quadratic time. So a zero byte passes the
-/// scanner as two other bytes, and so does the byte that begins such a pair.
+/// Replaces a zero byte by the pair 01 02, and a byte 01 by the pair 01 01.
 ///
-/// No token changes by that: all three bytes are of the many that the scanner either skips, one or two
-/// alike, or takes in runs of any length.
+/// Why? The automaton marks the end of its buffer with a zero byte. When it meets a zero byte of the file, it
+/// scans the text before it again: quadratic time.
+///
+/// Why does that not change the tokens? The bytes 0, 1 and 2 are among those that the scanner either skips,
+/// be it one or two, or accepts in runs of any length.
 class ZeroEscapes {
  public:
   [[nodiscard]] static bool AreNeededIn(std::string_view bytes) {
     return Has(bytes, kZero) || Has(bytes, kLead);
   }
 
-  /// Appends bytes of a file in the form in which they pass the scanner.
+  /// Appends bytes of a file with escapes.
   static void Append(std::string& escaped, std::string_view bytes) {
     for (const char byte : bytes) {
       if (byte == kZero || byte == kLead) escaped += kLead;
@@ -29,7 +30,7 @@ class ZeroEscapes {
     }
   }
 
-  /// The bytes of the file that a token's text was made from, up to so many.
+  /// Removes the escapes from a token's text and returns the first bytes, at most longest.
   [[nodiscard]] static std::string Undone(std::string_view escaped, std::size_t longest) {
     std::string bytes;
     for (std::size_t i = 0; i < escaped.size() && bytes.size() < longest; ++i) {
