@@ -1,8 +1,8 @@
 #pragma once
 
 /// @file
-/// The graphics of a geometry: paths, polygons, arcs and circles on named layers, in the unit of their
-/// geometry.
+/// The drawing objects of a geometry: paths, polygons, arcs and circles. Lengths are in the unit of the
+/// geometry. Coordinate lists are flat: x, y, x, y, …
 
 #include "kestrin/base/export.h"
 #include "kestrin/framework/string.h"
@@ -12,7 +12,9 @@
 
 namespace kestrin {
 
-/// What all drawing objects have in common. Hosts tell the kinds apart by m_sType.
+/// The base class of drawing objects. Look at m_sType to find out which one you have:
+///
+///     if (object->m_sType == "LINE") Draw(static_cast<const CMGeomPath&>(*object));
 class KESTRIN_EXPORT CMGeomDrawObj : public PooledRecord {
  public:
   CMGeomDrawObj() = default;
@@ -23,40 +25,40 @@ class KESTRIN_EXPORT CMGeomDrawObj : public PooledRecord {
   CString m_sType;  ///< "LINE", "POLYGON", "ARC" or "CIRCLE"; empty in the base class
 
  protected:
-  /// An object of a kind.
+  /// Sets m_sType.
   explicit CMGeomDrawObj(const char* type) : m_sType(type) {}
 };
 
-/// An open polyline drawn with a pen.
+/// An open polyline drawn with a pen: "LINE".
 class KESTRIN_EXPORT CMGeomPath : public CMGeomDrawObj, private OwnedLists<1> {
  public:
   CMGeomPath() : CMGeomDrawObj("LINE") {}
   ~CMGeomPath() override;
 
-  CString m_sLayer;                     ///< as the file names it
-  double m_dWidth = 0.0;                ///< of the pen
-  NumberArray* m_pCoords = MakeList();  ///< flat
+  CString m_sLayer;                     ///< the name of the layer in the file
+  double m_dWidth = 0.0;                ///< the width of the pen
+  NumberArray* m_pCoords = MakeList();  ///< coordinates of the points
 };
 
-/// A closed outline.
+/// A closed outline: "POLYGON".
 class KESTRIN_EXPORT CMGeomPolygon : public CMGeomDrawObj, private OwnedLists<1> {
  public:
   CMGeomPolygon() : CMGeomDrawObj("POLYGON") {}
   ~CMGeomPolygon() override;
 
-  CString m_sLayer;                     ///< as the file names it
-  NumberArray* m_pCoords = MakeList();  ///< flat
+  CString m_sLayer;                     ///< the name of the layer in the file
+  NumberArray* m_pCoords = MakeList();  ///< coordinates of the corners
 };
 
-/// An arc given by three pairs of coordinates.
+/// An arc given by three pairs of coordinates: "ARC".
 class KESTRIN_EXPORT CMGeomArc : public CMGeomDrawObj {
  public:
   CMGeomArc() : CMGeomDrawObj("ARC") {}
   ~CMGeomArc() override;
 
-  CString m_sLayer;  ///< as the file names it
+  CString m_sLayer;  ///< the name of the layer in the file
   ///@{
-  /// One of the three pairs.
+  /// A coordinate of one of the three pairs.
   double m_dX1 = 0.0;
   double m_dY1 = 0.0;
   double m_dX2 = 0.0;
@@ -65,24 +67,27 @@ class KESTRIN_EXPORT CMGeomArc : public CMGeomDrawObj {
   double m_dY3 = 0.0;
   ///@}
 
-  double m_dWidth = 0.0;  ///< of the pen
-  int m_nArcMode = 0;     ///< how the third pair is meant: 0 not said, 1 "@radius", 2 "@center"
+  double m_dWidth = 0.0;  ///< the width of the pen
+  int m_nArcMode = 0;     ///< what the third pair means: 0 not given, 1 "@radius", 2 "@center"
 };
 
-/// A full circle.
+/// A full circle: "CIRCLE".
 class KESTRIN_EXPORT CMGeomCircle : public CMGeomDrawObj {
  public:
   CMGeomCircle() : CMGeomDrawObj("CIRCLE") {}
   ~CMGeomCircle() override;
 
-  CString m_sLayer;       ///< as the file names it
-  double m_dX = 0.0;      ///< the centre
-  double m_dY = 0.0;      ///< the centre
-  double m_dSize = 0.0;   ///< as the file has it
-  double m_dWidth = 0.0;  ///< of the pen
+  CString m_sLayer;  ///< the name of the layer in the file
+  ///@{
+  /// A coordinate of the centre.
+  double m_dX = 0.0;
+  double m_dY = 0.0;
+  ///@}
+  double m_dSize = 0.0;   ///< the size, value 4 of the line
+  double m_dWidth = 0.0;  ///< the width of the pen
 };
 
-/// Drawing objects in file order. The array deletes them when it is destroyed.
+/// A list of drawing objects in file order. It deletes them when it is destroyed.
 class KESTRIN_EXPORT CMGeomDrawObjArray : public Owning<RecordArray<CMGeomDrawObj>> {};
 
 }  // namespace kestrin

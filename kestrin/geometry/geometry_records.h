@@ -1,8 +1,8 @@
 #pragma once
 
 /// @file
-/// The small records that geometries are made of. All lengths are in the unit of their geometry; members
-/// named spare or unset are there for the host's sake, and nothing fills them.
+/// The records that geometries consist of. Lengths are in the unit of the geometry. Coordinate lists are
+/// flat: x, y, x, y, … Members named spare or unset are never filled; they keep the layout that hosts expect.
 
 #include <cstdint>
 
@@ -13,10 +13,10 @@
 
 namespace kestrin {
 
-/// A geometry placed on another; the members are the arguments of its line.
+/// A geometry placed on another: a $$add line.
 class CMGeomAdd : public PooledRecord {
  public:
-  CString m_sArg0;       ///< value 1 of its line
+  CString m_sArg0;       ///< value 1 of the line
   double m_dArg1 = 0.0;  ///< value 2
   double m_dArg2 = 0.0;  ///< value 3
   CString m_sArg3;       ///< value 4
@@ -25,63 +25,63 @@ class CMGeomAdd : public PooledRecord {
   int m_nArg6 = 0;       ///< value 7
 };
 
-/// An area that something has to keep out of.
+/// A keep-out area. The list that it is in says what must keep out.
 class CMGeomKeepout : public PooledRecord, private OwnedLists<1> {
  public:
-  CString m_sName;                      ///< value 2 of its line
-  NumberArray* m_pCoords = MakeList();  ///< flat
+  CString m_sName;                      ///< value 2 of the line
+  NumberArray* m_pCoords = MakeList();  ///< coordinates
 };
 
-/// The room that a component or generic part takes.
+/// The area that a component or generic part takes.
 class CMGeomPlacementOutline : public PooledRecord, private OwnedLists<1> {
  public:
-  CString m_sName;                      ///< value 2 of its line
-  NumberArray* m_pCoords = MakeList();  ///< flat
+  CString m_sName;                      ///< value 2 of the line
+  NumberArray* m_pCoords = MakeList();  ///< coordinates
 };
 
-/// An area for placing components.
+/// An area in which components may be placed.
 class CMGeomPlacementRegion : public PooledRecord, private OwnedLists<1> {
  public:
-  CString m_sName;  ///< always empty: lines give no name
+  CString m_sName;  ///< always empty: the line has no name
   std::int64_t m_nUnset1 = 0;
   std::int64_t m_nUnset2 = 0;
   std::int64_t m_nUnset3 = 0;
   CString m_sSpare;
-  NumberArray* m_pCoords = MakeList();  ///< flat
+  NumberArray* m_pCoords = MakeList();  ///< coordinates
 };
 
 /// A drilled hole.
 class CMGeomDrill : public PooledRecord {
  public:
-  double m_dSize = 0.0;  ///< of the hole
+  double m_dSize = 0.0;  ///< the size of the hole
   double m_dUnset = 0.0;
   ///@{
-  /// Where it stands.
+  /// The position of the hole.
   double m_dX = 0.0;
   double m_dY = 0.0;
   ///@}
 };
 
-/// An exception from a component's default padstack; the members are the arguments of its line.
+/// An exception to a component's default padstack.
 class CMGeomOverride : public PooledRecord {
  public:
-  CString m_sArg1;  ///< value 2 of its line
+  CString m_sArg1;  ///< value 2 of the line
   CString m_sArg2;  ///< value 3
   std::int64_t m_nUnset = 0;
 };
 
-/// Where a pin of a component stands.
+/// A pin of a component.
 class CMGeomPinDef : public PooledRecord {
  public:
-  CString m_sName;  ///< of the pin
+  CString m_sName;  ///< the name of the pin
   ///@{
-  /// Where it stands on the component.
+  /// The position of the pin on the component.
   double m_dX = 0.0;
   double m_dY = 0.0;
   ///@}
 };
 
-/// Geometry files make none.
+/// Never created by a reader.
 class CMGeomMechanicalParts {
  public:
   CString m_sSpare1;
@@ -89,7 +89,7 @@ class CMGeomMechanicalParts {
   CString m_sSpare2;
 };
 
-/// Geometry files make none.
+/// Never created by a reader.
 class CMGeomRoutingDirection {
  public:
   CString m_sSpare;

@@ -14,12 +14,12 @@ constexpr std::string_view kBottomLayers[] = {
     "PASTE_MASK_2", "PLACE_2",    "SOLDER_MASK_2", "THERMAL_2",
 };
 
-/// In the order of the anchor numbers, from 1.
+/// In the order of the anchor numbers, starting with 1.
 constexpr std::string_view kJustifications[] = {"@TL", "@TC", "@TR", "@CL", "@CC",
                                                 "@CR", "@BL", "@BC", "@BR"};
 constexpr int kBottomLeft = 7;
 
-/// What the anchors of a text and of the same text upside down add up to.
+/// The sum of the anchor of a text and the anchor of the same text turned by 180 degrees.
 constexpr int kTurnedAnchors = 10;
 
 }  // namespace

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// A text on a geometry, and its conversion to the text conventions of hosts.
+/// A text on a geometry, and its conversion to the host's conventions.
 
 #include "kestrin/base/export.h"
 #include "kestrin/framework/string.h"
@@ -9,39 +9,45 @@
 
 namespace kestrin {
 
-/// A text as the file has it. Hosts read its members and ask for the three values that depend on each other:
-/// mirroring, angle and anchor.
+/// A text as it is in the file. Three of its properties depend on each other; get them together:
+///
+///     int mirror = 0, anchor = 0;
+///     double angle = 0.0;
+///     text->Get_OrvaneTextStyleValue(mirror, angle, anchor);
 class KESTRIN_EXPORT CMGeomText : public PooledRecord {
  public:
-  /// 1 for a layer of the board's bottom side, whatever the case of its name, else 0.
+  /// Returns 1 if the layer is on the board's bottom side, else 0. Ignores the case of the name.
   [[nodiscard]] int IsBottomLayer(CString layerName) const;
 
-  /// Gives the mirror flag (0 or 1), the angle in degrees, not normalised, and the anchor: 1 to 9, row by row
-  /// from top left to bottom right. A text that would read upside down is turned by 180 degrees: its angle
-  /// and its anchor change, the mirror flag does not.
+  /// Gets whether the text is mirrored (0 or 1), its angle in degrees, not normalized, and its anchor: 1 to
+  /// 9, row by row from top left to bottom right. A text that would be upside down is turned by 180 degrees:
+  /// this changes its angle and its anchor, but not the mirroring.
   void Get_OrvaneTextStyleValue(int& mirror, double& angle, int& anchor) const;
 
-  CString m_sLayer;  ///< as the file names it
-  CString m_sText;   ///< what is to be read
+  CString m_sLayer;  ///< the name of the layer in the file
+  CString m_sText;   ///< the text
   ///@{
-  /// The position.
+  /// A coordinate of the position.
   double m_dX = 0.0;
   double m_dY = 0.0;
   ///@}
 
-  double m_dSize = 0.0;      ///< as the file has it
-  CString m_sJustification;  ///< a code like "@CC"; what is no code stands for "@BL"
+  double m_dSize = 0.0;      ///< the size, value 5 of the line
+  CString m_sJustification;  ///< a code such as "@CC"; any other text means "@BL"
   double m_dAngle = 0.0;     ///< in degrees
+  ///@{
+  /// Value N of the line, where N is the number in the name.
   double m_dValue8 = 1.0;
   double m_dValue9 = 0.01;
   CString m_sValue10 = "std";
   CString m_sValue11;
   double m_dValue12 = 0.0;
   double m_dValue13 = 0.0;
-  CString m_sExtra;    ///< never filled
-  CString m_sMirror;   ///< "@Mirror", "@NOMirror" or empty for what is usual on the layer's side
-  CString m_sReading;  ///< never filled; "@RIGHT_READING" or empty when the text may be turned
-  int m_nExtra = 0;    ///< never filled
+  ///@}
+  CString m_sExtra;
+  CString m_sMirror;   ///< "@Mirror" or "@NOMirror"; empty means mirrored on bottom layers only
+  CString m_sReading;  ///< not filled by readers; turning is on if it is empty or "@RIGHT_READING"
+  int m_nExtra = 0;
 
  private:
   [[nodiscard]] int GetMirrorStatus() const;

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// What a Neutral file says of the nets of the selected board.
+/// The nets of a Neutral file.
 
 #include "kestrin/base/export.h"
 #include "kestrin/framework/string.h"
@@ -10,32 +10,34 @@
 
 namespace kestrin {
 
-/// A pin of a net. The component is named, not pointed to.
+/// A pin of a net: `U_2-2` is pin 2 of component U_2.
 class KESTRIN_EXPORT CMRefPin : public PooledRecord {
  public:
-  CString m_sRef;  ///< the component reference: the part of the pin name before its first "-"
-  CString m_sPin;  ///< the part behind it; the whole name when there is no "-"
+  CString m_sRef;  ///< the component's reference: the name before its first "-", empty without one
+  CString m_sPin;  ///< the pin: the name after its first "-", the whole name without one
 };
 
-/// A net property.
+/// A property of a net. Readers create none.
 class KESTRIN_EXPORT CMNetProperty {
  public:
-  CString m_sName;   ///< not filled
-  CString m_sValue;  ///< not filled
+  CString m_sName;   ///< its name
+  CString m_sValue;  ///< its value
 };
 
 /// A net.
 class KESTRIN_EXPORT CMNetInfo : public PooledRecord, private OwnedLists<2> {
  public:
-  CString m_sName;                                         ///< without apostrophes and trailing white space
-  RecordArray<CMRefPin>* m_pPins = MakeList();             ///< in file order
+  CString m_sName;                              ///< its name, without apostrophes and trailing white space
+  RecordArray<CMRefPin>* m_pPins = MakeList();  ///< its pins, in file order
   RecordArray<CMNetProperty>* m_pProperties = MakeList();  ///< always empty
 };
 
-/// The root of a Neutral file's nets.
+/// The root of the nets of a Neutral file.
+///
+///     for (const CMNetInfo* net : *netList->m_pNets) Use(net->m_sName, *net->m_pPins);
 class KESTRIN_EXPORT CMNetList : private OwnedLists<1> {
  public:
-  RecordArray<CMNetInfo>* m_pNets = MakeList();  ///< in file order
+  RecordArray<CMNetInfo>* m_pNets = MakeList();  ///< the nets of the selected board, in file order
 };
 
 }  // namespace kestrin

@@ -1,13 +1,13 @@
 #pragma once
 
 /// @file
-/// The fields of the records of a Neutral file, each said once: name and value, in the order of declaration.
-/// What prints, compares or counts models visits these lists.
+/// The fields of each record of a Neutral file, listed once: names and values, in the order of declaration.
+/// Code that prints, compares or counts models visits these lists:
 ///
 ///     ForEachField(record, [&](const char* name, const auto& value) { … });
 ///
-/// A field is a number, a CString, a record, or a pointer to a list or a record. Members that no reader fills
-/// are left out.
+/// A field is a number, a CString, a record, or a pointer to a list or a record. Most members that no reader
+/// fills are left out.
 
 #include "kestrin/neutral/component_model.h"
 #include "kestrin/neutral/net_model.h"
@@ -15,7 +15,7 @@
 namespace kestrin {
 
 ///@{
-/// Calls field with the name and the value of each field of a record.
+/// Calls field with the name and the value of each field of the record.
 template <class Field>
 void ForEachField(const tagMCOMPDATA& record, Field field) {
   field("m_sValue1", record.m_sValue1);

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// What a Tech file says: the board's physical layer stack-up and its via rules.
+/// The model of a Tech file: the physical layers of the board and the via rules.
 
 #include <memory>
 
@@ -13,7 +13,7 @@
 
 namespace kestrin {
 
-/// A tech pin. Tech files define none; the type stands for the host's sake.
+/// A pin. Tech files have none; the class exists because hosts refer to it.
 class KESTRIN_EXPORT CMTechPin {
  public:
   CMTechPin() = default;
@@ -22,7 +22,7 @@ class KESTRIN_EXPORT CMTechPin {
   virtual ~CMTechPin();
 };
 
-/// One physical layer.
+/// A physical layer.
 class KESTRIN_EXPORT CMTechStackUpOrder {
  public:
   CMTechStackUpOrder() = default;
@@ -30,12 +30,12 @@ class KESTRIN_EXPORT CMTechStackUpOrder {
   CMTechStackUpOrder& operator=(const CMTechStackUpOrder&) = delete;
   virtual ~CMTechStackUpOrder();
 
-  CStringArray m_arrLogicalLayerNames;  ///< logical layers on this physical layer, in file order
-  CString m_sPhysicalLayerName;         ///< argument 2
-  int m_nPhysicalLayerNumber = 0;       ///< argument 1
+  CStringArray m_arrLogicalLayerNames;  ///< the logical layers on this layer: arguments 3 and on
+  CString m_sPhysicalLayerName;         ///< argument 2 of the line
+  int m_nPhysicalLayerNumber = 0;       ///< argument 1 of the line
 };
 
-/// One via rule: the first, second and last argument of its line in the file.
+/// A via rule: the first, second and last argument of its line.
 class KESTRIN_EXPORT CMTechVia {
  public:
   CMTechVia() = default;
@@ -44,21 +44,24 @@ class KESTRIN_EXPORT CMTechVia {
   virtual ~CMTechVia();
 
   CString m_sArg2;     ///< argument 2
-  CString m_sArgLast;  ///< empty when the rule has fewer than three arguments
+  CString m_sArgLast;  ///< the last argument; empty if there are fewer than three
   CString m_sArg1;     ///< argument 1
 };
 
-/// Tech pins; a root's array deletes them with itself.
+/// A list of pins. The list of a root owns its records.
 class KESTRIN_EXPORT CMTechPinArray : public CExPtrArray<CMTechPin*> {};
-/// Physical layers; a root's array deletes them with itself.
+/// A list of physical layers. The list of a root owns its records.
 class KESTRIN_EXPORT CMTechStackupArray : public CExPtrArray<CMTechStackUpOrder*> {};
-/// Via rules; a root's array deletes them with itself.
+/// A list of via rules. The list of a root owns its records.
 class KESTRIN_EXPORT CMTechViaArray : public CExPtrArray<CMTechVia*> {};
 
-/// The root of a Tech file. Copies share the arrays; arrays and records go with the last copy. The pointers
-/// to the arrays are never null.
+/// The root of a Tech file.
+///
+///     for (const CMTechStackUpOrder* layer : *tech->m_pStackupArray) Use(layer->m_sPhysicalLayerName);
+///
+/// Copies share the lists, which are destroyed with the last copy. The pointers to the lists are never null.
 class KESTRIN_EXPORT CMTech {
-  /// What copies share. Members are destroyed last first: the physical layers, the via rules, the pins.
+  /// What copies share. Destroyed from last to first: physical layers, via rules, pins.
   struct Contents {
     Owning<CMTechPinArray> pins;
     Owning<CMTechViaArray> vias;
@@ -72,16 +75,16 @@ class KESTRIN_EXPORT CMTech {
   CMTech& operator=(const CMTech&);
   virtual ~CMTech();
 
-  /// The number of the first layer with exactly this name; 0 when there is none.
+  /// The number of the first layer with this name; 0 if there is none. Names are compared exactly.
   [[nodiscard]] int GetPhysicalLayerNumber(CString physicalLayerName) const;
 
-  /// Replaces the names by the logical layers of the first layer with exactly this name; leaves them as they
-  /// are when there is none.
+  /// Copies the logical layers of the first layer with this name to the array, replacing its contents. If
+  /// there is no such layer, leaves the array unchanged. Names are compared exactly.
   void GetLogicalLayerNamesForPhysicalLayerName(CString physicalLayerName, CStringArray& names) const;
 
   CMTechPinArray* m_pPinArray = &contents_->pins;              ///< always empty
-  CMTechStackupArray* m_pStackupArray = &contents_->stackups;  ///< a record per physical layer, in file order
-  CMTechViaArray* m_pViaArray = &contents_->vias;              ///< a record per via rule, in file order
+  CMTechStackupArray* m_pStackupArray = &contents_->stackups;  ///< the physical layers, in file order
+  CMTechViaArray* m_pViaArray = &contents_->vias;              ///< the via rules, in file order
 };
 
 }  // namespace kestrin

@@ -1,8 +1,8 @@
 #pragma once
 
 /// @file
-/// The records that the routed copper of a net consists of. A field is named after the value of its line that
-/// it keeps: m_dValue5 is value 5, as a double, in the unit that the file names.
+/// The records of a net's routed copper. A field is named after a value of its line: m_dValue5 is value 5, as
+/// a double. Lengths are in the unit of the file, CMTraces::m_sUnits.
 
 #include "kestrin/base/export.h"
 #include "kestrin/framework/string.h"
@@ -11,57 +11,65 @@
 
 namespace kestrin {
 
-/// A SEG line of the last complete WIR, INC or ANT before it.
+/// A SEG line: a segment of a WIR, INC or ANT line.
 class KESTRIN_EXPORT CMTracesSEG : public PooledRecord {
  public:
-  double m_dValue1 = 0.0;
-  double m_dValue2 = 0.0;
-  int m_nValue3 = 0;
-  CString m_sValue4;  ///< empty when value 4 is made of decimal digits only
-  CString m_sValue5;
-  double m_dValue4 = -1.0;  ///< -1 unless value 4 is made of decimal digits only
+  double m_dValue1 = 0.0;   ///< value 1
+  double m_dValue2 = 0.0;   ///< value 2
+  int m_nValue3 = 0;        ///< value 3
+  CString m_sValue4;        ///< value 4; empty if it consists of decimal digits only
+  CString m_sValue5;        ///< value 5
+  double m_dValue4 = -1.0;  ///< value 4; -1 unless it consists of decimal digits only
 };
 
-/// A WIR line, or an ANT line with five values.
+/// A WIR line (a wire), or an ANT line with five values.
 class KESTRIN_EXPORT CMTracesWIRANT : public PooledRecord, private OwnedLists<1> {
  public:
+  ///@{
+  /// Value N of the line, where N is the number in the name.
   int m_nValue1 = 0;
   double m_dValue2 = 0.0;
   double m_dValue3 = 0.0;
   double m_dValue4 = 0.0;
   double m_dValue5 = 0.0;
+  ///@}
   RecordArray<CMTracesSEG>* m_pSegArray = MakeList();  ///< its SEG lines
 };
 
 /// An INC line (an incomplete connection), or an ANT line with seven values.
 class KESTRIN_EXPORT CMTracesINCANT : public PooledRecord, private OwnedLists<1> {
  public:
+  ///@{
+  /// Value N of the line, where N is the number in the name.
   int m_nValue1 = 0;
   double m_dValue2 = 0.0;
   double m_dValue3 = 0.0;
   int m_nValue4 = 0;
   double m_dValue5 = 0.0;
   double m_dValue6 = 0.0;
-  int m_nValue7 = 0;  ///< truncated toward zero when it is written with a fraction
+  ///@}
+  int m_nValue7 = 0;  ///< value 7, truncated toward zero if it has a fraction
   RecordArray<CMTracesSEG>* m_pSegArray = MakeList();  ///< its SEG lines
 };
 
 /// A GUI or a CHG line.
 class KESTRIN_EXPORT CMTracesGUICHG : public PooledRecord {
  public:
+  ///@{
+  /// Value N of the line, where N is the number in the name.
   double m_dValue1 = 0.0;
   double m_dValue2 = 0.0;
   int m_nValue3 = 0;
   double m_dValue4 = 0.0;
   double m_dValue5 = 0.0;
   int m_nValue6 = 0;
+  ///@}
 };
 
-/// A net header line and the records that follow it up to the next. Headers of the same name stay nets of
-/// their own.
+/// A net header line, and the lines that belong to it. Headers with the same name make separate nets.
 class KESTRIN_EXPORT CMTracesNET : public PooledRecord, private OwnedLists<6> {
  public:
-  CString m_sName;                                           ///< without its quotes
+  CString m_sName;                                           ///< its name, without the apostrophes around it
   RecordArray<CMTracesWIRANT>* m_pWirArray = MakeList();     ///< WIR lines
   RecordArray<CMTracesINCANT>* m_pIncArray = MakeList();     ///< INC lines
   RecordArray<CMTracesWIRANT>* m_pAntWirArray = MakeList();  ///< ANT lines with five values

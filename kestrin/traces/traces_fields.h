@@ -1,20 +1,20 @@
 #pragma once
 
 /// @file
-/// The fields of the records of a Traces file, each said once: name and value, in the order of declaration.
-/// What prints, compares or counts models visits these lists.
+/// The fields of each record of a Traces file, listed once: names and values, in the order of declaration.
+/// Code that prints, compares or counts models visits these lists:
 ///
 ///     ForEachField(record, [&](const char* name, const auto& value) { … });
 ///
-/// A field is a number, a CString, a record, or a pointer to a list or a record. Members that no reader fills
-/// are left out.
+/// A field is a number, a CString, a record, or a pointer to a list or a record. Most members that no reader
+/// fills are left out.
 
 #include "kestrin/traces/traces_model.h"
 
 namespace kestrin {
 
 ///@{
-/// Calls field with the name and the value of each field of a record.
+/// Calls field with the name and the value of each field of the record.
 template <class Field>
 void ForEachField(const CMTracesSEG& record, Field field) {
   field("m_dValue1", record.m_dValue1);
