@@ -17,6 +17,10 @@ namespace {
 
 std::string Text(std::string_view view) { return std::string(view); }
 
+std::string CountOfLines(std::int64_t count) {
+  return std::to_string(count) + (count == 1 ? " line" : " lines");
+}
+
 std::vector<SkipCode> CodesIn(const FileReport& file) {
   std::vector<SkipCode> codes;
   for (std::size_t i = 0; i < kSkipCodes.size(); ++i) {
@@ -45,14 +49,15 @@ void PrintLines(const FileReport& file) {
 }
 
 void PrintCounts(const FileReport& file) {
-  std::printf("%s: %" PRId64 " lines read, %" PRId64 " skipped\n", PathToTerminal(file.path).c_str(),
-              file.linesRead, file.Skipped());
+  std::printf("%s: %s read, %" PRId64 " skipped\n", PathToTerminal(file.path).c_str(),
+              CountOfLines(file.linesRead).c_str(), file.Skipped());
   for (const SkipCode code : CodesIn(file)) {
     const SkippedLines& skipped = file.Skipped(code);
     const auto unlisted = skipped.count - static_cast<std::int64_t>(skipped.first.size());
-    std::printf(
-        "  %s: %" PRId64 "%s\n", Text(TextOf(code).name).c_str(), skipped.count,
-        unlisted > 0 ? (" (the first " + std::to_string(skipped.first.size()) + " are listed)").c_str() : "");
+    std::printf("  %s: %" PRId64 "%s\n", Text(TextOf(code).name).c_str(), skipped.count,
+                unlisted > 0
+                    ? (" (only the first " + std::to_string(skipped.first.size()) + " are listed)").c_str()
+                    : "");
   }
 }
 
@@ -123,7 +128,7 @@ void WriteDocument(const std::vector<const FileReport*>& files, const StrictTrac
 int Check(const ExportSet& files, CheckFormat format) {
   files.CheckReadable();
   Imported imported;
-  const std::string stopped = Import(imported, files, StrictReading::kBeside);
+  const std::string stopped = Import(imported, files, StrictReading::kAlso);
   const StrictTraces* strictTraces = imported.strictTraces ? &*imported.strictTraces : nullptr;
   std::vector<const FileReport*> reports;
   for (const FileKind& kind : kFileKinds) {
@@ -137,8 +142,8 @@ int Check(const ExportSet& files, CheckFormat format) {
     if (strictTraces != nullptr) PrintErrors(*strictTraces);
     for (const FileReport* file : reports) PrintCounts(*file);
     if (strictTraces != nullptr) {
-      std::printf("%s: %" PRId64 " lines read strictly, %s\n", PathToTerminal(strictTraces->path).c_str(),
-                  strictTraces->parse.line, Verdict(strictTraces->parse).c_str());
+      std::printf("%s: strict parser: %s read, %s\n", PathToTerminal(strictTraces->path).c_str(),
+                  CountOfLines(strictTraces->parse.line).c_str(), Verdict(strictTraces->parse).c_str());
     }
   }
   if (!stopped.empty()) return FinishOutput(ReportError(stopped, kIncomplete));

@@ -1,8 +1,8 @@
 #pragma once
 
 /// @file
-/// kestrin check: the lines of an export set that an import skips; with --strict, the syntax errors of its
-/// Traces file.
+/// The command `kestrin check`: lists the lines that an import skips and, with --strict, the syntax errors of
+/// the Traces file.
 
 #include "tool/export_set.h"
 
@@ -10,8 +10,8 @@ namespace kestrin::tool {
 
 enum class CheckFormat { kText, kJson };
 
-/// Imports the files and prints their skipped lines and syntax errors. Returns the exit status: success only
-/// when there are none.
+/// Imports the files and prints the skipped lines and syntax errors. Returns the exit status, which is
+/// kSuccess only if there are none.
 [[nodiscard]] int Check(const ExportSet& files, CheckFormat format);
 
 }  // namespace kestrin::tool

@@ -1,11 +1,14 @@
 #pragma once
 
 /// @file
-/// What the tool returns to its caller.
+/// The exit statuses of the tool.
 
 namespace kestrin::tool {
 
-/// All is well; there is something to look at; nothing could be done.
-enum ExitStatus : int { kSuccess = 0, kIncomplete = 1, kUnusable = 2 };
+enum ExitStatus : int {
+  kSuccess = 0,     ///< the command found no problem
+  kIncomplete = 1,  ///< it found problems, or had to stop early
+  kUnusable = 2,    ///< it could not start: wrong usage, or an unreadable file
+};
 
 }  // namespace kestrin::tool

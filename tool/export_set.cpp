@@ -18,15 +18,17 @@ namespace {
 
 namespace fs = std::filesystem;
 
+std::string Quoted(const std::string& path) { return '"' + path + '"'; }
+
 std::vector<std::string> FilesIn(const std::string& folder) {
   std::error_code error;
   fs::directory_iterator entries(folder, error);
-  if (error) throw UsageError(folder + ": " + error.message());
+  if (error) throw UsageError("cannot read folder " + Quoted(folder) + ": " + error.message());
   std::vector<std::string> files;
   for (; entries != fs::directory_iterator() && !error; entries.increment(error)) {
     if (entries->is_regular_file(error)) files.push_back(entries->path().string());
   }
-  if (error) throw UsageError(folder + ": " + error.message());
+  if (error) throw UsageError("cannot read folder " + Quoted(folder) + ": " + error.message());
   std::sort(files.begin(), files.end());
   return files;
 }
@@ -37,11 +39,12 @@ std::string OnlyFileWithEnding(const std::vector<std::string>& files, const File
   std::copy_if(files.begin(), files.end(), std::back_inserter(found),
                [&](std::string_view file) { return file.ends_with(kind.ending); });
   if (found.empty()) {
-    throw UsageError(folder + ": no file ends in " + kind.ending + "; name one with " + kind.option);
+    throw UsageError(std::string("no ") + kind.ending + " file in " + Quoted(folder) + "; name one with " +
+                     kind.option);
   }
   if (found.size() > 1) {
-    throw UsageError(found[0] + " and " + found[1] + " both end in " + kind.ending + "; choose one with " +
-                     kind.option);
+    throw UsageError(Quoted(found[0]) + " and " + Quoted(found[1]) + " both end in " + kind.ending +
+                     "; choose one with " + kind.option);
   }
   return found[0];
 }
@@ -49,9 +52,11 @@ std::string OnlyFileWithEnding(const std::vector<std::string>& files, const File
 void CheckReadable(const std::string& path) {
   std::error_code error;
   const fs::file_status status = fs::status(path, error);
-  if (fs::exists(status) && !fs::is_regular_file(status)) throw UsageError(path + ": not a regular file");
+  if (fs::exists(status) && !fs::is_regular_file(status)) {
+    throw UsageError(Quoted(path) + " is not a regular file");
+  }
   const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"), &std::fclose);
-  if (file == nullptr) throw UsageError(path + ": " + std::strerror(errno));
+  if (file == nullptr) throw UsageError("cannot open " + Quoted(path) + ": " + std::strerror(errno));
 }
 
 }  // namespace
@@ -70,9 +75,10 @@ void ExportSet::CheckReadable() const {
     tool::CheckReadable(path);
     any = true;
   }
-  if (!any) throw UsageError("no file is given");
-  if (strict_ && !Has(ImportFile::kTraces))
-    throw UsageError("--strict reads a Traces file, and none is given");
+  if (!any) throw UsageError("no file to read; name one with --tech, --neutral, --geometry or --traces");
+  if (strict_ && !Has(ImportFile::kTraces)) {
+    throw UsageError("--strict needs a Traces file; name one with --traces");
+  }
 }
 
 }  // namespace kestrin::tool

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Which files to import.
+/// The files to import, as named on the command line.
 
 #include <array>
 #include <cstddef>
@@ -11,7 +11,7 @@
 
 namespace kestrin::tool {
 
-/// How a file of an export set is spoken of.
+/// How the tool names a file of an export set.
 struct FileKind {
   ImportFile file;
   const char* name;
@@ -27,7 +27,7 @@ inline constexpr std::array<FileKind, kImportFileCount> kFileKinds{{
     {ImportFile::kTraces, "Traces", "--traces", ".traces"},
 }};
 
-/// The paths of the files to import, empty for a file that is not given.
+/// The paths of the files to import. The path of a file that is not to be imported is empty.
 class ExportSet {
  public:
   [[nodiscard]] const std::string& PathOf(ImportFile file) const {
@@ -36,16 +36,17 @@ class ExportSet {
   [[nodiscard]] std::string& PathOf(ImportFile file) { return paths_[static_cast<std::size_t>(file)]; }
   [[nodiscard]] bool Has(ImportFile file) const { return !PathOf(file).empty(); }
 
-  /// Whether the Traces file is to be read by its grammar, not by the session.
+  /// Whether to read the Traces file with the strict reader.
   [[nodiscard]] bool IsStrict() const { return strict_; }
   [[nodiscard]] bool& Strict() { return strict_; }
 
-  /// Looks for the files that are not given yet by their endings in a folder. Raises UsageError unless it has
-  /// exactly one of each.
+  /// Sets each empty path to the file of the folder that has the right ending. Raises UsageError unless the
+  /// folder has exactly one such file for each.
   void FindInFolder(const std::string& folder);
 
-  /// Raises UsageError unless at least one file is given and all of them can be read, twice: the import
-  /// counts a file's lines before it reads them. Reading strictly needs a Traces file.
+  /// Raises UsageError unless there is at least one file and each is a regular file that can be opened. Only
+  /// a regular file can be read twice, as an import does to count its lines. Strict reading also requires a
+  /// Traces file.
   void CheckReadable() const;
 
  private:

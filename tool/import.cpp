@@ -25,7 +25,7 @@ std::string WhereStopped(const ImportReport& report) {
   return {};
 }
 
-/// Returns where and why a reader stopped early, as Import does.
+/// Returns what Import returns.
 std::string ReadWithSession(CPC_KESTRIN_GET& session, const ExportSet& files) {
   std::string stopped;
   {
@@ -34,17 +34,17 @@ std::string ReadWithSession(CPC_KESTRIN_GET& session, const ExportSet& files) {
     try {
       Read(session, files);
     } catch (const CInvalidArgException&) {
-      stopped = WhereStopped(session.GetReport()) +
-                "the reading stopped: the line has too few values for its record";
+      stopped =
+          WhereStopped(session.GetReport()) + "import stopped: the line has too few values for its record";
     } catch (const std::exception& error) {
-      stopped = WhereStopped(session.GetReport()) + "the reading stopped: " + error.what();
+      stopped = WhereStopped(session.GetReport()) + "import stopped: " + error.what();
     }
     session.m_pStatusWnd = nullptr;
     session.SetProgressPtr(nullptr, nullptr, nullptr, nullptr);
   }
   for (const FileKind& kind : kFileKinds) {
     const FileReport& file = session.GetReport().Of(kind.file);
-    if (file.end == ReadingEnd::kNotOpened) throw UsageError(file.path + ": cannot be opened");
+    if (file.end == ReadingEnd::kNotOpened) throw UsageError("cannot open \"" + file.path + '"');
   }
   return stopped;
 }
@@ -54,9 +54,9 @@ std::string ReadWithSession(CPC_KESTRIN_GET& session, const ExportSet& files) {
 std::string Import(Imported& imported, const ExportSet& files, StrictReading strict) {
   if (!files.IsStrict()) return ReadWithSession(imported.session, files);
   ExportSet forSession = files;
-  if (strict == StrictReading::kInstead) forSession.PathOf(ImportFile::kTraces).clear();
+  if (strict == StrictReading::kOnly) forSession.PathOf(ImportFile::kTraces).clear();
   std::string stopped = ReadWithSession(imported.session, forSession);
-  if (!stopped.empty() && strict == StrictReading::kInstead) return stopped;
+  if (!stopped.empty() && strict == StrictReading::kOnly) return stopped;
   imported.strictTraces = ReadStrictly(files.PathOf(ImportFile::kTraces));
   return stopped.empty() ? imported.strictTraces->stopped : stopped;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Running an import as a host.
+/// Running an import. The tool does what a host does.
 
 #include <optional>
 #include <string>
@@ -12,27 +12,27 @@
 
 namespace kestrin::tool {
 
-/// What an import made.
+/// The result of an import.
 struct Imported {
   CPC_KESTRIN_GET session;
-  std::optional<StrictTraces> strictTraces;  ///< where the Traces file was to be read strictly
+  std::optional<StrictTraces> strictTraces;  ///< set if the Traces file was read strictly
 
-  /// The model of the Traces file, whoever read it; may be null.
+  /// The model of the Traces file, from the strict reader if it read the file; may be null.
   [[nodiscard]] const CMTraces* Traces() const {
     return strictTraces ? strictTraces->parse.traces.get() : session.GetTraces();
   }
 };
 
-/// Who reads a Traces file that is to be read strictly.
+/// With --strict, which readers read the Traces file.
 enum class StrictReading {
-  kInstead,  ///< the strict reader alone
-  kBeside,   ///< the session too, for its report
+  kOnly,  ///< only the strict reader
+  kAlso,  ///< the strict reader and the session, for its report
 };
 
-/// Imports the files, with progress on the terminal. Returns an empty text, or when a reader stopped early
-/// one line that says where and why; the session's files after it are not read then. Raises UsageError when a
-/// file cannot be opened.
+/// Imports the files and shows progress on the terminal. If a reader stops early, returns a line that says
+/// where and why, and the session does not read the files after that; otherwise returns an empty string.
+/// Raises UsageError if a file cannot be opened.
 [[nodiscard]] std::string Import(Imported& imported, const ExportSet& files,
-                                 StrictReading strict = StrictReading::kInstead);
+                                 StrictReading strict = StrictReading::kOnly);
 
 }  // namespace kestrin::tool

@@ -17,16 +17,16 @@
 
 namespace kestrin::tool {
 
-/// Writes one document, piece by piece, so that a large model needs no second copy in memory.
+/// Writes one document piece by piece, without a copy of it in memory.
 class JsonWriter {
  public:
-  /// Writes to a stream of the caller's, standard output if not said.
+  /// The caller keeps the stream open until Finish.
   explicit JsonWriter(std::FILE* target = stdout);
 
   void Key(const char* name) { writer_.Key(name); }
   void StartObject() { writer_.StartObject(); }
   void EndObject() { writer_.EndObject(); }
-  /// A row stands on one line.
+  /// Whether the elements of an array are on one line or each on its own.
   enum class Layout { kRow, kColumn };
   void StartArray(Layout layout = Layout::kColumn);
   void EndArray();
@@ -34,11 +34,11 @@ class JsonWriter {
   void Null() { writer_.Null(); }
   void Bool(bool value) { writer_.Bool(value); }
   void Int(std::int64_t value) { writer_.Int64(value); }
-  /// In the shortest form that reads back to the same double; infinities as strings.
+  /// Writes the shortest text that reads back as the same double; infinities as strings.
   void Double(double value);
-  /// Bytes from 128 on stand for the code points of the same number.
+  /// Writes bytes as the code points of the same number.
   void String(std::string_view bytes);
-  /// Text that is UTF-8 already.
+  /// Writes text that is UTF-8 already.
   void Utf8(std::string_view text);
 
   /// Ends the document.
@@ -57,22 +57,22 @@ inline void WriteJson(JsonWriter& json, std::string_view text) { json.Utf8(text)
 inline void WriteJson(JsonWriter& json, double value) { json.Double(value); }
 inline void WriteJson(JsonWriter& json, const CString& value) { json.String(value.View()); }
 
-/// A record or list held by pointer.
+/// Writes what the pointer points to.
 template <class T>
 void WriteJson(JsonWriter& json, const T* pointer) {
   if (pointer == nullptr) return json.Null();
   WriteJson(json, *pointer);
 }
 
-/// A list of values, of strings or of records.
-template <class TYPE, class ARG_TYPE>
-void WriteJson(JsonWriter& json, const CArray<TYPE, ARG_TYPE>& list) {
-  json.StartArray(std::is_arithmetic_v<TYPE> ? JsonWriter::Layout::kRow : JsonWriter::Layout::kColumn);
-  for (const TYPE& element : list) WriteJson(json, element);
+/// Writes a list as an array: numbers on one line, strings and records each on their own.
+template <class Type, class ArgType>
+void WriteJson(JsonWriter& json, const CArray<Type, ArgType>& list) {
+  json.StartArray(std::is_arithmetic_v<Type> ? JsonWriter::Layout::kRow : JsonWriter::Layout::kColumn);
+  for (const Type& element : list) WriteJson(json, element);
   json.EndArray();
 }
 
-/// An object from its braces to the members in between.
+/// Writes an object: its braces when it is constructed and destroyed, its members in between.
 class JsonObject {
  public:
   explicit JsonObject(JsonWriter& json) : json_(json) { json_.StartObject(); }

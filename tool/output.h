@@ -1,16 +1,17 @@
 #pragma once
 
 /// @file
-/// The ends of the tool's two streams.
+/// Reporting errors, and finishing the output.
 
 #include <string>
 
 namespace kestrin::tool {
 
-/// Writes one line to standard error; returns the exit status that it is given.
+/// Prints "kestrin: what" to standard error and returns the exit status.
 int ReportError(const std::string& what, int exitStatus);
 
-/// Ends standard output: returns the exit status that it is given, or reports that not all could be written.
+/// Flushes standard output and returns the exit status. If not everything could be written, reports that and
+/// returns kIncomplete.
 [[nodiscard]] int FinishOutput(int exitStatus);
 
 }  // namespace kestrin::tool

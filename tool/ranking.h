@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The greatest of many numbers.
+/// Printing the largest of many numbers.
 
 #include <cstdint>
 #include <string>
@@ -16,7 +16,7 @@ struct Ranked {
   std::int64_t number;
 };
 
-/// Prints the ten rows with the greatest numbers, greatest first, and how many more there are.
+/// Prints the ten rows with the largest numbers, largest first, and how many more rows there are.
 void PrintGreatest(std::vector<Ranked> rows, const char* nameHeading, const char* numberHeading);
 
 }  // namespace kestrin::tool

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// RapidJSON for texts of any length.
+/// RapidJSON with a 64-bit size type, so that strings of any length can be written.
 
 #include <cstddef>
 

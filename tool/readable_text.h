@@ -1,24 +1,24 @@
 #pragma once
 
 /// @file
-/// The files' bytes as text for people: a byte below 128 is its ASCII character, one from 128 on the code
-/// point of the same number.
+/// Converting bytes of a file to text that can be printed. The encoding of a file is unknown, so each byte
+/// becomes the code point of the same number: ASCII below 128.
 
 #include <string>
 #include <string_view>
 
 namespace kestrin::tool {
 
-/// The bytes as UTF-8.
+/// Converts bytes to UTF-8.
 [[nodiscard]] std::string ToUtf8(std::string_view bytes);
 
-/// The same for a terminal: control characters are written as \xNN.
+/// Converts bytes to UTF-8 and writes control characters as \xNN.
 [[nodiscard]] std::string ToTerminal(std::string_view bytes);
 
-/// The name of a file, which is UTF-8 on most machines, as valid UTF-8.
+/// Returns a path unchanged if it is valid UTF-8; otherwise converts its bytes.
 [[nodiscard]] std::string PathToUtf8(std::string_view path);
 
-/// The same for a terminal.
+/// The same with control characters written as \xNN.
 [[nodiscard]] std::string PathToTerminal(std::string_view path);
 
 }  // namespace kestrin::tool

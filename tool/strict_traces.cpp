@@ -11,14 +11,14 @@ namespace {
 
 std::string WhyStopped(const std::string& path, const StrictParse& parse, const std::string& readError) {
   const auto at = [&](std::int64_t line) { return path + ":" + std::to_string(line) + ": "; };
-  if (!readError.empty()) return at(parse.line) + "the reading stopped: " + readError;
+  if (!readError.empty()) return at(parse.line) + "strict parser stopped: " + readError;
   switch (parse.result) {
     case ParseResult::kAccepted: return {};
-    case ParseResult::kExhausted: return at(parse.line + 1) + "the strict reading gave up: " + parse.error;
+    case ParseResult::kExhausted: return at(parse.line + 1) + "strict parser gave up: " + parse.error;
     case ParseResult::kRejected: break;
   }
   const SyntaxError& last = parse.errors.back();
-  return at(LineOf(last)) + "the strict reading gave up: " + ToTerminal(last.Describe());
+  return at(LineOf(last)) + "strict parser gave up: " + ToTerminal(last.Describe());
 }
 
 }  // namespace
@@ -26,7 +26,7 @@ std::string WhyStopped(const std::string& path, const StrictParse& parse, const 
 StrictTraces ReadStrictly(const std::string& path) {
   const auto start = std::chrono::steady_clock::now();
   InputFile file;
-  if (!file.Open(path.c_str())) throw UsageError(path + ": cannot be opened");
+  if (!file.Open(path.c_str())) throw UsageError("cannot open \"" + path + '"');
   std::string readError;
   const auto read = [&](char* bytes, std::size_t size) -> std::size_t {
     try {
@@ -37,7 +37,7 @@ StrictTraces ReadStrictly(const std::string& path) {
     }
   };
   StrictTraces traces{.path = path, .parse = ParseStrictly(read), .stopped = {}};
-  if (!readError.empty()) {  // what follows is not the end of the file, whatever the parser made of it
+  if (!readError.empty()) {  // the parser took the read error for the end of the file
     traces.parse.result = ParseResult::kRejected;
     if (!traces.parse.errors.empty() && traces.parse.errors.back().found == 0) traces.parse.errors.pop_back();
   }
@@ -55,7 +55,7 @@ void WriteJson(JsonWriter& json, const StrictTraces& traces) {
 
 std::string Verdict(const StrictParse& parse) {
   const std::size_t errors = parse.errors.size();
-  return (parse.result == ParseResult::kAccepted ? "accepted with " : "given up with ") +
+  return (parse.result == ParseResult::kAccepted ? "accepted with " : "gave up after ") +
          std::to_string(errors) + (errors == 1 ? " syntax error" : " syntax errors");
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// --strict: the Traces file as its grammar has it.
+/// The option --strict: reading the Traces file with the strict reader.
 
 #include <chrono>
 #include <cstdint>
@@ -12,24 +12,24 @@
 
 namespace kestrin::tool {
 
-/// A Traces file that was read by its grammar.
+/// A Traces file that was read strictly.
 struct StrictTraces {
   std::string path;
   StrictParse parse;
-  std::string stopped;  ///< where and why the reading stopped early, empty when the file was accepted
+  std::string stopped;  ///< where and why the parser stopped early; empty if the file was accepted
   std::chrono::nanoseconds duration{};
 };
 
-/// Reads the file. Raises UsageError when it cannot be opened.
+/// Reads the file. Raises UsageError if it cannot be opened.
 [[nodiscard]] StrictTraces ReadStrictly(const std::string& path);
 
-/// The line of an error as people count them.
+/// The line number of an error, counted from 1.
 [[nodiscard]] inline std::int64_t LineOf(const SyntaxError& error) { return error.line + 1; }
 
-/// How the reading ended: result, error text, line ends read.
+/// Writes how the parse ended: result, error text, number of line ends read.
 void WriteJson(JsonWriter& json, const StrictTraces& traces);
 
-/// "accepted with 2 syntax errors"
+/// How the parse ended: "accepted with 2 syntax errors".
 [[nodiscard]] std::string Verdict(const StrictParse& parse);
 
 }  // namespace kestrin::tool

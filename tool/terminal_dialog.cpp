@@ -8,7 +8,7 @@
 namespace kestrin::tool {
 namespace {
 
-// A line that wrapped would be two to wipe off.
+// A wrapped line would take two lines to erase.
 const std::string kNoWrap = "\x1b[?7l";
 const std::string kWrap = "\x1b[?7h";
 
@@ -66,7 +66,7 @@ void TerminalDialog::Draw() {
 
 void TerminalDialog::Wipe() {
   if (linesDrawn_ > 0)
-    std::fprintf(stderr, "\x1b[%dA\x1b[J", linesDrawn_);  // up to the first line, clear below
+    std::fprintf(stderr, "\x1b[%dA\x1b[J", linesDrawn_);  // cursor up, clear to the end of the screen
   linesDrawn_ = 0;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The dialog of a host without a desktop: a status text and progress bars on a terminal.
+/// A dialog on the terminal: a status line and progress bars.
 
 #include <array>
 #include <string>
@@ -12,14 +12,14 @@
 
 namespace kestrin::tool {
 
-/// Shows an import on standard error while it runs, redrawn in place, and wipes it off at the end. Shows
-/// nothing when standard error is no terminal.
+/// Shows the progress of an import on standard error, redrawn in place, and erases it at the end. Shows
+/// nothing if standard error is not a terminal.
 class TerminalDialog : public CWnd {
  public:
   explicit TerminalDialog(const ExportSet& files);
   ~TerminalDialog() override;
 
-  /// Makes the session report to this dialog, where there is something to see; the dialog must outlive the
+  /// Makes the session report its progress to this dialog, if it shows anything. The dialog must outlive the
   /// import.
   void Attach(CPC_KESTRIN_GET& session);
 

@@ -7,13 +7,13 @@
 namespace kestrin::tool {
 namespace {
 
-/// The characters of a UTF-8 text.
+/// The number of characters of a UTF-8 text.
 std::size_t WidthOf(const std::string& text) {
   return static_cast<std::size_t>(std::count_if(
       text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
 }
 
-/// So that one long name does not make every row as long.
+/// Cuts a long text, so that one long name does not widen every row.
 std::string Cut(std::string text) {
   constexpr std::size_t kMostBytes = 110;
   if (text.size() <= kMostBytes) return text;

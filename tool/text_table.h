@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Tables of text in columns.
+/// Printing tables.
 
 #include <cstddef>
 #include <string>
@@ -9,7 +9,7 @@
 
 namespace kestrin::tool {
 
-/// Rows under a heading; every column is as wide as its widest cell.
+/// A table with headings. Each column is as wide as its widest cell.
 class TextTable {
  public:
   enum class Align { kLeft, kRight };
@@ -20,9 +20,9 @@ class TextTable {
 
   explicit TextTable(std::vector<Column> columns);
 
-  /// As many cells as there are columns; long ones are cut.
+  /// Adds a row, which must have a cell for each column. Long cells are cut.
   void AddRow(std::vector<std::string> cells);
-  /// Prints to standard output, indented; nothing when there are no rows.
+  /// Prints the table to standard output, indented. Prints nothing if there are no rows.
   void Print() const;
 
  private:

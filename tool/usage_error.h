@@ -1,13 +1,14 @@
 #pragma once
 
 /// @file
-/// What ends the tool before it prints anything.
+/// The exception that ends the tool with exit status 2.
 
 #include <stdexcept>
 
 namespace kestrin::tool {
 
-/// Wrong usage, or a file that cannot be read: one line for standard error, and exit status 2.
+/// Wrong usage, or a file that cannot be opened. The message says what to do and becomes one line on standard
+/// error. Raised before anything is printed.
 class UsageError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;

@@ -132,7 +132,7 @@ class CMGeomPin : public PooledRecord, private OwnedLists<3> {
   CString m_sUnits;  ///< the unit of its lengths: "MM", "IN", "MIL", "CM" or empty
   std::int64_t m_nSpare1 = 0;
   std::int64_t m_nSpare2 = 0;
-  double m_dDrillSize = 0.0;                       ///< of the hole, 0 when none is given
+  double m_dDrillSize = 0.0;                       ///< the size of the hole; 0 if the file does not give it
   RecordArray<CMGeomText>* m_pTexts = MakeList();  ///< its texts
   RecordArray<CMGeomAdd>* m_pAdds = MakeList();    ///< the geometries placed on it
 };
@@ -145,7 +145,7 @@ class CMGeomVia : public PooledRecord, private OwnedLists<3> {
   CString m_sUnits;    ///< the unit of its lengths: "MM", "IN", "MIL", "CM" or empty
   std::int64_t m_nUnset1 = 0;
   std::int64_t m_nUnset2 = 0;
-  double m_dDrillSize = 0.0;                       ///< of the hole, 0 when none is given
+  double m_dDrillSize = 0.0;                       ///< the size of the hole; 0 if the file does not give it
   CMGeomDrawObjArray* m_pDrawObjs = MakeList();    ///< its drawing objects
   RecordArray<CMGeomAdd>* m_pAdds = MakeList();    ///< the geometries placed on it
   RecordArray<CMGeomText>* m_pTexts = MakeList();  ///< its texts

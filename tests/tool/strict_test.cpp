@@ -41,12 +41,12 @@ TEST(ToolStrict, ListsSyntaxErrorsBesideSkippedLines) {
   const auto text = RunTool("check --strict --tech " + tech + " --traces " + file);
   EXPECT_EQ(text.status, 1);
   EXPECT_EQ(text.err,
-            "kestrin: " + file + ":4: the reading stopped: the line has too few values for its record\n");
-  EXPECT_EQ(text.out, tech + ":1: unknown-record: unknown record\n    what\n" + file +
-                          ":4: syntax-error: found a real number (3.5), expected a whole number\n" + tech +
-                          ": 1 lines read, 1 skipped\n  unknown-record: 1\n" + file +
-                          ": 4 lines read, 0 skipped\n" + file +
-                          ": 6 lines read strictly, accepted with 1 syntax error\n");
+            "kestrin: " + file + ":4: import stopped: the line has too few values for its record\n");
+  EXPECT_EQ(text.out,
+            tech + ":1: unknown-record: unknown record\n    what\n" +
+                file + ":4: syntax-error: found a real number (3.5), expected a whole number\n" + tech +
+                ": 1 line read, 1 skipped\n  unknown-record: 1\n" + file + ": 4 lines read, 0 skipped\n" +
+                file + ": strict parser: 6 lines read, accepted with 1 syntax error\n");
   rapidjson::Document document;
   document.Parse(RunTool("check --strict --format json --traces " + file).out.c_str());
   ASSERT_FALSE(document.HasParseError());
@@ -59,9 +59,8 @@ TEST(ToolStrict, ShowsTheModelSoFarWhereTheParserGivesUp) {
   const std::string file = folder.File("a.traces", kBegin + "TTT \xE9'\n");
   const auto dump = RunTool("dump --strict --traces " + file);
   EXPECT_EQ(dump.status, 1);
-  EXPECT_EQ(dump.err,
-            "kestrin: " + file +
-                ":6: the strict reading gave up: found an apostrophe ('), expected a whole number\n");
+  EXPECT_EQ(dump.err, "kestrin: " + file +
+                          ":6: strict parser gave up: found an apostrophe ('), expected a whole number\n");
   rapidjson::Document document;
   ASSERT_FALSE(document.Parse(dump.out.c_str()).HasParseError());
   EXPECT_EQ(document["traces"]["m_pTttArray"].Size(), 1U);

@@ -32,15 +32,18 @@ TEST(Tool, WrongUsageAndUnreadableFilesGiveOneLineAndStatus2) {
   const Case cases[] = {
       {"", "no command is given"},
       {"frobnicate", "frobnicate"},
-      {"dump", "no file is given"},
+      {"dump", "no file to read; name one with --tech, --neutral, --geometry or --traces"},
       {"dump --tech", "--tech"},
       {"dump --tech " + file + " --volume 11", "--volume"},
-      {"dump --tech " + folder.Path("missing"), folder.Path("missing") + ": No such file"},
-      {"dump --tech " + folder.Path(), "not a regular file"},
-      {"check --tech " + folder.Path("fifo"), "not a regular file"},
-      {"summary " + folder.Path("missing"), folder.Path("missing")},
+      {"dump --tech " + folder.Path("missing"),
+       "cannot open \"" + folder.Path("missing") + "\": No such file"},
+      {"dump --tech " + folder.Path(), "is not a regular file"},
+      {"check --tech " + folder.Path("fifo"), "is not a regular file"},
+      {"summary " + folder.Path("missing"),
+       "cannot read folder \"" + folder.Path("missing") + "\": No such file"},
       {"summary " + folder.Path(), "both end in .tech; choose one with --tech"},
-      {"summary " + folder.Path() + " --tech " + file, "no file ends in .neutral; name one with --neutral"},
+      {"summary " + folder.Path() + " --tech " + file,
+       "no .neutral file in \"" + folder.Path() + "\"; name one with --neutral"},
       {"check --format xml --tech " + file, "--format"},
       {"board --rotation left --tech " + file, "--rotation"},
       {"board --bottom-turn 90 --tech " + file, "--bottom-turn"},
@@ -130,7 +133,7 @@ TEST(Tool, DumpsWhatWasReadBeforeATracesLineThatIsTooShort) {
   const auto dump = RunTool("dump --traces " + file);
   EXPECT_EQ(dump.status, 1);
   EXPECT_EQ(dump.err,
-            "kestrin: " + file + ":6: the reading stopped: the line has too few values for its record\n");
+            "kestrin: " + file + ":6: import stopped: the line has too few values for its record\n");
   rapidjson::Document document;
   ASSERT_FALSE(document.Parse(dump.out.c_str()).HasParseError());
   EXPECT_STREQ(document["traces"]["m_sUnits"].GetString(), "MM");
@@ -194,7 +197,7 @@ TEST(Tool, SaysThatItsOutputCannotBeWrittenOrAFileNotRead) {
   const std::string ofTheBoard = " --tech " + kBoard + "/board.tech";
   for (const std::string command : {"summary", "dump", "board", "check", "check --format json"}) {
     const auto unwritten = RunTool(command + ofTheBoard + " 2>&1 >/dev/full | cat");
-    EXPECT_EQ(unwritten.out, "kestrin: standard output could not be written\n") << command;
+    EXPECT_EQ(unwritten.out, "kestrin: cannot write to standard output\n") << command;
     const auto unreadable = RunTool(command + " --tech /proc/self/mem");
     EXPECT_EQ(unreadable.status, 1);
     EXPECT_TRUE(IsOneLine(unreadable.err)) << unreadable.err;
