@@ -19,8 +19,8 @@ using LRESULT = std::intptr_t;
 ///@}
 
 ///@{
-/// A value of a BOOL. Any value other than FALSE means true. Many C headers define macros with these names and
-/// values; where a host includes one of those first, the macros are used.
+/// A value of a BOOL. Any value other than FALSE means true. Many C headers define macros with these names
+/// and values; where a host includes one of those first, the macros are used.
 #ifndef FALSE
 inline constexpr BOOL FALSE = 0;
 #endif

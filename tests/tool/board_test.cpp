@@ -75,7 +75,7 @@ TEST(ToolBoard, OfAFileAloneHasWhatItSays) {
 
   const auto stopped = RunTool("board --traces " + folder.File("a.traces", "# NET A\nGUI 1\n# NET B"));
   EXPECT_EQ(stopped.status, 1);
-  EXPECT_NE(stopped.err.find("a.traces:2: the reading stopped"), std::string::npos) << stopped.err;
+  EXPECT_NE(stopped.err.find("a.traces:2: import stopped"), std::string::npos) << stopped.err;
   EXPECT_NE(Tight(stopped.out).find(R"("nets":[{"name":"A",)"), std::string::npos) << stopped.out;
 }
 
