@@ -4,11 +4,13 @@
 #include <vector>
 
 #include "kestrin/geometry/geometry_reader.h"
-#include "tests/geometry/described_model.h"
+#include "support/described.h"
 #include "tests/support/feed.h"
 
 namespace kestrin {
 namespace {
+
+using test::Described;
 
 /// What a text is read into.
 std::string ModelOf(const std::string& text) {
@@ -28,22 +30,22 @@ TEST(GeomCommands, OpenGeometriesByName) {
       {"$$create_panel(\"P\");", "panel{name=P}"},
       {"$$create_board(\"B\");", "board{name=B}"},
       {"$$create_component(\"U1\");", "component{name=U1}"},
-      {"$$create_generic_part(G)", "part{name=G}"},
+      {"$$create_generic_part(G)", "genericPart{name=G}"},
       {"$$create_stackup(\"S\");", "stackup{name=S}"},
       {"$$create_pin(P)", "pin{name=P}"},
       {"$$create_via(V)", "via{name=V}"},
       {"$$create_drawing(D)", "drawing{name=D}"},
       {"$$create_probe(P)\n$$create_test_fixture(F)", ""},
       // the name is all there is but for quotes at the ends and parentheses and semicolons at the right one
-      {"$$create_pin(\"U1\", x)", "pin{name=U1\", x}"},
-      {"$$create_pin( \"U1\" );", "pin{name= \"U1\" }"},
+      {"$$create_pin(\"U1\", x)", "pin{name=[U1\", x]}"},
+      {"$$create_pin( \"U1\" );", "pin{name=[ \"U1\" ]}"},
       {"$$create_pin(\"\"U(1)\"\"););)", "pin{name=U(1)}"},
-      {"$$create_pin(a); ", "pin{name=a); }"},
+      {"$$create_pin(a); ", "pin{name=[a); ]}"},
       {"$$create_pin(", "pin{}"},
       {"$$CREATE_Pin(a)\n$$create_pin(b)", "pin{name=a} pin{name=b}"},
       // there is one board and one stack-up
       {"$$lock_windows()\n$$create_board(B)\n$$circle(L)\n$$create_board(C)\n$$circle(M)",
-       "board{name=C draw=[CIRCLE{layer=L} CIRCLE{layer=M}]}"},
+       "board{name=C CIRCLE{layer=L} CIRCLE{layer=M}}"},
       {"$$create_stackup(S)\n$$attribute(LAYER_DEFINITION, 1)\n$$create_stackup(T)", "stackup{name=T}"},
       // not quite commands
       {" $$create_pin(a)", ""},
@@ -59,22 +61,20 @@ TEST(GeomCommands, FillTheGeometryThatTheLastCreateCommandLeavesOpen) {
   const std::string rest = "$$circle(B)\n$$text(T)\n$$add(C)\n$$page(@mm)\n";
   const Case cases[] = {
       {rest, ""},
-      {pin + rest,
-       "pin{name=P units=MM draw=[CIRCLE{layer=A} CIRCLE{layer=B}] texts=[text{layer=T}] adds=[add{0=C}]}"},
+      {pin + rest, "pin{CIRCLE{layer=A} CIRCLE{layer=B} name=P units=MM text{layer=T} add{C}}"},
       {pin + "$$create_probe(Q)\n" + rest,
-       "pin{name=P draw=[CIRCLE{layer=A} CIRCLE{layer=B}] texts=[text{layer=T}] adds=[add{0=C}]}"},
+       "pin{CIRCLE{layer=A} CIRCLE{layer=B} name=P text{layer=T} add{C}}"},
       {pin + "$$create_test_fixture(Q)\n" + rest,
-       "pin{name=P draw=[CIRCLE{layer=A} CIRCLE{layer=B}] texts=[text{layer=T}] adds=[add{0=C}]}"},
+       "pin{CIRCLE{layer=A} CIRCLE{layer=B} name=P text{layer=T} add{C}}"},
       {pin + "$$create_stackup(S)\n" + rest,
-       "stackup{name=S units=MM} "
-       "pin{name=P draw=[CIRCLE{layer=A} CIRCLE{layer=B}] texts=[text{layer=T}] adds=[add{0=C}]}"},
-      {pin + "$$lock_windows()\n$$page(@cm)", "pin{name=P units=CM draw=[CIRCLE{layer=A}]}"},
+       "stackup{name=S units=MM} pin{CIRCLE{layer=A} CIRCLE{layer=B} name=P text{layer=T} add{C}}"},
+      {pin + "$$lock_windows()\n$$page(@cm)", "pin{CIRCLE{layer=A} name=P units=CM}"},
       // of an unknown geometry, only the drawing objects are kept, in the one before; its unit too, but for
       // drawings
-      {pin + "$$create_widget(W)\n" + rest, "pin{name=P units=MM draw=[CIRCLE{layer=A} CIRCLE{layer=B}]}"},
-      {pin + "$$x$$Create_(W)\n" + rest, "pin{name=P units=MM draw=[CIRCLE{layer=A} CIRCLE{layer=B}]}"},
-      {pin + "$$create_via (W)\n" + rest, "pin{name=P units=MM draw=[CIRCLE{layer=A} CIRCLE{layer=B}]}"},
-      {"$$create_drawing(D)\n$$create_widget(W)\n" + rest, "drawing{name=D draw=[CIRCLE{layer=B}]}"},
+      {pin + "$$create_widget(W)\n" + rest, "pin{CIRCLE{layer=A} CIRCLE{layer=B} name=P units=MM}"},
+      {pin + "$$x$$Create_(W)\n" + rest, "pin{CIRCLE{layer=A} CIRCLE{layer=B} name=P units=MM}"},
+      {pin + "$$create_via (W)\n" + rest, "pin{CIRCLE{layer=A} CIRCLE{layer=B} name=P units=MM}"},
+      {"$$create_drawing(D)\n$$create_widget(W)\n" + rest, "drawing{CIRCLE{layer=B} name=D}"},
   };
   for (const Case& c : cases) EXPECT_EQ(ModelOf(c.text), c.model) << c.text;
 }
@@ -93,55 +93,52 @@ TEST(GeomCommands, PageSetsTheUnit) {
     const std::string text = "$$create_" + std::string(kind) + "(N)\n$$page(@mm)";
     EXPECT_EQ(ModelOf(text), std::string(kind) + "{name=N units=MM}");
   }
-  EXPECT_EQ(ModelOf("$$create_generic_part(N)\n$$page(@mm)"), "part{name=N units=MM}");
+  EXPECT_EQ(ModelOf("$$create_generic_part(N)\n$$page(@mm)"), "genericPart{name=N units=MM}");
 }
 
 /// The lines inside a drawing, and what they make of it.
 TEST(GeomCommands, DrawAndWrite) {
   const Case cases[] = {
       // path: width from the raw value; a later "[" opens the list again, and "]" counts without one
-      {R"($$path("TOP", 5, [0, 0, 10, -1e1]);)", "draw=[LINE{layer=TOP width=5 at=[0 0 10 -10]}]"},
-      {R"($$path(L, "5", [1, 2]))", "draw=[LINE{layer=L at=[1 2]}]"},
-      {"$$path(\" L \", 1, 9, [0,0, 1,0], 8, [5,5])", "draw=[LINE{layer= L  width=1 at=[0 0 1 0 5 5]}]"},
-      {"$$path(L, 1, [, 1, ], 2], [[5], 6, 7]], 8)", "draw=[LINE{layer=L width=1 at=[1 2 5 6 7]}]"},
-      {"$$path(L, 1, [1, , \"\", \"2\"])", "draw=[LINE{layer=L width=1 at=[1 0 0 2]}]"},
-      {"$$path(L, 1, [1, 2, 3", "draw=[LINE{layer=L width=1 at=[1 2 3]}]"},
-      {"$$path(L, 1,[ 1 ,+2,,\t3,4x, [5], 6e0 ])", "draw=[LINE{layer=L width=1 at=[1 2 3 4 5 6]}]"},
-      {"$$path( , ,, [1, 2])", "draw=[LINE{at=[1 2]}]"},
-      {"$$path()", "draw=[LINE{}]"},
-      {"$$template_path_width(8)\n$$path(L)", "draw=[LINE{layer=L}]"},
+      {R"($$path("TOP", 5, [0, 0, 10, -1e1]);)", "LINE{layer=TOP width=5 coords=[0 0 10 -10]}"},
+      {R"($$path(L, "5", [1, 2]))", "LINE{layer=L coords=[1 2]}"},
+      {"$$path(\" L \", 1, 9, [0,0, 1,0], 8, [5,5])", "LINE{layer=[ L ] width=1 coords=[0 0 1 0 5 5]}"},
+      {"$$path(L, 1, [, 1, ], 2], [[5], 6, 7]], 8)", "LINE{layer=L width=1 coords=[1 2 5 6 7]}"},
+      {"$$path(L, 1, [1, , \"\", \"2\"])", "LINE{layer=L width=1 coords=[1 0 0 2]}"},
+      {"$$path(L, 1, [1, 2, 3", "LINE{layer=L width=1 coords=[1 2 3]}"},
+      {"$$path(L, 1,[ 1 ,+2,,\t3,4x, [5], 6e0 ])", "LINE{layer=L width=1 coords=[1 2 3 4 5 6]}"},
+      {"$$path( , ,, [1, 2])", "LINE{coords=[1 2]}"},
+      {"$$path()", "LINE{}"},
+      {"$$template_path_width(8)\n$$path(L)", "LINE{layer=L}"},
       // polygon: stops at the first "]" of the open list, empty values do not count
-      {R"($$polygon("L", [0, 0, 1, 0, 1, 1]);)", "draw=[POLYGON{layer=L at=[0 0 1 0 1 1]}]"},
-      {R"($$polygon("L", [0,0, 1,0], [5,5]))", "draw=[POLYGON{layer=L at=[0 0 1 0]}]"},
-      {R"($$polygon("L", 7], 8, [1, "", [2, x], 3))", "draw=[POLYGON{layer=L at=[1 2 0]}]"},
-      {"$$polygon(L, [, 1, ])", "draw=[POLYGON{layer=L at=[0 1 0]}]"},
-      {"$$polygon(\"\", [1, 2])", "draw=[POLYGON{at=[1 2]}]"},
+      {R"($$polygon("L", [0, 0, 1, 0, 1, 1]);)", "POLYGON{layer=L coords=[0 0 1 0 1 1]}"},
+      {R"($$polygon("L", [0,0, 1,0], [5,5]))", "POLYGON{layer=L coords=[0 0 1 0]}"},
+      {R"($$polygon("L", 7], 8, [1, "", [2, x], 3))", "POLYGON{layer=L coords=[1 2 0]}"},
+      {"$$polygon(L, [, 1, ])", "POLYGON{layer=L coords=[0 1 0]}"},
+      {"$$polygon(\"\", [1, 2])", "POLYGON{coords=[1 2]}"},
       // arc and circle: raw numbers, empty values leave what was there
       {"$$arc(L, 1, 2, 3, 4, 5, 6, 7, @radius)",
-       "draw=[ARC{layer=L x1=1 y1=2 x2=3 y2=4 x3=5 y3=6 width=7 mode=1}]"},
+       "ARC{layer=L x1=1 y1=2 x2=3 y2=4 x3=5 y3=6 width=7 arcMode=1}"},
       {"$$template_path_width(( 8) )\n$$arc(L, \"1\", 2, , 4, 5, 6, , x@center, @Radius, y)",
-       "draw=[ARC{layer=L y1=2 y2=4 x3=5 y3=6 width=8 mode=2}]"},
-      {"$$arc(L, @radius, @center)", "draw=[ARC{layer=L}]"},
-      {"$$circle(L, 1, 2, 3, 4, 5)", "draw=[CIRCLE{layer=L x=1 y=2 size=3 width=4}]"},
-      {"$$template_path_width(8x)\n$$circle(L, 1, \"2\", 3, \"\")",
-       "draw=[CIRCLE{layer=L x=1 size=3 width=8}]"},
+       "ARC{layer=L y1=2 y2=4 x3=5 y3=6 width=8 arcMode=2}"},
+      {"$$arc(L, @radius, @center)", "ARC{layer=L}"},
+      {"$$circle(L, 1, 2, 3, 4, 5)", "CIRCLE{layer=L x=1 y=2 size=3 width=4}"},
+      {"$$template_path_width(8x)\n$$circle(L, 1, \"2\", 3, \"\")", "CIRCLE{layer=L x=1 size=3 width=8}"},
       // text: commas in quotes do not separate, the angle is whole, empty values leave the default
       {"$$text(L, \"a, b\", 1, 2, 3, @CC, 45.9, 4, 5, six, 7, 8, 9, @Mirror, @NOMirror, x)",
-       "texts=[text{layer=L text=a, b x=1 y=2 size=3 just=@CC angle=45 8=4 9=5 10=six 11=7 12=8 13=9 "
-       "mirror=@NOMirror}]"},
+       "text{layer=L text=[a, b] x=1 y=2 size=3 justification=@CC angle=45 8=(4 5 six 7 8 9) "
+       "mirror=@NOMirror}"},
       {"$$text(L,, T, \" \", \"1\", , , , , , \"\", , , , @Mirror, \"\")",
-       "texts=[text{layer=L text=T y=1 mirror=@Mirror}]"},
+       "text{layer=L text=T y=1 mirror=@Mirror}"},
       // add: empty values count
-      {R"($$add("A", 1, "2", "B", 3, 4.9, 5, 6);)", "adds=[add{0=A 1=1 2=2 3=B 4=3 5=4 6=5}]"},
-      {"$$add(\"\", , 2)", "adds=[add{2=2}]"},
+      {R"($$add("A", 1, "2", "B", 3, 4.9, 5, 6);)", "add{A 1 2 B 3 4 5}"},
+      {"$$add(\"\", , 2)", "add{[] 0 2}"},
       {"$$internal_name(x)\n$$template_line_style(x)\n$$template_dimension(x)\n$$template_layer(x)\n"
        "$$add_dimension(x)\n$$add_(x)\n# $$path(x)",
        ""},
   };
   for (const Case& c : cases) {
-    EXPECT_EQ(ModelOf("$$create_drawing(D)\n" + c.text),
-              "drawing{name=D" + (c.model.empty() ? "" : " " + c.model) + "}")
-        << c.text;
+    EXPECT_EQ(ModelOf("$$create_drawing()\n" + c.text), "drawing{" + c.model + "}") << c.text;
   }
 }
 
@@ -174,26 +171,26 @@ TEST(GeomCommands, GatherPendingPoints) {
     test::Feed(reader, "$$create_drawing(D)\n" + c.text + "\n$$path(SEEN)");
     const auto& drawObjs = *geom.m_pDrawings->GetAt(geom.m_pDrawings->GetUpperBound())->m_pDrawObjs;
     EXPECT_EQ(Described(*drawObjs[drawObjs.GetUpperBound()]),
-              "LINE{layer=SEEN" + (c.model.empty() ? "" : " at=[" + c.model + "]") + "}")
+              "LINE{layer=SEEN" + (c.model.empty() ? "" : " coords=[" + c.model + "]") + "}")
         << c.text;
   }
 }
 
 TEST(GeomCommands, UsePendingPointsWhereTheLineHasNone) {
-  const std::string pending = "$$create_drawing(D)\n$$initial([1, \"\", 3, 4, 5, 6, 7])\n";
+  const std::string pending = "$$create_drawing()\n$$initial([1, \"\", 3, 4, 5, 6, 7])\n";
   const Case cases[] = {
-      {"$$path(L, 2)", "LINE{layer=L width=2 at=[1 3 4 5 6 7]}"},
-      {"$$path(L, 2, 9])", "LINE{layer=L width=2 at=[9 1 3 4 5 6 7]}"},
-      {"$$path([L, [2, 9])", "LINE{layer=[L at=[9 1 3 4 5 6 7]}"},
-      {"$$polygon([L, 9])", "POLYGON{layer=[L at=[1 3 4 5 6 7]}"},
-      {"$$polygon(L, [9])", "POLYGON{layer=L at=[9]}"},
+      {"$$path(L, 2)", "LINE{layer=L width=2 coords=[1 3 4 5 6 7]}"},
+      {"$$path(L, 2, 9])", "LINE{layer=L width=2 coords=[9 1 3 4 5 6 7]}"},
+      {"$$path([L, [2, 9])", "LINE{layer=[L coords=[9 1 3 4 5 6 7]}"},
+      {"$$polygon([L, 9])", "POLYGON{layer=[L coords=[1 3 4 5 6 7]}"},
+      {"$$polygon(L, [9])", "POLYGON{layer=L coords=[9]}"},
       {"$$arc(L, 9, 9)", "ARC{layer=L x1=9 y1=9}"},
-      {"$$arc(L, 9, 9, 9, 9, 9, 9, 9, @center)", "ARC{layer=L x1=1 x2=3 y2=4 x3=5 y3=6 width=9 mode=2}"},
+      {"$$arc(L, 9, 9, 9, 9, 9, 9, 9, @center)", "ARC{layer=L x1=1 x2=3 y2=4 x3=5 y3=6 width=9 arcMode=2}"},
       {"$$circle(L, , 9)", "CIRCLE{layer=L x=1 size=3 width=4}"},
       {"$$circle(L, 9)", "CIRCLE{layer=L x=9}"},
   };
   for (const Case& c : cases) {
-    EXPECT_EQ(ModelOf(pending + c.text), "drawing{name=D draw=[" + c.model + "]}") << c.text;
+    EXPECT_EQ(ModelOf(pending + c.text), "drawing{" + c.model + "}") << c.text;
   }
 }
 

@@ -5,19 +5,23 @@
 #include <memory>
 
 #include "kestrin/geometry/geometry_reader.h"
-#include "tests/geometry/described_model.h"
+#include "support/described.h"
 #include "tests/support/feed.h"
 
 namespace kestrin {
 namespace {
 
+using test::Described;
+using test::InitialFieldsOf;
+
 TEST(GeomModel, BeginsEmptyWithItsDefaults) {
-  const CMGeom geom;
-  EXPECT_EQ(Described(geom), "");
-  EXPECT_EQ(geom.m_pReserved4, nullptr);
-  EXPECT_EQ(CMGeomComponent().m_sLayoutSurface, "both");
-  EXPECT_EQ(CMGeomPin().m_nTerminalType, 1);
-  EXPECT_EQ(Described(CMGeomText()), "text{}");
+  EXPECT_EQ(InitialFieldsOf<CMGeom>(), "");
+  EXPECT_EQ(InitialFieldsOf<CMGeomBoard>(), "");
+  EXPECT_EQ(InitialFieldsOf<CMGeomComponent>(), "layoutSurface=both");
+  EXPECT_EQ(InitialFieldsOf<CMGeomPin>(), "terminalType=1");
+  EXPECT_EQ(InitialFieldsOf<CMGeomVia>(), "");
+  EXPECT_EQ(InitialFieldsOf<CMGeomText>(), "8=(1 0.01 std)");
+  EXPECT_EQ(InitialFieldsOf<CMGeomAdd>(), "");
   EXPECT_EQ(Described(CMGeomPath()), "LINE{}");
   EXPECT_EQ(Described(CMGeomPolygon()), "POLYGON{}");
   EXPECT_EQ(Described(CMGeomArc()), "ARC{}");
@@ -57,9 +61,8 @@ TEST(GeomModel, CopiesShareTheirRecords) {
     EXPECT_EQ(copy.m_pPanels->GetAt(0), geom.m_pPanels->GetAt(0));
   }
   EXPECT_EQ(Described(copy),
-            "board{name=B noroute=[{name=K at=[1 2]}]} "
-            "stackup{name=S layers=[LAYER_DEFINITION{values=[1]}]} "
-            "panel{name=P draw=[CIRCLE{layer=C}] texts=[text{layer=L}]}");
+            "board{name=B routingKeepout{name=K coords=[1 2]}} stackup{name=S LAYER_DEFINITION{values=[1]}} "
+            "panel{name=P CIRCLE{layer=C} text{layer=L}}");
   EXPECT_EQ(Described(stackup), Described(*copy.m_pStackup));
   EXPECT_EQ(Described(layer), "LAYER_DEFINITION{values=[1]}");
 }

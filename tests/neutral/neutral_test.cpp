@@ -1,16 +1,17 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <sstream>
 #include <string>
 #include <vector>
 
 #include "kestrin/neutral/neutral_reader.h"
+#include "support/described.h"
 #include "tests/support/feed.h"
 
 namespace kestrin {
 namespace {
 
+using test::Described;
 using test::Feed;
 
 /// The models and the reader that fills them.
@@ -21,45 +22,6 @@ struct Import {
   NeutralReader reader{components, nets, selection};
 };
 
-std::string Nets(const CMNetList& list) {
-  std::ostringstream text;
-  for (const CMNetInfo* net : *list.m_pNets) {
-    text << net->m_sName << '{';
-    for (const CMRefPin* pin : *net->m_pPins) text << pin->m_sRef << '|' << pin->m_sPin << ';';
-    text << '}';
-  }
-  return text.str();
-}
-
-std::string Components(const CMComps& components) {
-  std::ostringstream text;
-  for (const CMCompsInfo* info : *components.m_pInfos) {
-    const tagMCOMPDATA& d = info->m_Data;
-    text << d.m_sValue1 << ' ' << d.m_sValue2 << ' ' << d.m_sValue3 << ' ' << d.m_sValue4 << ' '
-         << d.m_dValue5 << ' ' << d.m_dValue6 << ' ' << d.m_nValue7 << ' ' << d.m_nValue8 << '{';
-    for (const tagMCOMPCOMMENT* comment : *info->m_pComments)
-      text << comment->m_sName << '=' << comment->m_sValue << ';';
-    text << info->m_sRefLocFirst;
-    for (const CMCompsRefLoc* g : *info->m_pRefLocs) {
-      text << '[' << g->m_dValue1 << ' ' << g->m_dValue2 << ' ' << g->m_nValue3 << ' ' << g->m_sValue4 << ' '
-           << g->m_dValue5 << ' ' << g->m_dValue6 << ' ' << g->m_dValue7 << ' ' << g->m_sValue8 << ' '
-           << g->m_sValue9 << ']';
-    }
-    text << '}';
-  }
-  return text.str();
-}
-
-std::string Board(const CMComps& components) {
-  std::ostringstream text;
-  text << components.m_sUnits << ' ' << components.m_dBoardValue3 << ' ' << components.m_dBoardValue4;
-  for (const CMCompsPanel* p : *components.m_pPanels) {
-    text << '(' << p->m_sBoardName << ' ' << p->m_dValue4 << ' ' << p->m_dValue5 << ' ' << p->m_nValue6 << ' '
-         << p->m_nValue7 << ' ' << p->m_nValue8 << ')';
-  }
-  return text.str();
-}
-
 struct Case {
   const char* lines;
   const char* model;
@@ -67,47 +29,52 @@ struct Case {
 
 TEST(NeutralReader, ReadsNetsAndPins) {
   const Case cases[] = {
-      {"NET A", "A{}"},
-      {"NET 'VCC 3V3'", "VCC 3V3{}"},
-      {"NET 'A 'B'  '", "A B{}"},
-      {"NET '\tA\t '", "\tA{}"},
-      {"NET A B\nNET A\nNET", "A{}"},
-      {"   NET   A   ", "A{}"},
+      {"NET A", "net{name=A}"},
+      {"NET 'VCC 3V3'", "net{name=[VCC 3V3]}"},
+      {"NET 'A 'B'  '", "net{name=[A B]}"},
+      {"NET '\tA\t '", "net{name=\tA}"},
+      {"NET A B\nNET A\nNET", "net{name=A}"},
+      {"   NET   A   ", "net{name=A}"},
       {"net A\nNETS A\n\tNET A\nNET\tA B", ""},
       {"NET A\nN_PIN U1-1 a b c d\nN_PIN 'U 1-12' a b c d e\nN_PIN R5-2-1 a b c d\nN_PIN X a b c d",
-       "A{U1|1;U_1|12;R5|2-1;|X;}"},
-      {"NET A\nN_PIN -1 a b c d\nN_PIN 1- a b c d\nN_PIN '' a b c d", "A{|1;1|;|;}"},
-      {"NET A\nN_PIN U1-1 a b c\nN_PROP x y\nN_VIA 1 2\nNET B\nN_PIN U1-2 'a b' c d e", "A{}B{U1|2;}"},
-      {"N_PIN U1-1 a b c d\nNET A", "A{}"},
-      {"NET A\n###Nets\nN_PIN U1-1 a b c d\nNET B", "A{}"},
+       "net{name=A pin{ref=U1 pin=1} pin{ref=U_1 pin=12} pin{ref=R5 pin=2-1} pin{pin=X}}"},
+      {"NET A\nN_PIN -1 a b c d\nN_PIN 1- a b c d\nN_PIN '' a b c d",
+       "net{name=A pin{pin=1} pin{ref=1} pin{}}"},
+      {"NET A\nN_PIN U1-1 a b c\nN_PROP x y\nN_VIA 1 2\nNET B\nN_PIN U1-2 'a b' c d e",
+       "net{name=A} net{name=B pin{ref=U1 pin=2}}"},
+      {"N_PIN U1-1 a b c d\nNET A", "net{name=A}"},
+      {"NET A\n###Nets\nN_PIN U1-1 a b c d\nNET B", "net{name=A}"},
   };
   for (const Case& c : cases) {
     Import import;
     Feed(import.reader, std::string("###Nets\n") + c.lines);
-    EXPECT_EQ(Nets(import.nets), c.model) << c.lines;
+    EXPECT_EQ(Described(import.nets), c.model) << c.lines;
   }
 }
 
 TEST(NeutralReader, ReadsComponentsAndTheirProperties) {
   const Case cases[] = {
-      {"COMP R1 'PN 1' S G 1.5 -2x 2 90.9", "R1 'PN 1' S G 1.5 -2 2 90{}"},
-      {"  COMP R1 P S G a b c d ", "R1 P S G 0 0 0 0{}"},
+      {"COMP R1 'PN 1' S G 1.5 -2x 2 90.9", " info{data{R1 ['PN 1'] S G 1.5 -2 2 90}}"},
+      {"  COMP R1 P S G a b c d ", " info{data{R1 P S G 0 0 0}}"},
       {"COMP R1 P S G 1 2 3\nCOMP R1 P S G 1 2 3 4 5\ncomp R1 P S G 1 2 3 4\nC_PROP (A,\"1\")", ""},
       {"COMP R P S G 1 2 3 4\nC_PIN x\nC_PROP (HEIGHT,\"2.5\") (VALUE , \"10 k\")",
-       "R P S G 1 2 3 4{HEIGHT=2.5;VALUE=10 k;}"},
+       " info{data{R P S G 1 2 3 4} comment{name=HEIGHT value=2.5} comment{name=VALUE value=[10 k]}}"},
       {"COMP R P S G 1 2 3 4\nC_PROP (A,\"x\"y\"z\") (B,\"half) (C,\"1\")",
-       "R P S G 1 2 3 4{A=x\"y\"z;B=half) (C,\"1;}"},
+       " info{data{R P S G 1 2 3 4} comment{name=A value=x\"y\"z} comment{name=B value=[half) (C,\"1]}}"},
       {"COMP R P S G 1 2 3 4\nC_PROP (noquotes,1) (no comma \"v\") ((A,\"1\") tail, \"t\"",
-       "R P S G 1 2 3 4{noquotes=;=v;(A=1;tail=t;}"},
-      {"COMP R P S G 1 2 3 4\nC_PROP (\"A\",\"1\") (,\"2\") ()", "R P S G 1 2 3 4{\"A\"=A\",\"1;=2;=;}"},
-      {"COMP R P S G 1 2 3 4\nC_PROP \nC_PROP\nC_PROP x)(A,\"1\")", "R P S G 1 2 3 4{A=1;}"},
+       " info{data{R P S G 1 2 3 4} comment{name=noquotes} comment{value=v} comment{name=(A value=1} "
+       "comment{name=tail value=t}}"},
+      {"COMP R P S G 1 2 3 4\nC_PROP (\"A\",\"1\") (,\"2\") ()",
+       " info{data{R P S G 1 2 3 4} comment{name=\"A\" value=A\",\"1} comment{value=2} comment{}}"},
+      {"COMP R P S G 1 2 3 4\nC_PROP \nC_PROP\nC_PROP x)(A,\"1\")",
+       " info{data{R P S G 1 2 3 4} comment{name=A value=1}}"},
       {"COMP R P S G 1 2 3 4\nCOMP Q P S G 1 2 3 4\n###Component\nC_PROP (A,\"1\")",
-       "R P S G 1 2 3 4{}Q P S G 1 2 3 4{}"},
+       " info{data{R P S G 1 2 3 4}} info{data{Q P S G 1 2 3 4}}"},
   };
   for (const Case& c : cases) {
     Import import;
     Feed(import.reader, std::string("###Component\n") + c.lines);
-    EXPECT_EQ(Components(import.components), c.model) << c.lines;
+    EXPECT_EQ(Described(import.components), std::string("readFlag=1") + c.model) << c.lines;
   }
 }
 
@@ -119,53 +86,58 @@ TEST(NeutralReader, GroupsReferenceLocationsByTen) {
   };
   struct GroupCase {
     std::string value;
-    const char* groups;
+    std::string groups;
   };
   const GroupCase cases[] = {
-      {"", "[0 0 0  0 0 0  ]"},
-      {"U1", "U1[0 0 0  0 0 0  ]"},
-      {"a,,b", "a[0 0 0  0 0 0  ]"},
-      {"U1,1.5,2.5,3.9,@CC,5,6,7,e,n", "U1[1.5 2.5 3 @CC 5 6 7 e n]"},
-      {numbered(11), "0[1 2 3 4 5 6 7 8 10]"},
-      {numbered(12), "0[1 2 3 4 5 6 7 8 10][11 0 0  0 0 0  ]"},
-      {numbered(21), "0[1 2 3 4 5 6 7 8 10][11 12 13 14 15 16 17 18 20]"},
-      {numbered(22), "0[1 2 3 4 5 6 7 8 10][11 12 13 14 15 16 17 18 20][21 0 0  0 0 0  ]"},
-      {numbered(40), "0[1 2 3 4 5 6 7 8 10][11 12 13 14 15 16 17 18 20][21 22 23 24 25 26 27 28 30]"},
+      {"", " refLoc{}"},
+      {"U1", " refLocFirst=U1 refLoc{}"},
+      {"a,,b", " refLocFirst=a refLoc{}"},
+      {"U1,1.5,2.5,3.9,@CC,5,6,7,e,n", " refLocFirst=U1 refLoc{1.5 2.5 3 @CC 5 6 7 e n}"},
+      {numbered(11), " refLocFirst=0 refLoc{1 2 3 4 5 6 7 8 10}"},
+      {numbered(12), " refLocFirst=0 refLoc{1 2 3 4 5 6 7 8 10} refLoc{11}"},
+      {numbered(21), " refLocFirst=0 refLoc{1 2 3 4 5 6 7 8 10} refLoc{11 12 13 14 15 16 17 18 20}"},
+      {numbered(22),
+       " refLocFirst=0 refLoc{1 2 3 4 5 6 7 8 10} refLoc{11 12 13 14 15 16 17 18 20} refLoc{21}"},
+      {numbered(40),
+       " refLocFirst=0 refLoc{1 2 3 4 5 6 7 8 10} refLoc{11 12 13 14 15 16 17 18 20} refLoc{21 22 23 24 25 "
+       "26 27 28 30}"},
   };
   for (const GroupCase& c : cases) {
     Import import;
     Feed(import.reader, "###Component\nCOMP R P S G 1 2 3 4\nC_PROP (REFLOC,\"" + c.value + "\")");
-    EXPECT_EQ(Components(import.components), std::string("R P S G 1 2 3 4{") + c.groups + "}") << c.value;
+    EXPECT_EQ(Described(import.components), "readFlag=1 info{data{R P S G 1 2 3 4}" + c.groups + "}")
+        << c.value;
   }
   Import import;
   Feed(import.reader,
        "###Component\nCOMP R P S G 1 2 3 4\nC_PROP (REFLOC,\"A,1\") (refloc,\"x\")\nC_PROP (REFLOC,\"B\")\n"
        "C_PROP (REFLOC,\"\")");
-  EXPECT_EQ(Components(import.components),
-            "R P S G 1 2 3 4{refloc=x;B[1 0 0  0 0 0  ][0 0 0  0 0 0  ][0 0 0  0 0 0  ]}");
+  EXPECT_EQ(Described(import.components),
+            "readFlag=1 info{data{R P S G 1 2 3 4} refLocFirst=B refLoc{1} refLoc{} refLoc{} "
+            "comment{name=refloc value=x}}");
 }
 
 TEST(NeutralReader, ReadsBoardAndPanel) {
   const Case cases[] = {
-      {"", " 0 0"},
-      {"B_UNITS MM", "MM 0 0"},
-      {"B_UNITS MM\nB_UNITS 'IN CH'\nB_UNITS a b\nB_UNITS", "'IN CH' 0 0"},
-      {"###Board Information\nBOARD B r X:12.5 A:B:7 1 2", " 12.5 7"},
-      {"###Board Information\nBOARD B r 12.5 : 1 2\nHOLE 1\nB_ATTR 1", " 12.5 0"},
-      {"###Board Information\nBOARD B r 1 2 5", " 0 0"},
-      {"BOARD B r 1 2 5 6", " 0 0"},
-      {"###Board Information of old\n###Board Information\nBOARD B r 1 2 5 6", " 0 0"},
-      {" ###Board Information\nBOARD B r 1 2 5 6", " 0 0"},
-      {"P_ADDP 1 'A B' 3 4.5 5 6.9 7 8\nP_ADDP 1 A 3 4 5 6 7", " 0 0('A B' 4.5 5 6 7 8)"},
+      {"", "readFlag=1"},
+      {"B_UNITS MM", "units=MM readFlag=1"},
+      {"B_UNITS MM\nB_UNITS 'IN CH'\nB_UNITS a b\nB_UNITS", "units=['IN CH'] readFlag=1"},
+      {"###Board Information\nBOARD B r X:12.5 A:B:7 1 2", "readFlag=1 board3=(12.5 7)"},
+      {"###Board Information\nBOARD B r 12.5 : 1 2\nHOLE 1\nB_ATTR 1", "readFlag=1 board3=(12.5)"},
+      {"###Board Information\nBOARD B r 1 2 5", "readFlag=1"},
+      {"BOARD B r 1 2 5 6", "readFlag=1"},
+      {"###Board Information of old\n###Board Information\nBOARD B r 1 2 5 6", "readFlag=1"},
+      {" ###Board Information\nBOARD B r 1 2 5 6", "readFlag=1"},
+      {"P_ADDP 1 'A B' 3 4.5 5 6.9 7 8\nP_ADDP 1 A 3 4 5 6 7",
+       "readFlag=1 panel{boardName=['A B'] 6=(6 7 8) 4=(4.5 5)}"},
   };
   for (const Case& c : cases) {
     Import import;
     Feed(import.reader, c.lines);
-    EXPECT_EQ(Board(import.components), c.model) << c.lines;
+    EXPECT_EQ(Described(import.components), c.model) << c.lines;
   }
-  EXPECT_EQ(Import().components.m_nReadFlag, 1);
-  EXPECT_EQ(CMComps().m_nReadFlag, 0);
-  EXPECT_EQ(tagMCOMPDATA().m_nValue7, 1);
+  EXPECT_EQ(test::InitialFieldsOf<CMComps>(), "");
+  EXPECT_EQ(test::InitialFieldsOf<tagMCOMPDATA>(), "[] [] [] [] 0 0 1");
 }
 
 std::string Placement(const char* board, int value6) {
@@ -176,26 +148,26 @@ TEST(NeutralReader, SelectsTheSectionsOfThePlacementThatQualifies) {
   const std::string board = "###Board Information\nBOARD B r 1 2 5 6\n";
   struct SelectionCase {
     std::string head;
-    const char* net;
+    std::string net;
     std::int64_t placement;
   };
   const SelectionCase cases[] = {
-      {"", "N1{}", -1},
-      {board, "N1{}", -1},
-      {Placement("B", 0), "N1{}", -1},
-      {Placement("B", 2) + Placement("B", 2) + Placement("B", 0) + board, "N3{}", 2},
-      {Placement("A", 0) + Placement("B", 5) + Placement("A", 0) + Placement("B", 1) + board, "N2{}", 3},
-      {Placement("B", 2) + Placement("B", 16) + board, "N1{}", -1},
-      {Placement("b", 0) + Placement("'B'", 0) + board, "N1{}", -1},
-      {Placement("'B'", 2) + Placement("'B'", 0) + "###Board Information\nBOARD 'B' r 1 2 5 6\n", "N2{}", 1},
-      {board + Placement("B", 2) + Placement("B", 0), "N1{}", -1},
-      {board + Placement("B", 2) + Placement("B", 0) + "BOARD too few\n", "N2{}", 1},
-      {Placement("B", 2) + Placement("B", 0) + "###Board Information\nBOARD B r 1 2 5\n", "N1{}", -1},
+      {"", "N1", -1},
+      {board, "N1", -1},
+      {Placement("B", 0), "N1", -1},
+      {Placement("B", 2) + Placement("B", 2) + Placement("B", 0) + board, "N3", 2},
+      {Placement("A", 0) + Placement("B", 5) + Placement("A", 0) + Placement("B", 1) + board, "N2", 3},
+      {Placement("B", 2) + Placement("B", 16) + board, "N1", -1},
+      {Placement("b", 0) + Placement("'B'", 0) + board, "N1", -1},
+      {Placement("'B'", 2) + Placement("'B'", 0) + "###Board Information\nBOARD 'B' r 1 2 5 6\n", "N2", 1},
+      {board + Placement("B", 2) + Placement("B", 0), "N1", -1},
+      {board + Placement("B", 2) + Placement("B", 0) + "BOARD too few\n", "N2", 1},
+      {Placement("B", 2) + Placement("B", 0) + "###Board Information\nBOARD B r 1 2 5\n", "N1", -1},
   };
   for (const SelectionCase& c : cases) {
     Import import;
     Feed(import.reader, c.head + "###Nets\nNET N1\n###Nets\nNET N2\n###Nets of the third\nNET N3\n");
-    EXPECT_EQ(Nets(import.nets), c.net) << c.head;
+    EXPECT_EQ(Described(import.nets), "net{name=" + c.net + "}") << c.head;
     EXPECT_EQ(import.selection.placement, c.placement) << c.head;
   }
   for (int value6 = -1; value6 <= 18; ++value6) {
@@ -262,9 +234,11 @@ TEST(NeutralReader, NearMissesBetweenRecordsChangeNothing) {
     const auto outcomes = Feed(import.reader, nearMisses + record);
     EXPECT_EQ(std::count(outcomes.begin(), outcomes.end() - 1, LineOutcome::Imported()), 0) << record;
   }
-  EXPECT_EQ(Nets(import.nets), "A{U|1;}");
-  EXPECT_EQ(Components(import.components), "R P S G 1 2 3 4{A=1;R[1 0 0  0 0 0  ]}");
-  EXPECT_EQ(Board(import.components), " 1 2(B 4 5 2 7 8)(B 4 5 1 7 8)");
+  EXPECT_EQ(Described(import.nets), "net{name=A pin{ref=U pin=1}}");
+  EXPECT_EQ(
+      Described(import.components),
+      "readFlag=1 board3=(1 2) info{data{R P S G 1 2 3 4} refLocFirst=R refLoc{1} comment{name=A value=1}} "
+      "panel{boardName=B 6=(2 7 8) 4=(4 5)} panel{boardName=B 6=(1 7 8) 4=(4 5)}");
 }
 
 }  // namespace

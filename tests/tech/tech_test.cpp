@@ -5,32 +5,16 @@
 
 #include "kestrin/tech/tech_model.h"
 #include "kestrin/tech/tech_reader.h"
+#include "support/described.h"
 #include "tests/support/feed.h"
 #include "tests/support/lists.h"
 
 namespace kestrin {
 namespace {
 
+using test::Described;
 using test::Feed;
 using test::Strings;
-
-/// The records of a model as one text: "number name [logical layers]" a layer, "via(first, second, last)" a
-/// rule.
-std::string Described(const CMTech& tech) {
-  std::string text;
-  for (const CMTechStackUpOrder* layer : *tech.m_pStackupArray) {
-    text += std::to_string(layer->m_nPhysicalLayerNumber) + " '" + layer->m_sPhysicalLayerName.GetString() +
-            "' [";
-    for (const CString& name : layer->m_arrLogicalLayerNames)
-      text += std::string("'") + name.GetString() + "'";
-    text += "]";
-  }
-  for (const CMTechVia* via : *tech.m_pViaArray) {
-    text += std::string("via(") + via->m_sArg1.GetString() + ", " + via->m_sArg2.GetString() + ", " +
-            via->m_sArgLast.GetString() + ")";
-  }
-  return text;
-}
 
 TEST(TechReader, TurnsEveryLineIntoItsRecord) {
   struct Case {
@@ -38,25 +22,30 @@ TEST(TechReader, TurnsEveryLineIntoItsRecord) {
     const char* model;
   };
   const Case cases[] = {
-      {R"($$define_physical_layer(1, "TOP", "SIGNAL_1", "PAD_1");)", "1 'TOP' ['SIGNAL_1''PAD_1']"},
-      {"$$define_physical_layer(2,,INNER1)", "2 'INNER1' []"},
-      {"$$define_physical_layer(2, ,INNER1)", "2 '' ['INNER1']"},
-      {R"($$define_physical_layer(2,"",INNER1))", "2 'INNER1' []"},
-      {R"($$define_physical_layer(3, "A,B"))", "3 'A' ['B']"},
-      {R"($$define_physical_layer( "4" , " T O P " ,	"x"	))", "4 'T O P' ['x']"},
-      {"$$define_physical_layer(x9, A)", "0 'A' []"},
-      {"$$define_physical_layer(-7up)", "-7 '' []"},
-      {"$$define_physical_layer()", "0 '' []"},
-      {"$$define_physical_layer", "0 '' []"},
-      {"$$define_physical_layer(1, TOP", "0 '' []"},
-      {"$$define_physical_layer 1, TOP)", "0 'TOP' []"},
-      {"1, T $$define_physical_layer)", "1 'T $$define_physical_layer' []"},
-      {") $$define_physical_layer(", "0 '' []"},
-      {"$$define_physical_layer((1), (TOP)) x)", "0 '(TOP)) x' []"},
-      {R"($$define_rule_via("V1", "P1", "L1", "L4"))", "via(V1, P1, L4)"},
-      {"$$define_rule_via(V1)", "via(V1, , )"},
-      {"# as in $$define_rule_via(V2, P2) of old", "via(V2, P2, )"},
-      {"$$define_rule_via(1, $$define_physical_layer)", "1 '$$define_physical_layer' []"},
+      {R"($$define_physical_layer(1, "TOP", "SIGNAL_1", "PAD_1");)",
+       "stackup{logicalLayerNames=[SIGNAL_1|PAD_1] physicalLayerName=TOP physicalLayerNumber=1}"},
+      {"$$define_physical_layer(2,,INNER1)", "stackup{physicalLayerName=INNER1 physicalLayerNumber=2}"},
+      {"$$define_physical_layer(2, ,INNER1)", "stackup{logicalLayerNames=[INNER1] physicalLayerNumber=2}"},
+      {R"($$define_physical_layer(2,"",INNER1))", "stackup{physicalLayerName=INNER1 physicalLayerNumber=2}"},
+      {R"($$define_physical_layer(3, "A,B"))",
+       "stackup{logicalLayerNames=[B] physicalLayerName=A physicalLayerNumber=3}"},
+      {R"($$define_physical_layer( "4" , " T O P " ,	"x"	))",
+       "stackup{logicalLayerNames=[x] physicalLayerName=[T O P] physicalLayerNumber=4}"},
+      {"$$define_physical_layer(x9, A)", "stackup{physicalLayerName=A}"},
+      {"$$define_physical_layer(-7up)", "stackup{physicalLayerNumber=-7}"},
+      {"$$define_physical_layer()", "stackup{}"},
+      {"$$define_physical_layer", "stackup{}"},
+      {"$$define_physical_layer(1, TOP", "stackup{}"},
+      {"$$define_physical_layer 1, TOP)", "stackup{physicalLayerName=TOP}"},
+      {"1, T $$define_physical_layer)",
+       "stackup{physicalLayerName=[T $$define_physical_layer] physicalLayerNumber=1}"},
+      {") $$define_physical_layer(", "stackup{}"},
+      {"$$define_physical_layer((1), (TOP)) x)", "stackup{physicalLayerName=[(TOP)) x]}"},
+      {R"($$define_rule_via("V1", "P1", "L1", "L4"))", "via{2=P1 argLast=L4 V1}"},
+      {"$$define_rule_via(V1)", "via{V1}"},
+      {"# as in $$define_rule_via(V2, P2) of old", "via{2=P2 V2}"},
+      {"$$define_rule_via(1, $$define_physical_layer)",
+       "stackup{physicalLayerName=$$define_physical_layer physicalLayerNumber=1}"},
       {"$$DEFINE_RULE_VIA(V1)", ""},
       {"$$define_rule(V1)", ""},
   };
@@ -81,7 +70,7 @@ TEST(TechReader, KeepsOrderAndTellsWhatBecameOfALine) {
   EXPECT_EQ(outcomes,
             (std::vector<LineOutcome>{LineOutcome::Imported(), LineOutcome::Ignored(), LineOutcome::Ignored(),
                                       LineOutcome::Ignored(), unknown, LineOutcome::Imported()}));
-  EXPECT_EQ(Described(tech), "via(V2, , )via(V1, , )");
+  EXPECT_EQ(Described(tech), "via{V2} via{V1}");
 }
 
 TEST(TechModel, LooksUpTheFirstLayerOfExactlyThisName) {
@@ -112,7 +101,7 @@ TEST(TechModel, CopiesShareTheirRecords) {
     copy = second;
     EXPECT_EQ(copy.m_pViaArray->GetAt(0), tech.m_pViaArray->GetAt(0));
   }
-  EXPECT_EQ(Described(copy), "via(V1, , )");
+  EXPECT_EQ(Described(copy), "via{V1}");
   copy.m_pViaArray->DeleteAll();
 }
 

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "support/described.h"
 #include "tests/support/feed.h"
-#include "tests/traces/described_traces.h"
 
 namespace kestrin {
 namespace {
@@ -28,77 +28,76 @@ void Expect(const std::vector<Case>& cases) {
   }
 }
 
+TEST(TracesModel, BeginsWithNoWidthInItsSegments) {
+  EXPECT_EQ(test::InitialFieldsOf<CMTracesSEG>(), "4=-1");
+  EXPECT_EQ(test::InitialFieldsOf<CMTraces>(), "");
+}
+
 TEST(TracesReader, ReadsBoardWideRecords) {
   Expect({
-      {"UNITS MM", "UNITS [MM]"},
-      {"UNITS MM\nUNITS 'IN CH' x", "UNITS ['IN CH']"},
-      {"ST 1.5 2.5 3.9 4", "ST 1.5 2.5 3 4"},
+      {"UNITS MM", "units=MM"},
+      {"UNITS MM\nUNITS 'IN CH' x", "units=['IN CH']"},
+      {"ST 1.5 2.5 3.9 4", "st=(1.5 2.5 3 4)"},
       {"ST 1 2 3 4 5", ""},
-      {"ST 1.9 2 3 4 5 6", "STLONG 1 2 3 4 5 6 -1 -1"},
+      {"ST 1.9 2 3 4 5 6", "stLong=(1 2 3 4 5 6 -1 -1)"},
       {"ST 1 2 3 4 5 6 7", ""},
-      {"ST 1 2 3 4\nST 7 6 5 4 3 2 1 0\nST 9 2 3 4 5 6 7 8 9", "ST 1 2 3 4 STLONG 7 6 5 4 3 2 -1 -1"},
-      {"XRF 3 U_1 EXTRA", "xrf{XRF 3 [U_1] [U_1] 0}"},
-      {"TET x 'P 1' 3 4.5 -5e1 6", "tet{TET 0 ['P 1'] 3 4.5 -50}"},
-      {"TTT 1 2.5 3 4 5\n TTT  9 8 7 6 5 4", "ttt{TTT 1 2.5 3 4 5; TTT 9 8 7 6 5}"},
+      {"ST 1 2 3 4\nST 7 6 5 4 3 2 1 0\nST 9 2 3 4 5 6 7 8 9", "st=(1 2 3 4) stLong=(7 6 5 4 3 2 -1 -1)"},
+      {"XRF 3 U_1 EXTRA", "xrf{3 U_1 U_1}"},
+      {"TET x 'P 1' 3 4.5 -5e1 6", "tet{0 ['P 1'] 3 4.5 -50}"},
+      {"TTT 1 2.5 3 4 5\n TTT  9 8 7 6 5 4", "ttt{1 2.5 3 4 5} ttt{9 8 7 6 5}"},
       {"VERX 1 2\nver 1 2\n\tUNITS MM\n#NET 'A'\n# NETS 'A'\n# UNITS MM", ""},
   });
 }
 
 TEST(TracesReader, ReadsTheRecordsOfANet) {
   Expect({
-      {"# NET 'A B' x", "net{NET [A B]}"},
-      {"# NET ''A'B'\n#  NET A\n# NET ''", "net{NET [A'B]; NET [A]; NET []}"},
-      {"# NET A\nWIR 1.9 2 3.5 4 5e0 6", "net{NET [A] wir{5 1 2 3.5 4 5}}"},
-      {"# NET A\nWIR 1 2 3 4", "net{NET [A] wir{5 0 0 0 0 0}}"},
-      {"# NET A\nINC 1 2.5 3 4 5 6 -7.9", "net{NET [A] inc{7 1 2.5 3 4 5 6 -7}}"},
-      {"# NET A\nINC 1 2 3 4 5 6 9e99", "net{NET [A] inc{7 1 2 3 4 5 6 2147483647}}"},
-      {"# NET A\nINC 1 2 3 4 5 6\nINC 1 2 3 4 5 6 7 8", "net{NET [A]}"},
-      {"# NET A\nANT 1 2 3 4 5", "net{NET [A] ant5{5 1 2 3 4 5}}"},
-      {"# NET A\nANT 1 2 3 4 5 6 7", "net{NET [A] ant7{7 1 2 3 4 5 6 7}}"},
-      {"# NET A\nANT 1 2 3 4\nANT 1 2 3 4 5 6\nANT 1 2 3 4 5 6 7 8", "net{NET [A]}"},
+      {"# NET 'A B' x", "net{name=[A B]}"},
+      {"# NET ''A'B'\n#  NET A\n# NET ''", "net{name=A'B} net{name=A} net{}"},
+      {"# NET A\nWIR 1.9 2 3.5 4 5e0 6", "net{name=A wir{1 2 3.5 4 5}}"},
+      {"# NET A\nWIR 1 2 3 4", "net{name=A wir{}}"},
+      {"# NET A\nINC 1 2.5 3 4 5 6 -7.9", "net{name=A inc{1 2.5 3 4 5 6 -7}}"},
+      {"# NET A\nINC 1 2 3 4 5 6 9e99", "net{name=A inc{1 2 3 4 5 6 2147483647}}"},
+      {"# NET A\nINC 1 2 3 4 5 6\nINC 1 2 3 4 5 6 7 8", "net{name=A}"},
+      {"# NET A\nANT 1 2 3 4 5", "net{name=A antWir{1 2 3 4 5}}"},
+      {"# NET A\nANT 1 2 3 4 5 6 7", "net{name=A antInc{1 2 3 4 5 6 7}}"},
+      {"# NET A\nANT 1 2 3 4\nANT 1 2 3 4 5 6\nANT 1 2 3 4 5 6 7 8", "net{name=A}"},
       {"# NET A\nGUI 1 2 3 4 5 6 7\nCHG 1.5 2.5 3.5 4.5 5.5 6.5",
-       "net{NET [A] gui{6 1 2 3 4 5 6} chg{6 1.5 2.5 3 4.5 5.5 6}}"},
+       "net{name=A gui{1 2 3 4 5 6} chg{1.5 2.5 3 4.5 5.5 6}}"},
   });
 }
 
 TEST(TracesReader, ReadsSegmentsAsFarAsTheirLineGoes) {
   const auto segment = [](const std::string& values, const std::string& record) {
-    return Case{"# NET A\nWIR 1 2 3 4 5\nSEG " + values,
-                "net{NET [A] wir{5 1 2 3 4 5 seg{SEG " + record + "}}}"};
+    return Case{"# NET A\nWIR 1 2 3 4 5\nSEG " + values, "net{name=A wir{1 2 3 4 5 seg{" + record + "}}}"};
   };
   Expect({
-      segment("1.5 2.5 3 12 X", "1.5 2.5 3 [] [X] 12"),
-      segment("1.5 2.5 3 12.5 X Y Z", "1.5 2.5 3 [12.5] [X] -1"),
-      segment("1 2 3 0012", "1 2 3 [] [] 12"),
-      segment("1 2 3 -1", "1 2 3 [-1] [] -1"),
-      segment("1 2 3 '12' 'A B'", "1 2 3 ['12'] ['A B'] -1"),
-      segment("1 2", "1 2 0 [] [] -1"),
-      segment("1", "1 0 0 [] [] -1"),
+      segment("1.5 2.5 3 12 X", "1.5 2.5 3 [] X 4=12"),
+      segment("1.5 2.5 3 12.5 X Y Z", "1.5 2.5 3 12.5 X"),
+      segment("1 2 3 0012", "1 2 3 4=12"),
+      segment("1 2 3 -1", "1 2 3 -1"),
+      segment("1 2 3 '12' 'A B'", "1 2 3 '12' ['A B']"),
+      segment("1 2", "1 2"),
+      segment("1", "1"),
   });
 }
 
 TEST(TracesReader, ReadsTheRecordsOfAFill) {
   Expect({
       {"FIL 'A' 'B C' 'S' 4 5 6 7 8 9.5 10 11 12 13 T1 'T2' 16",
-       "fil{FIL [A] [B C] ['S'] 4 5 6 7 8 9.5 10 11 12 [T1] ['T2'] [16] 0 0 0 0}"},
+       "fil{name=(A [B C]) 3=('S' 4 5 6 7 8 9.5 10 11 12) tail=(T1 'T2' 16)}"},
       {"FIL A B S 4 5 6 7 8 9 10 11 12 13 14.5 15 16.5 17.5 18 T1 T2 T3",
-       "fil{FIL [A] [B] [S] 4 5 6 7 8 9 10 11 12 [T1] [T2] [T3] 14 15 16.5 17.5}"},
-      {"FIL 1\nVER 1 2", "fil{FIL [] [] [] 0 0 0 0 0 0 0 0 0 [] [] [] 0 0 0 0 ver{VER 1 2}}"},
+       "fil{name=(A B) 3=(S 4 5 6 7 8 9 10 11 12) tail=(T1 T2 T3) ext=(14 15 16.5 17.5)}"},
+      {"FIL 1\nVER 1 2", "fil{ver{x=1 y=2}}"},
       {"FIL 1\nARE 'A' B S 4 5.5 6\nVER 1 2.5 3\nARS 1\nVER 3 4",
-       "fil{FIL [] [] [] 0 0 0 0 0 0 0 0 0 [] [] [] 0 0 0 0 are{AREA [A] [B] [S] 4 5.5 6 0 0 0 0 0 ver{VER 1 "
-       "2.5}} ars{AREA [] [] [] 0 0 0 0 0 0 0 0 ver{VER 3 4}}}"},
+       "fil{are{name=(A B) 3=(S 4 5.5 6) ver{x=1 y=2.5}} ars{ver{x=3 y=4}}}"},
       {"FIL 1\nARE A 'B' S 4 5 6 7 8\nARS A B S 4 5 6 7 8 9 10.5 11.5 12 13",
-       "fil{FIL [] [] [] 0 0 0 0 0 0 0 0 0 [] [] [] 0 0 0 0 are{AREA [A] [B] [S] 4 5 6 8 0 0 0 0} ars{AREA "
-       "[A] "
-       "[B] [S] 4 5 6 13 8 9 10.5 11.5}}"},
-      {"FIL 1\nISL 1.9 2\nVER 1 2\nISS 3\nVER 3 4",
-       "fil{FIL [] [] [] 0 0 0 0 0 0 0 0 0 [] [] [] 0 0 0 0 isl{ISL 1 ver{VER 1 2}} iss{ISS 3 ver{VER 3 "
-       "4}}}"},
+       "fil{are{name=(A B) 3=(S 4 5 6) lastValue=8} ars{name=(A B) 3=(S 4 5 6) lastValue=13 8=(8 9 10.5 "
+       "11.5)}}"},
+      {"FIL 1\nISL 1.9 2\nVER 1 2\nISS 3\nVER 3 4", "fil{isl{1 ver{x=1 y=2}} iss{3 ver{x=3 y=4}}}"},
       {"ARE A B S 4 5.5 6\nARE C D S 4 7 6\nTTI 1 2 'X Y'\nTTI 1 2 3 4.5 5.5 6.5 7\nTTI 1 2 3 4\nTTI 1 2",
-       "fil{FIL [A] [B] [] 0 0 0 1 0 5.5 0 0 0 [] [] [] 0 0 0 0 are{AREA [A] [B] [S] 4 5.5 6 0 0 0 0 0; AREA "
-       "[C] "
-       "[D] [S] 4 7 6 0 0 0 0 0} tti{TTI [A] [B] 1 2 ['X Y'] 0 0 0 0; TTI [A] [B] 1 2 [3] 4 5.5 6.5 7}}"},
-      {"ARS 1", "fil{FIL [] [] [] 0 0 0 1 0 0 0 0 0 [] [] [] 0 0 0 0 ars{AREA [] [] [] 0 0 0 0 0 0 0 0}}"},
+       "fil{name=(A B) 3=([] 0 0 0 1 0 5.5) are{name=(A B) 3=(S 4 5.5 6)} are{name=(C D) 3=(S 4 7 6)} "
+       "tti{name=(A B) 1 2 ['X Y']} tti{name=(A B) 1 2 3 4 5.5 6.5 7}}"},
+      {"ARS 1", "fil{3=([] 0 0 0 1) ars{}}"},
   });
 }
 
@@ -161,9 +160,9 @@ TEST(TracesReader, ANetHeaderClosesTheFillAndNothingElse) {
 
 TEST(TracesReader, QuotesStayOpenFromLineToLine) {
   Expect({
-      {"# NET 'A B\nTTT 1 2 3 4 5\nx' TTT 1 2 3 4 5\nTTT 1 2 3 4 5", "ttt{TTT 1 2 3 4 5} net{NET [A B]}"},
-      {"# it's\nUNITS IN\n  'UNITS' IN\n'\nUNITS MM", "UNITS [MM]"},
-      {"XRF 1 'a  'b' c'd\nXRF 2 ''", "xrf{XRF 1 ['a  'b' c'd] ['a  'b' c'd] 0; XRF 2 [''] [''] 0}"},
+      {"# NET 'A B\nTTT 1 2 3 4 5\nx' TTT 1 2 3 4 5\nTTT 1 2 3 4 5", "ttt{1 2 3 4 5} net{name=[A B]}"},
+      {"# it's\nUNITS IN\n  'UNITS' IN\n'\nUNITS MM", "units=MM"},
+      {"XRF 1 'a  'b' c'd\nXRF 2 ''", "xrf{1 ['a  'b' c'd] ['a  'b' c'd]} xrf{2 '' ''}"},
   });
 }
 

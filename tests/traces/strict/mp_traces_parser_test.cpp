@@ -13,8 +13,8 @@
 #include <vector>
 
 #include "kestrin/traces/traces_model.h"
+#include "support/described.h"
 #include "support/temporary_folder.h"
-#include "tests/traces/described_traces.h"
 
 namespace kestrin {
 namespace {
@@ -37,7 +37,7 @@ class MPTracesParserTest : public testing::Test {
 
 const std::string kBegin = "UNITS MM\nST 1 2 3 4\nXRF 1 U_1\n";
 const std::string kEnd = "ST 1 2 3 4\n";
-const std::string kModel = "UNITS [MM] ST 1 2 3 4 xrf{XRF 1 [U_1] [U_1] 0}";
+const std::string kModel = "units=MM st=(1 2 3 4) xrf{1 U_1 U_1}";
 
 TEST_F(MPTracesParserTest, ParsesAFileAndHandsItsModelOver) {
   MPTracesParser parser(Path(kBegin + kEnd).data());
@@ -64,7 +64,7 @@ TEST_F(MPTracesParserTest, WritesEveryErrorToStandardErrorAndKeepsTheLast) {
   EXPECT_EQ(parser.GetError(), "Traces File Error: parse error - ErrorLine : 6");
   EXPECT_EQ(parser.GetCurrentLineNum(), 8);
   const std::unique_ptr<CMTraces> traces(parser.GetTraces());
-  EXPECT_EQ(Described(*traces), kModel + " ttt{TTT 1 2 3 4 5}");
+  EXPECT_EQ(Described(*traces), kModel + " ttt{1 2 3 4 5}");
   parser.Close();
 }
 
@@ -137,12 +137,11 @@ std::string Parses(MPTracesParser& parser) {
 
 TEST_F(MPTracesParserTest, ReadsOnAfterTheTokenThatEndedAParse) {
   std::string many = "X\n" + kBegin;
-  std::string manyModel = kModel + " ttt{";
+  std::string manyModel = kModel;
   for (int i = 0; i < 10'000; ++i) {
     many += "TTT 1 2 3 4 5\n";
-    manyModel += "TTT 1 2 3 4 5; ";
+    manyModel += " ttt{1 2 3 4 5}";
   }
-  manyModel.replace(manyModel.size() - 2, 2, "}");
   struct Case {
     std::string text;
     std::string parses;
@@ -156,9 +155,7 @@ TEST_F(MPTracesParserTest, ReadsOnAfterTheTokenThatEndedAParse) {
       {"X (A\n" + kBegin + kEnd, "@0 @0 5 " + kModel},
       {"UNITS ST X\n1 " + application, "@0 @0 @1 4 " + kModel},
       {"FIL\n" + application + "ARE 'A' 'L' S 4 5 6 VER 1 2\n",  // the first FIL of another parse
-       "@0 6 " + kModel +
-           " fil{FIL [A] [L] [] 0 0 0 0 0 0 0 0 0 [] [] [] 0 0 0 0 are{AREA [A] [L] [S] 4 5 6 0 0 0 0 0 "
-           "ver{VER 1 2}}}"},
+       "@0 6 " + kModel + " fil{name=(A L) are{name=(A L) 3=(S 4 5 6) ver{x=1 y=2}}}"},
   };
   for (const Case& c : cases) {
     const std::string path = Path(c.text);
@@ -176,11 +173,11 @@ TEST_F(MPTracesParserTest, MakesAModelOfItsOwnWithEveryParse) {
   testing::internal::CaptureStderr();
   EXPECT_EQ(parser.Parse(), 1);
   const std::unique_ptr<CMTraces> rejected(parser.GetTraces());
-  EXPECT_EQ(Described(*rejected), kModel + " net{NET [A]}");
+  EXPECT_EQ(Described(*rejected), kModel + " net{name=A}");
   EXPECT_EQ(parser.Parse(), 0);
   const std::unique_ptr<CMTraces> accepted(parser.GetTraces());
-  EXPECT_EQ(Described(*accepted), kModel + " ttt{TTT 1 2 3 4 5}");
-  EXPECT_EQ(Described(*rejected), kModel + " net{NET [A]}");
+  EXPECT_EQ(Described(*accepted), kModel + " ttt{1 2 3 4 5}");
+  EXPECT_EQ(Described(*rejected), kModel + " net{name=A}");
   testing::internal::GetCapturedStderr();
   parser.Close();
 }

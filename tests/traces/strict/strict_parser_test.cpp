@@ -7,11 +7,11 @@
 #include <vector>
 
 #include "kestrin/traces/traces_reader.h"
+#include "support/described.h"
 #include "support/generators/generators.h"
 #include "support/source_of.h"
 #include "tests/support/content_of.h"
 #include "tests/support/feed.h"
-#include "tests/traces/described_traces.h"
 
 namespace kestrin {
 namespace {
@@ -20,7 +20,7 @@ using test::Described;
 using test::SourceOf;
 
 const std::string kBegin = "# Application x\nUNITS MM\nST 1 2 3 4\nXRF 1 U_1\n";
-const std::string kBeginModel = "UNITS [MM] ST 1 2 3 4 xrf{XRF 1 [U_1] [U_1] 0}";
+const std::string kBeginModel = "units=MM st=(1 2 3 4) xrf{1 U_1 U_1}";
 
 struct Case {
   std::string text;
@@ -44,20 +44,25 @@ void ExpectRecords(const std::vector<Case>& cases) {
 TEST(StrictParser, AcceptsTheFormsOfAFile) {
   ExpectAccepted(kBegin, kBeginModel);
   ExpectAccepted(kBegin + "ST 5 6 7 8 9 10\n",
-                 "UNITS [MM] ST 1 2 3 4 STLONG 5 6 7 8 9 10 -1 -1 xrf{XRF 1 [U_1] [U_1] 0}");
+                 "units=MM st=(1 2 3 4) stLong=(5 6 7 8 9 10 -1 -1) xrf{1 U_1 U_1}");
   ExpectAccepted("UNITS IN ST 1.5 2.5 3 4 XRF 1 A_1 XRF 2 A_2 ST 2 3 4 5",
-                 "UNITS [IN] ST 2 3 4 5 xrf{XRF 1 [A_1] [A_1] 0; XRF 2 [A_2] [A_2] 0}");
+                 "units=IN st=(2 3 4 5) xrf{1 A_1 A_1} xrf{2 A_2 A_2}");
   ExpectAccepted("UNITS IN\nST 1 2 3 4 5 6 7 8\nXRF 1 A_1\nST 9.5 8.5 7 6\n",
-                 "UNITS [IN] ST 9.5 8.5 7 6 STLONG 1 2 3 4 5 6 -1 -1 xrf{XRF 1 [A_1] [A_1] 0}");
+                 "units=IN st=(9.5 8.5 7 6) stLong=(1 2 3 4 5 6 -1 -1) xrf{1 A_1 A_1}");
 }
 
 TEST(StrictParser, AcceptsBoardWideRecords) {
   ExpectRecords({
-      {"TTT 1 2 3 4 5\nTTT 1 2.5 3 4 5", " ttt{TTT 1 2 3 4 5; TTT 1 2.5 3 4 5}"},
+      {"TTT 1 2 3 4 5\nTTT 1 2.5 3 4 5", " ttt{1 2 3 4 5} ttt{1 2.5 3 4 5}"},
       {"TET 1 A 2 3.5 4.5\nTET 1 $A 2.5 3.5 4.5\nTET 1 A 2 3 4",
-       " tet{TET 1 [A] 2 3.5 4.5; TET 1 [$A] 2.5 3.5 4.5; TET 1 [A] 2 3 4}"},
-      {"TTT 99999999999 99999999999 3 4 5", " ttt{TTT 2147483647 2.14748e+09 3 4 5}"},
+       " tet{1 A 2 3.5 4.5} tet{1 $A 2.5 3.5 4.5} tet{1 A 2 3 4}"},
+      {"TTT 99999999999 99999999999 3 4 5", " ttt{2147483647 2147483647 3 4 5}"},
   });
+}
+
+/// Two records of a list.
+std::string Both(const std::string& name, const std::string& first, const std::string& second) {
+  return " " + name + "{" + first + "} " + name + "{" + second + "}";
 }
 
 TEST(StrictParser, AcceptsTheRecordsOfANet) {
@@ -67,85 +72,71 @@ TEST(StrictParser, AcceptsTheRecordsOfANet) {
   const std::string realOpen = " 1 2.5 3.5 4 5.5 6.5 7\nSEG 1 2 3 4\n";
   const std::string six = " 1 2 3 4 5 6\n";
   const std::string realSix = " 1.5 2.5 3 4.5 5.5 6\n";
-  const std::string seg = " seg{SEG 1 2 3 [] [] 4}";
-  const std::string wires = "{5 1 2 3 4 5" + seg + "; 5 1 2.5 3.5 4.5 5.5" + seg + "}";
-  const std::string opens = "{7 1 2 3 4 5 6 7" + seg + "; 7 1 2.5 3.5 4 5.5 6.5 7" + seg + "}";
-  const std::string sixes = "{6 1 2 3 4 5 6; 6 1.5 2.5 3 4.5 5.5 6}";
+  const auto wires = [](const std::string& name) {
+    return Both(name, "1 2 3 4 5 seg{1 2 3 4=4}", "1 2.5 3.5 4.5 5.5 seg{1 2 3 4=4}");
+  };
+  const auto opens = [](const std::string& name) {
+    return Both(name, "1 2 3 4 5 6 7 seg{1 2 3 4=4}", "1 2.5 3.5 4 5.5 6.5 7 seg{1 2 3 4=4}");
+  };
+  const auto sixes = [](const std::string& name) { return Both(name, "1 2 3 4 5 6", "1.5 2.5 3 4.5 5.5 6"); };
   ExpectRecords({
-      {"# NET 'A B'\n# NET 'C'", " net{NET [A B]; NET [C]}"},
-      {"# NET 'A'\nWIR" + wire + "WIR" + realWire, " net{NET [A] wir" + wires + "}"},
-      {"# NET 'A'\nINC" + open + "INC" + realOpen, " net{NET [A] inc" + opens + "}"},
-      {"# NET 'A'\nANT" + wire + "ANT" + realWire, " net{NET [A] ant5" + wires + "}"},
-      {"# NET 'A'\nANT" + open + "ANT" + realOpen, " net{NET [A] ant7" + opens + "}"},
+      {"# NET 'A B'\n# NET 'C'", " net{name=[A B]} net{name=C}"},
+      {"# NET 'A'\nWIR" + wire + "WIR" + realWire, " net{name=A" + wires("wir") + "}"},
+      {"# NET 'A'\nINC" + open + "INC" + realOpen, " net{name=A" + opens("inc") + "}"},
+      {"# NET 'A'\nANT" + wire + "ANT" + realWire, " net{name=A" + wires("antWir") + "}"},
+      {"# NET 'A'\nANT" + open + "ANT" + realOpen, " net{name=A" + opens("antInc") + "}"},
       {"# NET 'A'\nGUI" + six + "GUI" + realSix + "CHG" + six + "CHG" + realSix,
-       " net{NET [A] gui" + sixes + " chg" + sixes + "}"},
+       " net{name=A" + sixes("gui") + sixes("chg") + "}"},
       {"# NET 'A'\nWIR 1 2 3 4 5\nSEG 1.5 2.5 3.9 0012\nSEG 1 2 9e99 12.5 X\nSEG x 1x 3 -1 X Y",
-       " net{NET [A] wir{5 1 2 3 4 5 seg{SEG 1.5 2.5 3 [] [] 12; SEG 1 2 2147483647 [12.5] [X] -1; "
-       "SEG 0 1 3 [-1] [X] -1}}}"},
+       " net{name=A wir{1 2 3 4 5 seg{1.5 2.5 3 4=12} seg{1 2 2147483647 12.5 X} seg{0 1 3 -1 X}}}"},
   });
 }
 
-const std::string kFil = "FIL 'A' 'B' S 4 5 6 7 8 ";
-const std::string kFill = kFil + "9 10 11 12 T A B C\nVER 1 2\n";
-const std::string kFillModel = "FIL [A] [B] [S] 4 5 6 7 8 9 10 11 12 [A] [B] [C] 0 0 0 0 ver{VER 1 2}";
-
 TEST(StrictParser, AcceptsFillHeaders) {
-  std::vector<Case> cases;
-  for (unsigned form = 0; form < 32;
-       ++form) {  // value 9, no extension or one of two, and each item of the tail
-    const auto pick = [form](unsigned bit, const char* one, const char* other) {
-      return std::string((form >> bit) % 2 == 0 ? one : other);
-    };
-    const std::string extensions[] = {"", "E 14 15 16 17 ", "E 14.9 -15.9 16.5 17.5 "};
-    const std::string extended[] = {"0 0 0 0", "14 15 16 17", "14 -15 16.5 17.5"};
-    for (unsigned extension = 0; extension < 3; ++extension) {
-      cases.push_back({kFil + pick(3, "9", "9.5") + " 10 11 12 " + extensions[extension] + "T " +
-                           pick(0, "A", "0012") + " " + pick(1, "B", "-7") + " " + pick(2, "C", "0") +
-                           pick(4, "\nVER 1 2", " VER 1.5 2.5"),
-                       " fil{FIL [A] [B] [S] 4 5 6 7 8 " + pick(3, "9", "9.5") + " 10 11 12 [" +
-                           pick(0, "A", "12") + "] [" + pick(1, "B", "-7") + "] [" + pick(2, "C", "0") +
-                           "] " + extended[extension] + " ver{VER " + pick(4, "1 2", "1.5 2.5") + "}}"});
-    }
+  const Case headers[] = {
+      {"9 10 11 12 T A B C\nVER 1 2", "9 10 11 12) tail=(A B C) ver{x=1 y=2}"},
+      {"9.5 10 11 12 T A B 0 VER 1.5 2.5", "9.5 10 11 12) tail=(A B 0) ver{x=1.5 y=2.5}"},
+      {"9 10 11 12 E 14 15 16 17 T A -7 C VER 1 2 VER 3 4",
+       "9 10 11 12) tail=(A -7 C) ext=(14 15 16 17) ver{x=1 y=2} ver{x=3 y=4}"},
+      {"9.5 10 11 12 E 14.9 -15.9 16.5 17.5 T A -7 0 VER 1 2",
+       "9.5 10 11 12) tail=(A -7 0) ext=(14 -15 16.5 17.5) ver{x=1 y=2}"},
+      {"9 10 11 12 E 14 15 16 17 T 0012 B C VER 1 2",
+       "9 10 11 12) tail=(12 B C) ext=(14 15 16 17) ver{x=1 y=2}"},
+      {"9 10 11 12 T 0012 B 0 VER 1 2", "9 10 11 12) tail=(12 B 0) ver{x=1 y=2}"},
+      {"9 10 11 12 T 0012 -7 C VER 1 2", "9 10 11 12) tail=(12 -7 C) ver{x=1 y=2}"},
+      {"9 10 11 12 T 0012 -7 0 VER 1 2", "9 10 11 12) tail=(12 -7 0) ver{x=1 y=2}"},
+  };
+  for (const Case& header : headers) {
+    ExpectAccepted(kBegin + "FIL 'A b' '$' $ 4 5 6 7 8 " + header.text,
+                   kBeginModel + " fil{name=([A b] $) 3=($ 4 5 6 7 8 " + header.model + "}");
   }
-  ExpectRecords(cases);
-  ExpectRecords(
-      {{"FIL 'A b' '$' $ 4 5 6 7 8 9 10 11 12 T $A B C VER 1 2 VER 3 4",
-        " fil{FIL [A b] [$] [$] 4 5 6 7 8 9 10 11 12 [$A] [B] [C] 0 0 0 0 ver{VER 1 2; VER 3 4}}"}});
 }
 
 TEST(StrictParser, AcceptsTheRecordsOfAFill) {
-  std::string records;
-  std::string areas;
+  const std::string fill = "FIL 'A' 'B' S 4 5 6 7 8 9 10 11 12 T A B C\nVER 1 2\n";
+  const std::string fillModel = " fil{name=(A B) 3=(S 4 5 6 7 8 9 10 11 12) tail=(A B C) ver{x=1 y=2}";
   const Case tails[] = {
-      {"5 6", "5 6 0 0 0 0 0"},
-      {"5.5 6", "5.5 6 0 0 0 0 0"},
-      {"5 6 W 8", "5 6 8 0 0 0 0"},
-      {"5.5 6 W 8", "5.5 6 8 0 0 0 0"},
-      {"5 6 W 8 9 10 11 X 13", "5 6 13 8 9 10 11"},
-      {"5.5 6 W 8.9 -9.9 10.5 11.5 X 13", "5.5 6 13 8 -9 10.5 11.5"},
+      {"5 6", "5 6)"},
+      {"5.5 6", "5.5 6)"},
+      {"5 6 W 8", "5 6) lastValue=8"},
+      {"5.5 6 W 8", "5.5 6) lastValue=8"},
+      {"5 6 W 8 9 10 11 X 13", "5 6) lastValue=13 8=(8 9 10 11)"},
+      {"5.5 6 W 8.9 -9.9 10.5 11.5 X 13", "5.5 6) lastValue=13 8=(8 -9 10.5 11.5)"},
   };
   for (const Case& tail : tails) {
-    records += " A 'B' S 4 " + tail.text + "\nVER 1 2\n";
-    areas +=
-        (areas.empty() ? "{AREA [A] [B] [S] 4 " : "; AREA [A] [B] [S] 4 ") + tail.model + " ver{VER 1 2}";
+    const std::string area = " A 'B' S 4 " + tail.text + "\nVER 1 2\n";
+    const std::string areaModel = "{name=(A B) 3=(S 4 " + tail.model + " ver{x=1 y=2}}";
+    ExpectRecords({
+        {"ARE" + area, " fil{name=(A B) are" + areaModel + "}"},
+        {fill + "ARE" + area, fillModel + " are" + areaModel + "}"},
+        {fill + "ARS" + area, fillModel + " ars" + areaModel + "}"},
+    });
   }
-  areas += "}";
-  const auto coded = [&records](const std::string& code) {
-    std::string text;
-    std::istringstream lines(records);
-    for (std::string line; std::getline(lines, line);) text += (line[0] == ' ' ? code : "") + line + "\n";
-    return text;
-  };
-  const std::string loose = " fil{FIL [A] [B] [] 0 0 0 0 0 0 0 0 0 [] [] [] 0 0 0 0";
   ExpectRecords({
-      {coded("ARE"), loose + " are" + areas + "}"},
-      {kFill + coded("ARE"), " fil{" + kFillModel + " are" + areas + "}"},
-      {kFill + coded("ARS"), " fil{" + kFillModel + " ars" + areas + "}"},
-      {kFill + "ISL 1 VER 1 2 ISS 2 VER 1 2 ISL 3 VER 1 2",
-       " fil{" + kFillModel + " isl{ISL 1 ver{VER 1 2}; ISL 3 ver{VER 1 2}} iss{ISS 2 ver{VER 1 2}}}"},
-      {kFill + "TTI 1 2 W\nTTI 1.5 2.5 W\nTTI 1 2 -3 4 5 6 7\nTTI 1.5 2.5 003 4 5.5 6.5 7",
-       " fil{" + kFillModel + " tti{TTI [] [] 1 2 [W] 0 0 0 0; TTI [] [] 1.5 2.5 [W] 0 0 0 0; " +
-           "TTI [] [] 1 2 [-3] 4 5 6 7; TTI [] [] 1.5 2.5 [3] 4 5.5 6.5 7}}"},
+      {fill + "ISL 1 VER 1 2 ISS 2 VER 1 2 ISL 3 VER 1 2",
+       fillModel + " isl{1 ver{x=1 y=2}} isl{3 ver{x=1 y=2}} iss{2 ver{x=1 y=2}}}"},
+      {fill + "TTI 1 2 W\nTTI 1.5 2.5 W\nTTI 1 2 -3 4 5 6 7\nTTI 1.5 2.5 003 4 5.5 6.5 7",
+       fillModel + " tti{1 2 W} tti{1.5 2.5 W} tti{1 2 -3 4 5 6 7} tti{1.5 2.5 3 4 5.5 6.5 7}}"},
   });
 }
 

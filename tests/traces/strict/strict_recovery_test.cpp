@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "kestrin/traces/strict/strict_parser.h"
+#include "support/described.h"
 #include "support/source_of.h"
-#include "tests/traces/described_traces.h"
 
 namespace kestrin {
 namespace {
@@ -16,7 +16,7 @@ using test::SourceOf;
 
 const std::string kWithout = "UNITS MM\nST 1 2 3 4\nXRF 1 U_1\n";  // three lines
 const std::string kWith = "# Application x\n" + kWithout;
-const std::string kModel = "UNITS [MM] ST 1 2 3 4 xrf{XRF 1 [U_1] [U_1] 0}";
+const std::string kModel = "units=MM st=(1 2 3 4) xrf{1 U_1 U_1}";
 const std::string kEnd = "ST 1 2 3 4\n";
 
 /// What a parse left: result, the lines of the errors reported, and the model.
@@ -46,20 +46,20 @@ TEST(StrictRecovery, NothingResumesBeforeTheRecords) {
       {"\n\n", "1 @2 no model"},
       {"ST 1 2 3 4\n", "1 @0 no model"},
       {"# Application x\n# Application x\n" + kWithout, "1 @1 no model"},
-      {"UNITS MM\nUNITS IN\n", "1 @1 only UNITS [MM]"},
-      {"UNITS MM\nST 1 2 3\nXRF 1 U_1\n", "1 @2 only UNITS [MM]"},
+      {"UNITS MM\nUNITS IN\n", "1 @1 only units=MM"},
+      {"UNITS MM\nST 1 2 3\nXRF 1 U_1\n", "1 @2 only units=MM"},
   });
 }
 
 TEST(StrictRecovery, AnErrorInsideANetDropsThatNet) {
   const std::string nets = "# NET 'A'\n# NET 'B'\nGUI 1 2 3 4 5 6\nGUI 1 2 3.5 4 5 6\nGUI 1 2 3 4 5 6\n";
   Expect({
-      {kWithout + nets + "# NET 'C'\n" + kEnd, "0 @6 net{NET [A]; NET [C]}"},
+      {kWithout + nets + "# NET 'C'\n" + kEnd, "0 @6 net{name=A} net{name=C}"},
       {kWithout + nets + "FIL 'A' 'B' S 4 5 6 7 8 9 10 11 12 T A B C\nVER X\nTET 1 A 2 3 4\n" + kEnd,
-       "0 @6 @9 tet{TET 1 [A] 2 3 4} net{NET [A]}"},
-      {kWithout + nets + kEnd, "0 @6 net{NET [A]}"},
-      {kWithout + nets, "1 @6 net{NET [A]}"},
-      {kWith + nets + "# NET 'C'\n", "1 @7 net{NET [A]}"},
+       "0 @6 @9 tet{1 A 2 3 4} net{name=A}"},
+      {kWithout + nets + kEnd, "0 @6 net{name=A}"},
+      {kWithout + nets, "1 @6 net{name=A}"},
+      {kWith + nets + "# NET 'C'\n", "1 @7 net{name=A}"},
       {kWithout + "# NET 'A'\nWIR 1 2 3 4 5\nSEG 1 2 3\nSEG 1 2 3 4\n" + kEnd, "0 @6"},
   });
 }
@@ -67,58 +67,58 @@ TEST(StrictRecovery, AnErrorInsideANetDropsThatNet) {
 TEST(StrictRecovery, AnErrorAtATokenThatStartsARecordResumesThere) {
   const std::string nets = "# NET 'A'\n# NET 'B'\nGUI 1 2 3 4 5\n";
   Expect({
-      {kWithout + nets + "# NET 'C'\n" + kEnd, "0 @6 net{NET [A]; NET [C]}"},
-      {kWith + nets + "# NET 'C'\n", "0 @7 net{NET [A]; NET [C]}"},
-      {kWith + nets + kEnd, "0 @7 net{NET [A]}"},
-      {kWith + nets + "TTT 1 2 3 4 5\n", "0 @7 ttt{TTT 1 2 3 4 5} net{NET [A]}"},
-      {"UNITS MM\nST 1 2 3 4\nTTT 1 2 3 4 5\n" + kEnd, "0 @2 only UNITS [MM] ST 1 2 3 4 ttt{TTT 1 2 3 4 5}"},
+      {kWithout + nets + "# NET 'C'\n" + kEnd, "0 @6 net{name=A} net{name=C}"},
+      {kWith + nets + "# NET 'C'\n", "0 @7 net{name=A} net{name=C}"},
+      {kWith + nets + kEnd, "0 @7 net{name=A}"},
+      {kWith + nets + "TTT 1 2 3 4 5\n", "0 @7 ttt{1 2 3 4 5} net{name=A}"},
+      {"UNITS MM\nST 1 2 3 4\nTTT 1 2 3 4 5\n" + kEnd, "0 @2 only units=MM st=(1 2 3 4) ttt{1 2 3 4 5}"},
   });
 }
 
 TEST(StrictRecovery, AnErrorBehindACompleteNetKeepsIt) {
   Expect({
-      {kWithout + "# NET 'A'\nXRF 2 U_2\n# NET 'B'\n" + kEnd, "0 @4 net{NET [A]; NET [B]}"},
-      {kWith + "# NET 'A'\nXRF 2 U_2\n# NET 'B'\n", "1 @5 net{NET [A]}"},
-      {kWithout + "# NET 'A'\nVER 1 2\n- 1-2\n# NET 'B'\n" + kEnd, "0 @4 net{NET [A]; NET [B]}"},
+      {kWithout + "# NET 'A'\nXRF 2 U_2\n# NET 'B'\n" + kEnd, "0 @4 net{name=A} net{name=B}"},
+      {kWith + "# NET 'A'\nXRF 2 U_2\n# NET 'B'\n", "1 @5 net{name=A}"},
+      {kWithout + "# NET 'A'\nVER 1 2\n- 1-2\n# NET 'B'\n" + kEnd, "0 @4 net{name=A} net{name=B}"},
   });
 }
 
 TEST(StrictRecovery, AnErrorInsideAFillDropsItButNoFillThatWasComplete) {
   const std::string fill = "FIL 'A' 'L' S 4 5 6 7 8 9 10 11 12 T A B C\nVER 1 2\n";
   const std::string other = "ARE 'B' 'L' S 4 5 6\nVER 1 2\n";
-  const std::string first = "FIL [A] [L] [S] 4 5 6 7 8 9 10 11 12 [A] [B] [C] 0 0 0 0 ver{VER 1 2}";
-  const std::string area = "AREA [B] [L] [S] 4 5 6 0 0 0 0 0 ver{VER 1 2}";
-  const std::string loose = "FIL [B] [L] [] 0 0 0 0 0 0 0 0 0 [] [] [] 0 0 0 0 are{" + area;
+  const std::string first = "fil{name=(A L) 3=(S 4 5 6 7 8 9 10 11 12) tail=(A B C) ver{x=1 y=2}";
+  const std::string area = "are{name=(B L) 3=(S 4 5 6) ver{x=1 y=2}}";
+  const std::string loose = "fil{name=(B L) " + area;
   Expect({
-      {kWithout + fill + "ISL 1\nISL 2\nVER 1 2\n" + fill + kEnd, "0 @6 fil{" + first + "}"},
+      {kWithout + fill + "ISL 1\nISL 2\nVER 1 2\n" + fill + kEnd, "0 @6 " + first + "}"},
       {kWith + fill + "ISL 1\nISL 2\nVER 1 2\n" + fill, "1 @7"},
-      {kWith + fill + fill + "ISL 1\n# NET 'A'\n", "0 @9 net{NET [A]} fil{" + first + "}"},
-      {kWith + fill + other + "ISL 1\n# NET 'A'\n", "0 @9 net{NET [A]} fil{" + first + "}"},
+      {kWith + fill + fill + "ISL 1\n# NET 'A'\n", "0 @9 net{name=A} " + first + "}"},
+      {kWith + fill + other + "ISL 1\n# NET 'A'\n", "0 @9 net{name=A} " + first + "}"},
       {kWithout + fill + other + "ISL X\n" + fill + "TTI 1 2 W\n" + kEnd,
-       "0 @7 fil{" + first + "; " + first + " tti{TTI [B] [L] 1 2 [W] 0 0 0 0}}"},
-      {kWithout + other + "XRF 2 U_2\n" + other + kEnd, "0 @5 fil{" + loose + "; " + area + "}}"},
-      {kWithout + fill + "TTT 1 2 3 4 5\n" + other + kEnd, "0 @6 ttt{TTT 1 2 3 4 5} fil{" + first + "}"},
+       "0 @7 " + first + "} " + first + " tti{name=(B L) 1 2 W}}"},
+      {kWithout + other + "XRF 2 U_2\n" + other + kEnd, "0 @5 " + loose + " " + area + "}"},
+      {kWithout + fill + "TTT 1 2 3 4 5\n" + other + kEnd, "0 @6 ttt{1 2 3 4 5} " + first + "}"},
   });
 }
 
 TEST(StrictRecovery, AnErrorLessThanThreeTokensBehindAnotherIsNotReported) {
   const std::string good = "TTT 1 2 3 4 5\n" + kEnd;
   Expect({
-      {kWithout + "TTT X\nTTT X\nTTT 1 X\n" + good, "0 @3 ttt{TTT 1 2 3 4 5}"},
-      {kWithout + "TTT X\nTTT 1 2 X\n" + good, "0 @3 @4 ttt{TTT 1 2 3 4 5}"},
-      {kWith + "TTT 1\nTTT TTT TTT 1\nTTT 1 2\n" + good, "0 @5 @7 ttt{TTT 1 2 3 4 5}"},
+      {kWithout + "TTT X\nTTT X\nTTT 1 X\n" + good, "0 @3 ttt{1 2 3 4 5}"},
+      {kWithout + "TTT X\nTTT 1 2 X\n" + good, "0 @3 @4 ttt{1 2 3 4 5}"},
+      {kWith + "TTT 1\nTTT TTT TTT 1\nTTT 1 2\n" + good, "0 @5 @7 ttt{1 2 3 4 5}"},
       {kWith + "TTT 1\nTTT X\n" + good, "1 @5"},
   });
 }
 
 TEST(StrictRecovery, TheEndOfTheFileEndsARecovery) {
   Expect({
-      {kWithout + "# NET 'A'\n", "1 @4 net{NET [A]}"},
+      {kWithout + "# NET 'A'\n", "1 @4 net{name=A}"},
       {kWithout + "TTT 1 2\n", "1 @4"},
       {kWithout + "TTT X\nTTT 1", "1 @3"},
-      {kWith + "# NET 'A'\nTTT 1 2\n", "0 @6 net{NET [A]}"},
+      {kWith + "# NET 'A'\nTTT 1 2\n", "0 @6 net{name=A}"},
       {kWithout + kEnd + "TTT 1 2 3 4 5\n" + kEnd, "1 @4"},
-      {kWithout + "ST 1 2 X\nTTT 1 2 3 4 5\n" + kEnd, "0 @3 ttt{TTT 1 2 3 4 5}"},
+      {kWithout + "ST 1 2 X\nTTT 1 2 3 4 5\n" + kEnd, "0 @3 ttt{1 2 3 4 5}"},
   });
 }
 

@@ -9,14 +9,14 @@
 #include <utility>
 #include <vector>
 
-#include "tests/traces/described_traces.h"
+#include "support/described.h"
 
 namespace kestrin {
 namespace {
 
 const std::string kBegin = "UNITS MM\nST 1 2 3 4\nXRF 1 U_1\n";
 const std::string kEnd = "ST 1 2 3 4\n";
-const std::string kModel = "UNITS [MM] ST 1 2 3 4 xrf{XRF 1 [U_1] [U_1] 0}";
+const std::string kModel = "units=MM st=(1 2 3 4) xrf{1 U_1 U_1}";
 
 /// A source that does one of these things each time it is asked, and has then ended.
 using Step = std::function<std::string()>;
