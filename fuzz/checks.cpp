@@ -29,7 +29,20 @@ std::vector<std::string_view> LinesOf(std::string_view text) {
   return lines;
 }
 
-std::string RequireJson(std::string document) {
+std::string ValidJson(const std::function<void(tool::JsonWriter&)>& write) {
+  std::string document;
+  const auto append = [](void* cookie, const char* bytes, std::size_t size) {
+    static_cast<std::string*>(cookie)->append(bytes, size);
+    return static_cast<ssize_t>(size);
+  };
+  std::FILE* stream =
+      fopencookie(&document, "w", {.read = nullptr, .write = append, .seek = nullptr, .close = nullptr});
+  {
+    const auto json = std::make_unique<tool::JsonWriter>(stream);  // with a buffer too large for the stack
+    write(*json);
+    json->Finish();
+  }
+  std::fclose(stream);
   rapidjson::MemoryStream text(document.data(), document.size());
   rapidjson::Reader reader;
   rapidjson::BaseReaderHandler<> anything;

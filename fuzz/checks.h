@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -14,7 +15,7 @@
 #include "kestrin/framework/exceptions.h"
 #include "kestrin/session/import_report.h"
 #include "kestrin/text/line_outcome.h"
-#include "support/model_dump.h"
+#include "tool/model_json.h"
 
 namespace kestrin::fuzz {
 
@@ -28,13 +29,17 @@ void Require(bool isKept, const char* promise);
 /// The lines of a text as the session's readers get them.
 [[nodiscard]] std::vector<std::string_view> LinesOf(std::string_view text);
 
-/// Requires a valid JSON document, and returns it.
-[[nodiscard]] std::string RequireJson(std::string document);
+/// What is written as JSON; requires that it is a valid document.
+[[nodiscard]] std::string ValidJson(const std::function<void(tool::JsonWriter&)>& write);
 
 /// Models as JSON, whole.
-template <class... MODELS>
-[[nodiscard]] std::string Dump(const MODELS&... models) {
-  return RequireJson(test::Dump(models...));
+template <class... Models>
+[[nodiscard]] std::string Dump(const Models&... models) {
+  return ValidJson([&](tool::JsonWriter& json) {
+    json.StartArray();
+    (WriteJson(json, models), ...);
+    json.EndArray();
+  });
 }
 
 /// Requires that a line that is skipped is skipped for a reason.

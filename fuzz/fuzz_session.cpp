@@ -105,8 +105,8 @@ Import Run(const Files& files, bool withDialog) {
   }
   memory.RequireInProportion(size);
   import.tracesLines = static_cast<std::size_t>(session.GetReport().Of(ImportFile::kTraces).linesRead);
-  import.models = {test::Dump(*session.GetTech()), test::Dump(*session.GetComps(), *session.GetNetList()),
-                   test::Dump(*session.GetGeom()), test::Dump(*session.GetTraces())};
+  import.models = {Dump(*session.GetTech()), Dump(*session.GetComps(), *session.GetNetList()),
+                   Dump(*session.GetGeom()), Dump(*session.GetTraces())};
   return import;
 }
 

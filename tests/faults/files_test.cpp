@@ -10,7 +10,6 @@
 #include "kestrin/framework/exceptions.h"
 #include "kestrin/traces/strict/mp_traces_parser.h"
 #include "kestrin/traces/strict/strict_parser.h"
-#include "support/model_dump.h"
 #include "support/source_of.h"
 #include "support/temporary_folder.h"
 #include "tests/faults/faults.h"
@@ -35,12 +34,12 @@ TEST(FaultyFile, AReadErrorEndsTheImportBehindTheLastWholeLine) {
                         Case{ImportFile::kTraces, "traces", &CPC_KESTRIN_GET::TraceFileParse}}) {
     const std::string path = test::BoardFile(c.kind);
     const std::string text = test::ContentOf(path);
-    const auto dumpOf = [&c](const std::string& file) {
+    const auto modelsOf = [&c](const std::string& file) {
       CPC_KESTRIN_GET session;
       (session.*c.read)(file);
-      return test::DumpOf(session);
+      return test::DescribedModels(session);
     };
-    const std::string whole = dumpOf(path);
+    const std::string whole = modelsOf(path);
     for (std::size_t readable = 0; readable < text.size(); readable += 37) {
       CPC_KESTRIN_GET session;
       CWnd dialog;
@@ -54,9 +53,9 @@ TEST(FaultyFile, AReadErrorEndsTheImportBehindTheLastWholeLine) {
       EXPECT_EQ(report.end, ReadingEnd::kStopped);
       const std::string read = text.substr(0, text.substr(0, readable).rfind('\n') + 1);
       EXPECT_EQ(report.linesRead, std::count(read.begin(), read.end(), '\n'));
-      EXPECT_EQ(test::DumpOf(session), dumpOf(folder.File("cut", read)));
+      EXPECT_EQ(test::DescribedModels(session), modelsOf(folder.File("cut", read)));
       (session.*c.read)(path);
-      EXPECT_EQ(test::DumpOf(session), whole);
+      EXPECT_EQ(test::DescribedModels(session), whole);
     }
   }
 }
@@ -75,7 +74,7 @@ TEST(FaultyFile, TheStrictReaderTakesAReadErrorAsTheEndOfTheFile) {
     parser.Close();
     if (expected.traces == nullptr) continue;
     const std::unique_ptr<CMTraces> traces(parser.GetTraces());
-    EXPECT_EQ(test::Dump(*traces), test::Dump(*expected.traces));
+    EXPECT_EQ(test::Described(*traces), test::Described(*expected.traces));
   }
   testing::internal::GetCapturedStderr();
 }

@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "kestrin/windowing/messages.h"
-#include "support/model_dump.h"
 #include "tests/support/sample_board.h"
 
 namespace kestrin {
@@ -16,7 +15,7 @@ namespace {
 std::string WholeBoard() {
   CPC_KESTRIN_GET session;
   test::ImportBoard(session);
-  return test::DumpOf(session);
+  return test::DescribedModels(session);
 }
 
 /// Counts its messages, and answers each by two more until there were enough.
@@ -95,7 +94,7 @@ TEST(UnrulyHost, AHandlerThatThrowsEndsTheImportAndTheSessionReadsOn) {
     }
     acted = dialog.HasActed();
     if (acted) test::ImportBoard(session);
-    EXPECT_EQ(test::DumpOf(session), whole);
+    EXPECT_EQ(test::DescribedModels(session), whole);
   }
   EXPECT_GT(number, 900);
 }
@@ -113,7 +112,7 @@ TEST(UnrulyHost, AHandlerMayDestroyTheDialogWithAllItsWindows) {
     acted = shown == nullptr;
     EXPECT_EQ(session.m_pStatusWnd == nullptr, acted);
     EXPECT_EQ(session.m_pTraceProgress == nullptr, acted);
-    EXPECT_EQ(test::DumpOf(session), whole);
+    EXPECT_EQ(test::DescribedModels(session), whole);
   }
   EXPECT_GT(number, 900);
 }

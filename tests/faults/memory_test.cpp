@@ -11,7 +11,6 @@
 #include "kestrin/traces/strict/mp_traces_parser.h"
 #include "kestrin/traces/strict/strict_parser.h"
 #include "kestrin/windowing/messages.h"
-#include "support/model_dump.h"
 #include "support/source_of.h"
 #include "support/temporary_folder.h"
 #include "tests/faults/faults.h"
@@ -69,7 +68,7 @@ TEST(OutOfMemory, AnImportLetsItThroughAndTheSessionReadsOn) {
     CPC_KESTRIN_GET session;
     const Host host(session);
     allocations = AllocationsOf([&] { test::ImportBoard(session); });
-    whole = test::DumpOf(session);
+    whole = test::DescribedModels(session);
   }
   ASSERT_GT(allocations, 50);
   for (const Which which : {Which::kOne, Which::kAllFromThere}) {
@@ -80,9 +79,9 @@ TEST(OutOfMemory, AnImportLetsItThroughAndTheSessionReadsOn) {
         const Host host(session);
         EXPECT_TRUE(RunsOut([&] { test::ImportBoard(session); }, number, which)) << number;
         ExpectReportOfAnImportThatStopped(session.GetReport());
-        EXPECT_LT(test::DumpOf(session).size(), whole.size());
+        EXPECT_LT(test::DescribedModels(session).size(), whole.size());
         test::ImportBoard(session);
-        EXPECT_EQ(test::DumpOf(session), whole);
+        EXPECT_EQ(test::DescribedModels(session), whole);
       }
       ASSERT_EQ(AllocationsSoFar().alive, alive) << "leaked, allocation " << number;
     }
@@ -107,7 +106,7 @@ TEST(OutOfMemory, AMessageThatFindsNoRoomRaisesAndTheOthersArrive) {
 
 TEST(OutOfMemory, TheStrictReaderSaysThatMemoryEndedTheParse) {
   const std::string board = test::ContentOf(test::BoardFile("traces"));
-  const std::string whole = test::Dump(*ParseStrictly(SourceOf(board)).traces);
+  const std::string whole = test::Described(*ParseStrictly(SourceOf(board)).traces);
   ByteSource counted = SourceOf(board);
   const std::int64_t allocations =
       AllocationsOf([&] { static_cast<void>(ParseStrictly(std::move(counted))); });
@@ -127,7 +126,7 @@ TEST(OutOfMemory, TheStrictReaderSaysThatMemoryEndedTheParse) {
       ASSERT_EQ(AllocationsSoFar().alive, alive) << "leaked, allocation " << number;
     }
   }
-  EXPECT_EQ(test::Dump(*ParseStrictly(SourceOf(board)).traces), whole);
+  EXPECT_EQ(test::Described(*ParseStrictly(SourceOf(board)).traces), whole);
 }
 
 /// Parses files and takes the models that are handed over.

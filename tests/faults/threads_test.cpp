@@ -11,7 +11,6 @@
 #include "kestrin/traces/strict/strict_parser.h"
 #include "kestrin/windowing/message_box.h"
 #include "kestrin/windowing/messages.h"
-#include "support/model_dump.h"
 #include "support/source_of.h"
 #include "tests/support/content_of.h"
 #include "tests/support/recording_dialog.h"
@@ -38,39 +37,39 @@ void InThreads(const std::function<void()>& run) {
 TEST(Threads, SessionsWithDialogsWorkAtOnce) {
   CPC_KESTRIN_GET first;
   test::ImportBoard(first);
-  const std::string whole = test::DumpOf(first);
+  const std::string whole = test::DescribedModels(first);
   InThreads([&] {
     test::RecordingDialog host;
     CPC_KESTRIN_GET session;
     host.Attach(session);
     PostMessageA(host.dialog.GetSafeHwnd(), WM_USER, 1, 0);
     test::ImportBoard(session);
-    EXPECT_EQ(test::DumpOf(session), whole);
+    EXPECT_EQ(test::DescribedModels(session), whole);
     EXPECT_GT(host.events.size(), 100U);
   });
 }
 
 TEST(Threads, StrictParsesRunAtOnce) {
   const std::string board = test::ContentOf(test::BoardFile("traces"));
-  const std::string whole = test::Dump(*ParseStrictly(test::SourceOf(board)).traces);
+  const std::string whole = test::Described(*ParseStrictly(test::SourceOf(board)).traces);
   InThreads([&] {
     const StrictParse parse = ParseStrictly(test::SourceOf(board));
     EXPECT_EQ(parse.result, ParseResult::kAccepted);
-    EXPECT_EQ(test::Dump(*parse.traces), whole);
+    EXPECT_EQ(test::Described(*parse.traces), whole);
   });
 }
 
 TEST(Threads, ModelsAreReadAndLetGoOfAtOnce) {
   auto session = std::make_unique<CPC_KESTRIN_GET>();
   test::ImportBoard(*session);
-  const std::string whole = test::DumpOf(*session);
+  const std::string whole = test::DescribedModels(*session);
   std::vector<std::unique_ptr<CPC_KESTRIN_GET>> copies(std::size_t{kThreads} * kRounds);
   for (auto& copy : copies) copy = std::make_unique<CPC_KESTRIN_GET>(*session);
   session.reset();
   std::atomic<std::size_t> next = 0;
   InThreads([&] {
     const auto copy = std::move(copies[next++]);
-    EXPECT_EQ(test::DumpOf(*copy), whole);
+    EXPECT_EQ(test::DescribedModels(*copy), whole);
   });
 }
 

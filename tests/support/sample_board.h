@@ -3,6 +3,7 @@
 #include <string>
 
 #include "kestrin/session/import_session.h"
+#include "support/described.h"
 
 namespace kestrin::test {
 
@@ -15,6 +16,20 @@ inline void ImportBoard(CPC_KESTRIN_GET& session) {
   session.vSetGeomFilePath(BoardFile("geometry"));
   session.vSetTraceFilePath(BoardFile("traces"));
   session.vParse();
+}
+
+/// All that a session has read.
+inline std::string DescribedModels(const CPC_KESTRIN_GET& session) {
+  std::string text;
+  const auto add = [&text](const char* kind, const auto* model) {
+    if (model != nullptr) text += std::string(kind) + " " + Described(*model) + "\n";
+  };
+  add("tech", session.m_pTech);
+  add("components", session.m_pComps);
+  add("nets", session.m_pNetList);
+  add("geometry", session.m_pGeom);
+  add("traces", session.m_pTraces);
+  return text;
 }
 
 }  // namespace kestrin::test
