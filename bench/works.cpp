@@ -59,8 +59,9 @@ bool BuildTheSame(const Input& input) {
     const Tally tally = RunApart([&] { return work.run(input)->Count(); });
     if (!first) first = tally;
     if (tally == *first) continue;
-    std::fprintf(stderr, "%s, %s: %llu records, coordinates %.17g; not as others\n", input.kind.c_str(),
-                 work.name.data(), static_cast<unsigned long long>(tally.records), tally.coordinates);
+    std::fprintf(stderr, "%s, %s: %llu records, numbers %llx; not as others\n", input.kind.c_str(),
+                 work.name.data(), static_cast<unsigned long long>(tally.records),
+                 static_cast<unsigned long long>(tally.numbers));
     same = false;
   }
   return same;

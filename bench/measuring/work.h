@@ -3,16 +3,24 @@
 /// @file
 /// What is measured: works, each of which makes something of the same input.
 
+#include <bit>
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 
 namespace kestrin::bench {
 
 /// What is counted in a model, to see that two works have built the same.
 struct Tally {
+  void AddNumber(double number) { numbers += std::bit_cast<std::uint64_t>(number); }
+  void AddRecord(std::span<const double> itsNumbers) {
+    ++records;
+    for (const double number : itsNumbers) AddNumber(number);
+  }
+
   std::uint64_t records = 0;
-  double coordinates = 0.0;  ///< the sum of some of its numbers, in file order
+  std::uint64_t numbers = 0;  ///< the sum of their bits, which is the same in any order
 
   friend bool operator==(const Tally&, const Tally&) = default;
 };

@@ -219,24 +219,54 @@ void ReadLine(Reader* reader, char* line) {
   if (Is(line, "$$text")) return ReadText(reader);
 }
 
+struct GeometryTally : Tally {
+  void Add(const Numbers& numbers) {
+    for (const double number : numbers) AddNumber(number);
+  }
+  template <class Record>
+  void Add(const List<Record>& list) {
+    for (const Record* record : list) Add(*record);
+  }
+  void Add(const DrawObject& object) {
+    AddRecord(object.points);
+    AddNumber(object.width);
+    AddNumber(object.mode);
+    Add(object.coordinates);
+  }
+  void Add(const GeometryText& text) {
+    AddRecord(text.position);
+    for (const double value : text.values) AddNumber(value);
+  }
+  void Add(const Outline& outline) {
+    AddRecord({});
+    Add(outline.coordinates);
+  }
+  void Add(const PinDefinition& pin) { AddRecord({{pin.x, pin.y}}); }
+  void Add(const Layer& /*layer*/) { AddRecord({}); }
+  void Add(const Geometry& geometry) {
+    AddRecord({{static_cast<double>(geometry.routingLayers), geometry.height, geometry.drillSize}});
+    Add(geometry.drawObjects);
+    Add(geometry.texts);
+    Add(geometry.placementOutline);
+    Add(geometry.routingOutline);
+    Add(geometry.keepouts);
+    Add(geometry.placementOutlines);
+    Add(geometry.pinDefinitions);
+  }
+};
+
 struct BuiltGeometry final : Built {
   [[nodiscard]] Tally Count() const override {
-    Tally tally;
-    tally.records = model.layers.count;
-    Add(&tally, model.board);
-    for (const Geometry* pin : model.pins) Add(&tally, *pin);
-    for (const Geometry* component : model.components) Add(&tally, *component);
+    GeometryTally tally;
+    tally.AddRecord({});
+    tally.Add(model.board);
+    tally.Add(model.stackup);
+    tally.Add(model.layers);
+    tally.Add(model.components);
+    tally.Add(model.pins);
+    for (std::size_t i = 0; i < model.pins.count; ++i)
+      tally.AddNumber(1);  // thru-hole unless the file says so
     return tally;
-  }
-
-  static void Add(Tally* tally, const Geometry& geometry) {
-    tally->records += 1 + geometry.drawObjects.count + geometry.texts.count + geometry.keepouts.count +
-                      geometry.placementOutlines.count + geometry.pinDefinitions.count;
-    for (const DrawObject* object : geometry.drawObjects) {
-      for (const double number : object->coordinates) tally->coordinates += number;
-      for (const double number : object->points) tally->coordinates += number;
-    }
-    for (const PinDefinition* pin : geometry.pinDefinitions) tally->coordinates += pin->x + pin->y;
   }
 
   Model model{};

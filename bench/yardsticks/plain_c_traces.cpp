@@ -181,30 +181,55 @@ void ReadLine(Reader* reader, char* line) {
   }
 }
 
+struct TracesTally : Tally {
+  template <class Record>
+  void Add(const List<Record>& list) {
+    for (const Record* record : list) Add(*record);
+  }
+  void Add(const Xrf& xrf) { AddRecord({{static_cast<double>(xrf.number)}}); }
+  void Add(const Ttt& ttt) { AddRecord(ttt.values); }
+  void Add(const Segment& segment) { AddRecord({{segment.x, segment.y, segment.layer, segment.width}}); }
+  void Add(const Wire& wire) {
+    AddRecord(wire.values);
+    Add(wire.segments);
+  }
+  void Add(const Guide& guide) { AddRecord(guide.values); }
+  void Add(const Net& net) {
+    AddRecord({});
+    for (const List<Wire>& wires : {net.wires, net.incompletes, net.antennas}) Add(wires);
+    Add(net.guides);
+  }
+  void Add(const Vertex& vertex) { AddRecord({{vertex.x, vertex.y}}); }
+  void Add(const Tie& tie) { AddRecord(tie.values); }
+  void Add(const Area& area) {
+    AddRecord(area.values);
+    Add(area.vertices);
+  }
+  void Add(const Island& island) {
+    AddRecord({{static_cast<double>(island.number)}});
+    Add(island.vertices);
+  }
+  void Add(const Fill& fill) {
+    AddRecord(fill.values);
+    Add(fill.vertices);
+    Add(fill.areas);
+    Add(fill.islands);
+    Add(fill.ties);
+  }
+  void Add(const Traces& traces) {
+    AddRecord(traces.st);
+    Add(traces.xrfs);
+    Add(traces.ttts);
+    Add(traces.nets);
+    Add(traces.fills);
+  }
+};
+
 struct BuiltTraces final : Built {
   [[nodiscard]] Tally Count() const override {
-    Tally tally;
-    tally.records = traces.xrfs.count + traces.ttts.count + traces.nets.count;
-    for (const Net* net : traces.nets) {
-      tally.records += net->guides.count;
-      for (const List<Wire>& wires : {net->wires, net->incompletes, net->antennas}) {
-        for (const Wire* wire : wires) Add(&tally, wire->segments);
-      }
-    }
-    for (const Fill* fill : traces.fills) {
-      tally.records += fill->ties.count;
-      Add(&tally, fill->vertices);
-      for (const Area* area : fill->areas) Add(&tally, area->vertices);
-      for (const Island* island : fill->islands) Add(&tally, island->vertices);
-    }
+    TracesTally tally;
+    tally.Add(traces);
     return tally;
-  }
-
-  /// Of something with points: it and them.
-  template <class Point>
-  static void Add(Tally* tally, const List<Point>& points) {
-    tally->records += 1 + points.count;
-    for (const Point* point : points) tally->coordinates += point->x + point->y;
   }
 
   Traces traces{};
