@@ -21,6 +21,7 @@ const std::map<std::string, std::string> kOpenings = {
     {"component", "$$create_component()\n"},
     {"part", "$$create_generic_part()\n"},
     {"pin", "$$create_pin()\n"},
+    {"pin after component", "$$create_component()\n$$create_pin()\n"},
     {"via", "$$create_via()\n"},
     {"drawing", "$$create_drawing()\n"},
     {"probe", "$$create_probe()\n"},
@@ -52,7 +53,7 @@ void ExpectModels(std::initializer_list<Case> cases) {
   }
 }
 
-TEST(GeomAttributes, OfTheStackup) {
+TEST(GeometryAttributes, FillTheStackup) {
   ExpectModels({
       {"stackup", R"("Signal_Layer_Definition_X", "1", " SIGNAL_1" ,"", " ", 0.5)",
        "stackup{name=S SIGNAL_LAYER_DEFINITION_X{values=[1| SIGNAL_1| |0.5]}}"},
@@ -60,11 +61,10 @@ TEST(GeomAttributes, OfTheStackup) {
        "stackup{name=S LAYER_DEFINITION{values=[X|Y]}}"},
       {"stackup", "LAYER_DEFINITION|BOARD_DEFAULT_VIA, V|POWER_NET_NAMES, N",
        "stackup{name=S LAYER_DEFINITION{}}"},
-      {"board", "LAYER_DEFINITION, 1", ""},
   });
 }
 
-TEST(GeomAttributes, OfTheBoundBoardInEveryKind) {
+TEST(GeometryAttributes, FillTheBoundBoardInEveryKind) {
   ExpectModels({
       {"locked", "\"board_default_padstack\", \" P,1 \"|BOARD_DEFAULT_VIA, \"V\"",
        "board{defaultPadstack=[ P,1 ] defaultVia=V}"},
@@ -92,7 +92,7 @@ TEST(GeomAttributes, OfTheBoundBoardInEveryKind) {
   });
 }
 
-TEST(GeomAttributes, OfTheOpenBoard) {
+TEST(GeometryAttributes, FillTheOpenBoard) {
   ExpectModels({
       {"board", R"("BOARD_PLACEMENT_KEEPOUT", "K", [0, 0, 1, 0])",
        "board{placementKeepout{name=K coords=[0 0 1 0]}}"},
@@ -111,7 +111,7 @@ TEST(GeomAttributes, OfTheOpenBoard) {
   });
 }
 
-TEST(GeomAttributes, OfTheLastComponentInEveryKind) {
+TEST(GeometryAttributes, FillTheLastComponentInEveryKind) {
   ExpectModels({
       {"component", R"(COMPONENT_DEFAULT_PADSTACK, "P"|COMPONENT_LAYOUT_TYPE, "a,b")",
        "component{defaultPadstack=P layoutType=a,b}"},
@@ -120,22 +120,14 @@ TEST(GeomAttributes, OfTheLastComponentInEveryKind) {
       {"component", "COMPONENT_LAYOUT_SURFACE, \"\"", "component{layoutSurface=[]}"},
       {"component", R"(COMPONENT_OUTLINE_OVERHANG, "oh yes")", "component{outlineOverhang=1}"},
       {"component", "COMPONENT_OUTLINE_OVERHANG, Yes|COMPONENT_OUTLINE_OVERHANG, no", "component{}"},
-      {"part", "COMPONENT_LAYOUT_TYPE, smd|COMPONENT_OUTLINE_OVERHANG, yes", "genericPart{}"},
+      {"pin after component",
+       "COMPONENT_LAYOUT_TYPE, smd|COMPONENT_DEFAULT_PADSTACK, D|COMPONENT_LAYOUT_SURFACE, top|"
+       "COMPONENT_OUTLINE_OVERHANG, yes",
+       "component{defaultPadstack=D layoutSurface=top layoutType=smd outlineOverhang=1} pin{}"},
   });
-  CMGeom geom;
-  GeometryReader reader(geom);
-  test::Feed(reader,
-             "$$create_component(C)\n$$create_pin(P)\n$$attribute(COMPONENT_LAYOUT_TYPE, smd)\n"
-             "$$attribute(COMPONENT_DEFAULT_PADSTACK, D)\n$$attribute(COMPONENT_LAYOUT_SURFACE, top)\n"
-             "$$attribute(COMPONENT_OUTLINE_OVERHANG, yes)");
-  const CMGeomComponent& component = *geom.m_pComponents->GetAt(0);
-  EXPECT_EQ(component.m_sLayoutType, "smd");
-  EXPECT_EQ(component.m_sDefaultPadstack, "D");
-  EXPECT_EQ(component.m_sLayoutSurface, "top");
-  EXPECT_EQ(component.m_bOutlineOverhang, 1);
 }
 
-TEST(GeomAttributes, OfTheOpenComponent) {
+TEST(GeometryAttributes, FillTheOpenComponent) {
   ExpectModels({
       {"component", R"("component_height", [5.5])", "component{height=5.5}"},
       {"component", "COMPONENT_HEIGHT, 5.5", "component{}"},
@@ -151,12 +143,10 @@ TEST(GeomAttributes, OfTheOpenComponent) {
        "component{pinDef{name=1 x=7} pinDef{}}"},
       {"component", "pending|COMPONENT_PIN_DEFINITION, 1, [2|COMPONENT_PIN_DEFINITION",
        "component{pinDef{name=1 x=2} pinDef{}}"},
-      {"pin", "COMPONENT_HEIGHT, [5]|COMPONENT_TYPE, A|COMPONENT_PADSTACK_OVERRIDE, 1, 2", "pin{}"},
-      {"pin", "pending|COMPONENT_PIN_DEFINITION, 1, [2, 3]|TERMINAL_DRILL_SIZE", "pin{drillSize=7}"},
   });
 }
 
-TEST(GeomAttributes, OfPartsAndBoards) {
+TEST(GeometryAttributes, FillPartsAndBoards) {
   ExpectModels({
       // outlines
       {"component", "COMPONENT_BODY_OUTLINE, [1, 2], [3]|COMPONENT_BODY_OUTLINE, [4, , \"5,6\"]",
@@ -189,7 +179,7 @@ TEST(GeomAttributes, OfPartsAndBoards) {
   });
 }
 
-TEST(GeomAttributes, OfPinsAndVias) {
+TEST(GeometryAttributes, FillPinsAndVias) {
   ExpectModels({
       {"pin", "TERMINAL_SURFACE_DEFINITION, x", "pin{terminalType=2}"},
       {"pin", "TERMINAL_BLIND_DEFINITION", "pin{terminalType=3}"},
@@ -207,7 +197,7 @@ TEST(GeomAttributes, OfPinsAndVias) {
 /// What a line does to the pending points, and whether it is said to be lost, in every kind of geometry: an
 /// upper-case letter for a kind that keeps it, "." for one where it is skipped; then "!" if it leaves the
 /// pending points in some kind.
-TEST(GeomAttributes, AreKeptAndUsePendingPointsUpByKind) {
+TEST(GeometryAttributes, AreKeptAndUsePendingPointsUpByKind) {
   struct Row {
     const char* attribute;
     const char* kinds;
@@ -233,6 +223,7 @@ TEST(GeomAttributes, AreKeptAndUsePendingPointsUpByKind) {
       {"TERMINAL_BURIED_VIA_DEFINITION", ".....V...!"},
       {"COMPONENT_LAYOUT_TYPE, T", "..C......!"},
       {"BOARD_DEFAULT_VIA, V", "B........!"},
+      {"LAYER_DEFINITION, 1", "........S!"},
   };
   const char* kinds[] = {"board", "panel", "component", "part", "pin", "via", "drawing", "probe", "stackup"};
   for (const Row& row : rows) {
@@ -260,7 +251,7 @@ TEST(GeomAttributes, AreKeptAndUsePendingPointsUpByKind) {
   }
 }
 
-TEST(GeomAttributes, TellWhatBecameOfALine) {
+TEST(GeometryAttributes, TellWhatBecameOfALine) {
   struct Line {
     const char* line;
     const char* outcome;

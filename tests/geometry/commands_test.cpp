@@ -25,16 +25,8 @@ struct Case {
   std::string model;
 };
 
-TEST(GeomCommands, OpenGeometriesByName) {
+TEST(GeometryCommands, OpenGeometriesByName) {
   const Case cases[] = {
-      {"$$create_panel(\"P\");", "panel{name=P}"},
-      {"$$create_board(\"B\");", "board{name=B}"},
-      {"$$create_component(\"U1\");", "component{name=U1}"},
-      {"$$create_generic_part(G)", "genericPart{name=G}"},
-      {"$$create_stackup(\"S\");", "stackup{name=S}"},
-      {"$$create_pin(P)", "pin{name=P}"},
-      {"$$create_via(V)", "via{name=V}"},
-      {"$$create_drawing(D)", "drawing{name=D}"},
       {"$$create_probe(P)\n$$create_test_fixture(F)", ""},
       // the name is all there is but for quotes at the ends and parentheses and semicolons at the right one
       {"$$create_pin(\"U1\", x)", "pin{name=[U1\", x]}"},
@@ -56,15 +48,13 @@ TEST(GeomCommands, OpenGeometriesByName) {
   for (const Case& c : cases) EXPECT_EQ(ModelOf(c.text), c.model) << c.text;
 }
 
-TEST(GeomCommands, FillTheGeometryThatTheLastCreateCommandLeavesOpen) {
+TEST(GeometryCommands, FillTheGeometryThatTheLastCreateCommandLeavesOpen) {
   const std::string pin = "$$create_pin(P)\n$$circle(A)\n";
   const std::string rest = "$$circle(B)\n$$text(T)\n$$add(C)\n$$page(@mm)\n";
   const Case cases[] = {
       {rest, ""},
       {pin + rest, "pin{CIRCLE{layer=A} CIRCLE{layer=B} name=P units=MM text{layer=T} add{C}}"},
       {pin + "$$create_probe(Q)\n" + rest,
-       "pin{CIRCLE{layer=A} CIRCLE{layer=B} name=P text{layer=T} add{C}}"},
-      {pin + "$$create_test_fixture(Q)\n" + rest,
        "pin{CIRCLE{layer=A} CIRCLE{layer=B} name=P text{layer=T} add{C}}"},
       {pin + "$$create_stackup(S)\n" + rest,
        "stackup{name=S units=MM} pin{CIRCLE{layer=A} CIRCLE{layer=B} name=P text{layer=T} add{C}}"},
@@ -79,7 +69,7 @@ TEST(GeomCommands, FillTheGeometryThatTheLastCreateCommandLeavesOpen) {
   for (const Case& c : cases) EXPECT_EQ(ModelOf(c.text), c.model) << c.text;
 }
 
-TEST(GeomCommands, PageSetsTheUnit) {
+TEST(GeometryCommands, PageSetsTheUnit) {
   for (const auto& [line, units] : {Case{"(0, 0, @Mm)", "MM"},
                                     {"(@inch)", "IN"},
                                     {"(@mil)", "MIL"},
@@ -89,15 +79,26 @@ TEST(GeomCommands, PageSetsTheUnit) {
     EXPECT_EQ(ModelOf("$$create_via(V)\n$$page" + line), "via{name=V units=" + units + "}") << line;
   }
   EXPECT_EQ(ModelOf("$$create_via(V)\n$$page(@mm)\n$$page(0, mm)"), "via{name=V}");
-  for (const char* kind : {"panel", "board", "component", "stackup", "pin", "drawing"}) {
-    const std::string text = "$$create_" + std::string(kind) + "(N)\n$$page(@mm)";
-    EXPECT_EQ(ModelOf(text), std::string(kind) + "{name=N units=MM}");
+}
+
+TEST(GeometryCommands, FillGeometriesOfEveryKind) {
+  const Case cases[] = {
+      {"panel", "panel{name=N units=MM CIRCLE{layer=A} add{C} text{layer=T}}"},
+      {"board", "board{name=N units=MM CIRCLE{layer=A} text{layer=T} add{C}}"},
+      {"component", "component{CIRCLE{layer=A} name=N units=MM text{layer=T} add{C}}"},
+      {"generic_part", "genericPart{name=N units=MM CIRCLE{layer=A} text{layer=T} add{C}}"},
+      {"pin", "pin{CIRCLE{layer=A} name=N units=MM text{layer=T} add{C}}"},
+      {"via", "via{name=N units=MM CIRCLE{layer=A} add{C} text{layer=T}}"},
+      {"drawing", "drawing{CIRCLE{layer=A} name=N units=MM text{layer=T} add{C}}"},
+      {"stackup", "stackup{name=N units=MM}"},
+  };
+  for (const Case& c : cases) {
+    EXPECT_EQ(ModelOf("$$create_" + c.text + "(N)\n$$page(@mm)\n$$circle(A)\n$$text(T)\n$$add(C)"), c.model);
   }
-  EXPECT_EQ(ModelOf("$$create_generic_part(N)\n$$page(@mm)"), "genericPart{name=N units=MM}");
 }
 
 /// The lines inside a drawing, and what they make of it.
-TEST(GeomCommands, DrawAndWrite) {
+TEST(GeometryCommands, DrawAndWrite) {
   const Case cases[] = {
       // path: width from the raw value; a later "[" opens the list again, and "]" counts without one
       {R"($$path("TOP", 5, [0, 0, 10, -1e1]);)", "LINE{layer=TOP width=5 coords=[0 0 10 -10]}"},
@@ -143,7 +144,7 @@ TEST(GeomCommands, DrawAndWrite) {
 }
 
 /// What the pending points are is seen by a path; 1 and 2 stand for the lines of the case.
-TEST(GeomCommands, GatherPendingPoints) {
+TEST(GeometryCommands, GatherPendingPoints) {
   const Case cases[] = {
       {"$$initial([0, 0])\n$$terminal([10, 0])", "0 0 10 0"},
       {"$$initial([1])\n$$initial([2])", "2"},
@@ -176,7 +177,7 @@ TEST(GeomCommands, GatherPendingPoints) {
   }
 }
 
-TEST(GeomCommands, UsePendingPointsWhereTheLineHasNone) {
+TEST(GeometryCommands, UsePendingPointsWhereTheLineHasNone) {
   const std::string pending = "$$create_drawing()\n$$initial([1, \"\", 3, 4, 5, 6, 7])\n";
   const Case cases[] = {
       {"$$path(L, 2)", "LINE{layer=L width=2 coords=[1 3 4 5 6 7]}"},
@@ -194,7 +195,7 @@ TEST(GeomCommands, UsePendingPointsWhereTheLineHasNone) {
   }
 }
 
-TEST(GeomCommands, TellWhatBecameOfALine) {
+TEST(GeometryCommands, TellWhatBecameOfALine) {
   struct Line {
     const char* text;
     const char* outcome;

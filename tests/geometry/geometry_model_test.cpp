@@ -14,7 +14,7 @@ namespace {
 using test::Described;
 using test::InitialFieldsOf;
 
-TEST(GeomModel, BeginsEmptyWithItsDefaults) {
+TEST(GeometryModel, BeginsEmptyWithItsDefaults) {
   EXPECT_EQ(InitialFieldsOf<CMGeom>(), "");
   EXPECT_EQ(InitialFieldsOf<CMGeomBoard>(), "");
   EXPECT_EQ(InitialFieldsOf<CMGeomComponent>(), "layoutSurface=both");
@@ -28,7 +28,7 @@ TEST(GeomModel, BeginsEmptyWithItsDefaults) {
   EXPECT_EQ(Described(CMGeomCircle()), "CIRCLE{}");
 }
 
-TEST(GeomModel, DrawingObjectsGoWithTheirArray) {
+TEST(GeometryModel, DrawingObjectsGoWithTheirArray) {
   int deleted = 0;
   struct Counted : CMGeomPath {
     explicit Counted(int& count) : count_(count) {}
@@ -45,7 +45,7 @@ TEST(GeomModel, DrawingObjectsGoWithTheirArray) {
   EXPECT_EQ(deleted, 2);
 }
 
-TEST(GeomModel, CopiesShareTheirRecords) {
+TEST(GeometryModel, CopiesShareTheirRecords) {
   CMGeom copy;
   CMGeomStackup stackup;
   CMGeomLayerDEF layer;

@@ -7,7 +7,7 @@
 namespace kestrin {
 namespace {
 
-TEST(GeomText, ConvertsToTheTextConventionsOfHosts) {
+TEST(GeometryText, ConvertsToTheTextConventionsOfHosts) {
   struct Case {
     const char* layer;
     const char* mirrorOption;
@@ -80,7 +80,7 @@ TEST(GeomText, ConvertsToTheTextConventionsOfHosts) {
   }
 }
 
-TEST(GeomText, KnowsTheBottomLayersWhateverTheirCase) {
+TEST(GeometryText, KnowsTheBottomLayersWhateverTheirCase) {
   const CMGeomText text;
   for (const char* name : {"SILKSCREEN_2", "BREAKOUT_2", "DRAWING_2", "GLUE_MASK_2", "PAD_2", "PASTE_MASK_2",
                            "PLACE_2", "SOLDER_MASK_2", "THERMAL_2", "silkscreen_2"}) {

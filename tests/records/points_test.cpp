@@ -88,7 +88,7 @@ TEST(Points, ArchiveHoldsCountAndCoordinates) {
   EXPECT_EQ(loaded[0].GetY(), -2);
 }
 
-TEST(Points, ArchiveCountsOfEverySize) {
+TEST(Points, ArchivesHoldCountsOfEverySize) {
   for (const std::uint64_t count : {0ULL, 0xFFFEULL, 0xFFFFULL, 0xFFFFFFFEULL, 0xFFFFFFFFULL, 1ULL << 40}) {
     std::stringstream bytes;
     CArchive(static_cast<std::ostream&>(bytes)).WriteCount(count);

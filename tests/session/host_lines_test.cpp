@@ -63,18 +63,5 @@ TEST(HostLines, APointerThatAHostClearsFreesNothing) {
   EXPECT_EQ(geom->m_pBoard->m_sName, name);
 }
 
-TEST(HostLines, ACopyOfTheSessionKeepsItsModels) {
-  CPC_KESTRIN_GET kept;
-  {
-    CPC_KESTRIN_GET session;
-    test::ImportBoard(session);
-    kept = session;
-    session.TraceFileParse("");  // the copy keeps the root that this replaces
-    EXPECT_TRUE(session.GetTraces()->m_pNetArray->IsEmpty());
-  }
-  EXPECT_FALSE(kept.GetTraces()->m_pNetArray->IsEmpty());
-  EXPECT_FALSE(kept.GetGeom()->m_pComponents->IsEmpty());
-}
-
 }  // namespace
 }  // namespace kestrin

@@ -92,18 +92,5 @@ TEST(TechModel, LooksUpTheFirstLayerOfExactlyThisName) {
   EXPECT_EQ(names.GetSize(), 0);
 }
 
-TEST(TechModel, CopiesShareTheirRecords) {
-  CMTech copy;
-  {
-    CMTech tech;
-    TechReader(tech).ReadLine("$$define_rule_via(V1)");
-    CMTech second(tech);
-    copy = second;
-    EXPECT_EQ(copy.m_pViaArray->GetAt(0), tech.m_pViaArray->GetAt(0));
-  }
-  EXPECT_EQ(Described(copy), "via{V1}");
-  copy.m_pViaArray->DeleteAll();
-}
-
 }  // namespace
 }  // namespace kestrin

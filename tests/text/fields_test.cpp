@@ -8,33 +8,16 @@
 
 #include "kestrin/framework/exceptions.h"
 #include "kestrin/session/import_session.h"
-#include "kestrin/session/tokenizer.h"
-#include "tests/support/lists.h"
+#include "tests/support/cuts.h"
 
 namespace kestrin {
 namespace {
 
-using Fields = std::vector<std::string>;
+using test::ExpectCuts;
 using test::Strings;
+using Fields = std::vector<std::string>;
 
-struct Case {
-  std::string line;
-  Fields fields;
-};
-
-template <class Cut>
-void ExpectCuts(const std::vector<Case>& cases, Cut cut) {
-  for (const Case& c : cases) {
-    CStringArray fields;
-    fields.Add("kept");
-    cut(c.line, fields);
-    Fields expected = c.fields;
-    expected.insert(expected.begin(), "kept");
-    EXPECT_EQ(Strings(fields), expected) << c.line;
-  }
-}
-
-TEST(SeparateLine, AtCommasOutsideDoubleQuotes) {
+TEST(SeparateLine, CutsAtCommasOutsideDoubleQuotes) {
   ExpectCuts(
       {
           {"", {}},
@@ -54,7 +37,7 @@ TEST(SeparateLine, AtCommasOutsideDoubleQuotes) {
       });
 }
 
-TEST(SeparateLine, AtSpacesOutsideApostrophes) {
+TEST(SeparateLine, CutsAtSpacesOutsideApostrophes) {
   ExpectCuts(
       {
           {"", {}},
@@ -68,7 +51,7 @@ TEST(SeparateLine, AtSpacesOutsideApostrophes) {
       });
 }
 
-TEST(SeparateLine, IntoPropertyGroups) {
+TEST(SeparateLine, CutsPropertyGroups) {
   ExpectCuts(
       {
           {"", {}},
@@ -84,7 +67,7 @@ TEST(SeparateLine, IntoPropertyGroups) {
       });
 }
 
-TEST(SeparateLine, BehindAStartIndex) {
+TEST(SeparateLine, BeginsAfterTheStartIndex) {
   const CPC_KESTRIN_GET session;
   CStringArray fields;
   session.SeparateLineBasedonSpace("A b 'c d' e", 0, fields);
@@ -101,101 +84,6 @@ TEST(SeparateLine, BehindAStartIndex) {
     EXPECT_THROW(session.SeparateLineBasedonSpace("", below, fields), CInvalidArgException);
     EXPECT_THROW(session.SeparateLineForCompProperty("a", below, fields), CInvalidArgException);
   }
-}
-
-TEST(Tokenizer, GivesTokensOneByOneAndTheTail) {
-  CTokenizer tokenizer(";a;;b c;", ";");
-  CString token;
-  ASSERT_TRUE(tokenizer.Next(token));
-  EXPECT_EQ(token, "a");
-  EXPECT_EQ(tokenizer.m_nCurPos, 2);
-  EXPECT_EQ(tokenizer.Tail(), "b c;");
-  tokenizer.SetDelimiters(" ");
-  ASSERT_TRUE(tokenizer.Next(token));
-  EXPECT_EQ(token, "b");
-  ASSERT_TRUE(tokenizer.Next(token));
-  EXPECT_EQ(tokenizer.Tail(), "");
-  EXPECT_FALSE(tokenizer.Next(token));
-  EXPECT_EQ(token, "");
-}
-
-TEST(Tokenizer, FillsArraysAndGoesBackToTheStart) {
-  CTokenizer tokenizer(
-      "a\xFF\xFF"
-      "b",
-      "\xFF");
-  CStringArray tokens;
-  tokenizer.GetTokenArray(tokens);
-  tokenizer.GetTokenArray(tokens);
-  EXPECT_EQ(Strings(tokens), (Fields{"a", "b", "a", "b"}));
-  tokens.RemoveAll();
-  tokenizer.GetTokenArray(tokens, "x,y\xFFz", ",");
-  EXPECT_EQ(Strings(tokens), (Fields{"x", "y\xFFz"}));
-  tokens.RemoveAll();
-  CTokenizer().GetTokenArray(tokens, "one piece", "");
-  EXPECT_EQ(Strings(tokens), (Fields{"one piece"}));
-}
-
-TEST(Tokenizer, CutsStringsOfTheArrayThatItFills) {
-  const std::vector<std::string> expected{"a b c d e f g h", " ", "a", "b", "c", "d", "e", "f", "g", "h"};
-  using Cut = void (*)(CTokenizer&, CStringArray&);
-  const Cut cuts[] = {
-      [](CTokenizer& tokenizer, CStringArray& array) {
-        tokenizer.GetStringArrayFromStringToken(array[0], array);
-      },
-      [](CTokenizer& tokenizer, CStringArray& array) { tokenizer.GetTokenArray(array, array[0], array[1]); },
-      [](CTokenizer& tokenizer, CStringArray& array) {
-        tokenizer.GetTokenArrayByFullString(array, array[0], array[1]);
-      },
-      [](CTokenizer& tokenizer, CStringArray& array) {
-        tokenizer.m_sString = " ";
-        tokenizer.GetTokenArray(array, array[0], tokenizer.m_sString);
-      },
-      [](CTokenizer&, CStringArray& array) {
-        CPC_KESTRIN_GET().SeparateLineBasedonSpace(array[0], -1, array);
-      },
-  };
-  for (const Cut& cut : cuts) {
-    CStringArray array;
-    array.Add(expected[0]);
-    array.Add(expected[1]);
-    CTokenizer tokenizer;
-    cut(tokenizer, array);
-    EXPECT_EQ(Strings(array), expected);
-  }
-}
-
-TEST(Tokenizer, CutsAtALongerDelimiter) {
-  ExpectCuts(
-      {
-          {"a::b::::c", {"a", "b", "c"}},
-          {"a!b::c@d", {"a!b", "c@d"}},
-          {"!@#$%^::x", {"!@#$%^x"}},
-          {"::", {}},
-      },
-      [](const std::string& line, CStringArray& fields) {
-        CTokenizer().GetTokenArrayByFullString(fields, line, "::");
-      });
-  CStringArray uncut;
-  CTokenizer().GetTokenArrayByFullString(uncut, "a b", "");
-  EXPECT_EQ(Strings(uncut), (Fields{"a b"}));
-}
-
-TEST(Tokenizer, JoinsQuotedPhrases) {
-  ExpectCuts(
-      {
-          {R"("top side" 12 x"y)", {"top side", "12", "xy"}},
-          {R"("" a)", {"", "a"}},
-          {R"(a "open to the end)", {"a"}},
-          {R"("a   b")", {"a b"}},
-          {R"(" x")", {" x"}},
-          {R"("a"b c)", {"ab", "c"}},
-      },
-      [](const std::string& line, CStringArray& fields) {
-        CString string(line);
-        CTokenizer().GetStringArrayFromStringToken(string, fields);
-        EXPECT_EQ(string.View(), line);
-      });
 }
 
 }  // namespace

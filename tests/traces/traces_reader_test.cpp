@@ -43,7 +43,7 @@ TEST(TracesReader, ReadsBoardWideRecords) {
       {"ST 1 2 3 4 5 6 7", ""},
       {"ST 1 2 3 4\nST 7 6 5 4 3 2 1 0\nST 9 2 3 4 5 6 7 8 9", "st=(1 2 3 4) stLong=(7 6 5 4 3 2 -1 -1)"},
       {"XRF 3 U_1 EXTRA", "xrf{3 U_1 U_1}"},
-      {"TET x 'P 1' 3 4.5 -5e1 6", "tet{0 ['P 1'] 3 4.5 -50}"},
+      {"TET 1 'P 1' 3 4.5 -5e1 6\nTET x P 3 4 5", "tet{1 ['P 1'] 3 4.5 -50} tet{0 P 3 4 5}"},
       {"TTT 1 2.5 3 4 5\n TTT  9 8 7 6 5 4", "ttt{1 2.5 3 4 5} ttt{9 8 7 6 5}"},
       {"VERX 1 2\nver 1 2\n\tUNITS MM\n#NET 'A'\n# NETS 'A'\n# UNITS MM", ""},
   });
@@ -56,7 +56,7 @@ TEST(TracesReader, ReadsTheRecordsOfANet) {
       {"# NET A\nWIR 1.9 2 3.5 4 5e0 6", "net{name=A wir{1 2 3.5 4 5}}"},
       {"# NET A\nWIR 1 2 3 4", "net{name=A wir{}}"},
       {"# NET A\nINC 1 2.5 3 4 5 6 -7.9", "net{name=A inc{1 2.5 3 4 5 6 -7}}"},
-      {"# NET A\nINC 1 2 3 4 5 6 9e99", "net{name=A inc{1 2 3 4 5 6 2147483647}}"},
+      {"# NET A\nINC 1 2 3 4 5 6 9e99\nSEG 1", "net{name=A inc{1 2 3 4 5 6 2147483647 seg{1}}}"},
       {"# NET A\nINC 1 2 3 4 5 6\nINC 1 2 3 4 5 6 7 8", "net{name=A}"},
       {"# NET A\nANT 1 2 3 4 5", "net{name=A antWir{1 2 3 4 5}}"},
       {"# NET A\nANT 1 2 3 4 5 6 7", "net{name=A antInc{1 2 3 4 5 6 7}}"},
