@@ -57,6 +57,7 @@ TEST(Numbers, DoubleTakesTheLongestDecimalPrefix) {
       {"1e400", kInfinity},
       {"-1e400", -kInfinity},
       {"1e-400", 0},
+      {"1E-400", 0},
       {"1e-310", 1e-310},
       {"4.9e-324", 4.9e-324},
       {"1e99999999999999999999", kInfinity},
@@ -69,6 +70,7 @@ TEST(Numbers, DoubleTakesTheLongestDecimalPrefix) {
   EXPECT_EQ(ToDouble(zeros + "1e401"), 1.0);
   EXPECT_EQ(ToDouble(zeros + "1e300"), 1e-101);
   EXPECT_EQ(ToDouble(zeros + "1e800"), kInfinity);
+  EXPECT_EQ(ToDouble(zeros + "1.5e800"), 0.0);  // the number ends before the second point
   EXPECT_EQ(ToDouble(std::string(400, '9')), kInfinity);
   EXPECT_EQ(ToDouble(std::string(400, '9') + "e-395"), 100000.0);
   EXPECT_EQ(ToDouble(std::string(400, '9') + "e -500"), kInfinity);

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstdint>
 #include <limits>
 #include <stdexcept>
@@ -71,14 +70,6 @@ TEST(Array, AppendingMillionsKeepsEveryElement) {
   for (std::intptr_t i = 0; i < kCount; ++i) array.Add(i);
   ASSERT_EQ(array.GetSize(), kCount);
   for (std::intptr_t i = 0; i < kCount; ++i) ASSERT_EQ(array[i], i);
-}
-
-TEST(Array, MemoryIsLittleMoreThanTheCapacity) {
-  for (std::int64_t capacity : {1L, 5L, 8L, 9L, 33L, 64L, 65L, 8193L, 65536L, 1000003L, 1L << 40}) {
-    EXPECT_GE(AllocatedSlots(capacity), capacity);
-    EXPECT_LE(AllocatedSlots(capacity),
-              capacity <= 64 ? std::max<std::int64_t>(8, 2 * capacity) : capacity + capacity / 8);
-  }
 }
 
 TEST(Array, RaisesForIndexesOutsideAndStaysAsItWas) {

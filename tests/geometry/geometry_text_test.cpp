@@ -28,9 +28,6 @@ TEST(GeometryText, ConvertsToTheTextConventionsOfHosts) {
       {"PAD_2", "", 0, "@CC", 1, 0, 5},
       {"PAD_2", "@NOMirror", 0, "@CC", 0, 0, 5},
       {"PAD_2", "@NOMIRROR", 0, "@CC", 1, 0, 5},
-      {"pad_2", "@Mirror", 0, "@CC", 1, 0, 5},
-      {"PAD_2 ", "", 0, "@CC", 0, 0, 5},
-      {"", "", 0, "@CC", 0, 0, 5},
       // the justification codes
       {"TOP", "", 0, "@TL", 0, 0, 1},
       {"TOP", "", 0, "@tc", 0, 0, 2},

@@ -8,7 +8,6 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <thread>
 #include <type_traits>
 #include <vector>
 
@@ -154,7 +153,8 @@ TEST_F(MPTracesParserTest, ReadsOnAfterTheTokenThatEndedAParse) {
       {"SEG UNITS\n" + kBegin + kEnd, "@0 @0 5 " + kModel},  // still in the SEG line
       {"X (A\n" + kBegin + kEnd, "@0 @0 5 " + kModel},
       {"UNITS ST X\n1 " + application, "@0 @0 @1 4 " + kModel},
-      {"FIL\n" + application + "ARE 'A' 'L' S 4 5 6 VER 1 2\n",  // the first FIL of another parse
+      {application + "# NET 'A'\nXRF\n" + application, "@5 5 " + kModel},  // with a model of its own
+      {"FIL\n" + application + "ARE 'A' 'L' S 4 5 6 VER 1 2\n",            // the first FIL of another parse
        "@0 6 " + kModel + " fil{name=(A L) are{name=(A L) 3=(S 4 5 6) ver{x=1 y=2}}}"},
   };
   for (const Case& c : cases) {
@@ -167,110 +167,44 @@ TEST_F(MPTracesParserTest, ReadsOnAfterTheTokenThatEndedAParse) {
   }
 }
 
-TEST_F(MPTracesParserTest, MakesAModelOfItsOwnWithEveryParse) {
-  const std::string begin = "# Application x\n" + kBegin;
-  MPTracesParser parser(Path(begin + "# NET 'A'\nXRF\n" + begin + "TTT 1 2 3 4 5\n").data());
-  testing::internal::CaptureStderr();
-  EXPECT_EQ(parser.Parse(), 1);
-  const std::unique_ptr<CMTraces> rejected(parser.GetTraces());
-  EXPECT_EQ(Described(*rejected), kModel + " net{name=A}");
-  EXPECT_EQ(parser.Parse(), 0);
-  const std::unique_ptr<CMTraces> accepted(parser.GetTraces());
-  EXPECT_EQ(Described(*accepted), kModel + " ttt{1 2 3 4 5}");
-  EXPECT_EQ(Described(*rejected), kModel + " net{name=A}");
-  testing::internal::GetCapturedStderr();
-  parser.Close();
-}
-
-TEST_F(MPTracesParserTest, NothingOfAFileIsLeftForTheNext) {
-  const auto parseOnce = [](MPTracesParser& parser) {
-    testing::internal::CaptureStderr();
-    EXPECT_EQ(parser.Parse(), 1);
-    testing::internal::GetCapturedStderr();
-  };
-  MPTracesParser parser;
-  ReadFromStandardInput(Path("X\n" + kBegin + kEnd));
-  parseOnce(parser);
-  for (const char* unfinished : {"UNITS UNITS X\nST", "SEG X", "# NET 'x", "# NET '", "# Application"}) {
-    parser.SetFile(Path(unfinished).data());
-    parseOnce(parser);
-    parser.SetFile(Path(kBegin + kEnd).data());
-    EXPECT_EQ(Parses(parser), "4 " + kModel) << unfinished;
-  }
-  parser.SetFile(Path("X X").data());
-  parseOnce(parser);
-  parser.Close();
-  EXPECT_EQ(Parses(parser), "5 " + kModel);  // the rest of standard input
-}
-
-/// What another process would be: it writes standard input and reads standard error.
-class OtherSide {
+/// Makes a pipe the standard input, which others write to while it is read.
+class StandardInputPipe {
  public:
-  OtherSide() : input_(Pipe()), errors_(Pipe()), savedInput_(dup(0)), savedErrors_(dup(2)) {
-    dup2(input_[0], 0);
-    dup2(errors_[1], 2);
+  StandardInputPipe() : saved_(dup(STDIN_FILENO)) {
+    EXPECT_EQ(pipe(ends_.data()), 0);
+    dup2(ends_[0], STDIN_FILENO);
     std::clearerr(stdin);
   }
-  OtherSide(const OtherSide&) = delete;
-  OtherSide& operator=(const OtherSide&) = delete;
-  ~OtherSide() {
-    Close(input_[1]);
-    dup2(savedInput_, 0);
-    dup2(savedErrors_, 2);
-    for (const int end : {input_[0], errors_[0], errors_[1], savedInput_, savedErrors_}) close(end);
+  StandardInputPipe(const StandardInputPipe&) = delete;
+  StandardInputPipe& operator=(const StandardInputPipe&) = delete;
+  ~StandardInputPipe() {
+    dup2(saved_, STDIN_FILENO);
+    for (const int end : {ends_[0], saved_}) close(end);
     std::clearerr(stdin);
   }
 
   void Write(std::string_view text) const {
-    EXPECT_EQ(write(input_[1], text.data(), text.size()), static_cast<ssize_t>(text.size()));
+    EXPECT_EQ(write(ends_[1], text.data(), text.size()), static_cast<ssize_t>(text.size()));
   }
-  void Finish() { Close(input_[1]); }
-
-  /// Waits for an error at a line.
-  [[nodiscard]] bool Hears(std::string_view line) const {
-    std::string heard;
-    char byte = 0;
-    while (heard.find("Error Location : " + std::string(line) + "\n") == std::string::npos) {
-      if (read(errors_[0], &byte, 1) != 1) return false;
-      heard += byte;
-    }
-    return true;
-  }
+  void Finish() const { close(ends_[1]); }
 
  private:
-  using Ends = std::array<int, 2>;
-  static Ends Pipe() {
-    Ends ends{-1, -1};
-    EXPECT_EQ(pipe(ends.data()), 0);
-    return ends;
-  }
-  static void Close(int& end) {
-    if (end >= 0) close(end);
-    end = -1;
-  }
-
-  Ends input_;
-  Ends errors_;
-  int savedInput_;
-  int savedErrors_;
+  std::array<int, 2> ends_{-1, -1};
+  int saved_;
 };
 
-TEST_F(MPTracesParserTest, AnswersWhoeverWritesToStandardInput) {
-  OtherSide other;
+TEST_F(MPTracesParserTest, ReadsNoMoreOfStandardInputThanThereIs) {
+  const StandardInputPipe input;
   MPTracesParser parser;
-  other.Write("X\n");
+  testing::internal::CaptureStderr();
+  input.Write("X\n");
   EXPECT_EQ(parser.Parse(), 1);  // and does not wait for more
-  EXPECT_TRUE(other.Hears("0"));
-  other.Write(kBegin + "TTT X\n");
-  std::thread writer([&] {
-    EXPECT_TRUE(other.Hears("4"));
-    other.Write(kEnd);
-    other.Finish();
-  });
+  input.Write(kBegin + kEnd);
+  input.Finish();
   EXPECT_EQ(parser.Parse(), 0);
-  writer.join();
   const std::unique_ptr<CMTraces> traces(parser.GetTraces());
   EXPECT_EQ(Described(*traces), kModel);
+  testing::internal::GetCapturedStderr();
 }
 
 }  // namespace
