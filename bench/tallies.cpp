@@ -29,7 +29,7 @@ struct ModelTally : Tally {
   }
   void Add(const Record& record) {
     AddRecord({});
-    ForEachField(record, [this](const char* /*name*/, const auto& value) { Add(value); });
+    ForEachField(record, [this](const char* /*name*/, const auto& value) { this->Add(value); });
   }
 };
 

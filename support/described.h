@@ -48,7 +48,7 @@ class FieldTexts {
   template <HasFields Record>
   explicit FieldTexts(const Record& record) {
     ForEachField(record, [this](std::string_view member, const auto& value) {
-      if (member != "m_sType" && member != "m_sDefinition") Add(member, value);
+      if (member != "m_sType" && member != "m_sDefinition") this->Add(member, value);
     });
   }
 

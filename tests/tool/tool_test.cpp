@@ -214,12 +214,14 @@ TEST(Tool, SummarizesTheSampleBoardAndFindsNothingSkipped) {
                            "4  BOTTOM    29.003",
                            "GND         14.164    14      11    11      2     0",
                            "all nets   230.554    55      40    20      5     1",
+                           "Longest nets: 10 of 15",
                            "Board: SENSOR_NODE, MM, 4 routing layers",
                            "routing outline    59 x 39, from (0.5, 0.5) to (59.5, 39.5)",
                            "board              1                1      2     7       3          3",
                            "stack-up: 7 layer definitions"}) {
     EXPECT_NE(summary.out.find(line), std::string::npos) << summary.out;
   }
+  EXPECT_EQ(summary.out.find(" \n"), std::string::npos) << summary.out;
   const auto check = RunTool("check " + kBoard);
   EXPECT_EQ(check.status, 0) << check.out;
 }
