@@ -1,11 +1,11 @@
 #!/bin/sh
-# Builds the tool and shows the sample board. Packages that a fresh Debian 12 lacks are installed first.
+# ./demo.sh: builds the tool and prints a summary of the sample board. Installs missing packages first (Debian 12).
 set -eu
 cd "$(dirname "$0")"
 
-echo "Installing what is missing ..." >&2
+echo "Installing missing packages ..." >&2
 scripts/install-packages.sh $(cat scripts/build-packages)
-echo "Building the tool, a minute or two the first time ..." >&2
+echo "Building the tool; the first time, this takes a minute or two ..." >&2
 log=$(mktemp)
 trap 'rm -f "$log"' EXIT
 build() {

@@ -1,8 +1,8 @@
 #!/bin/sh
 # ./test.sh       builds the release and runs its tests
-# ./test.sh all   also checks the format and the reference, builds with clang, the sanitizers and clang-tidy, fuzzes
-#                 briefly, and runs the thread tests under the thread sanitizer
-# Packages that a fresh Debian 12 lacks are installed first.
+# ./test.sh all   also checks formatting, layers and the reference, runs the tests with the sanitizers and clang-tidy,
+#                 the fuzz targets briefly, and the thread tests with the thread sanitizer
+# Installs missing packages first (Debian 12).
 set -eu
 cd "$(dirname "$0")"
 

@@ -1,4 +1,4 @@
-// kestrin_generate KIND SIZE > file: writes a large file of a kind, about SIZE bytes long.
+// kestrin_generate KIND SIZE > file: writes a file of about SIZE bytes.
 // kestrin_generate board FOLDER LEGS: writes the four files of a board, which agree, into a folder; its
 // tracks have about LEGS legs.
 
@@ -18,8 +18,8 @@ int Usage() {
   std::string kinds;
   for (const auto& file : kestrin::test::kGeneratedFiles) kinds.append(" ").append(file.kind);
   std::fprintf(stderr,
-               "usage: kestrin_generate KIND SIZE-IN-BYTES > file\n"
-               "       kestrin_generate board FOLDER LEGS\nkinds:%s\n",
+               "usage: kestrin_generate KIND BYTES > FILE\n"
+               "       kestrin_generate board FOLDER LEGS\nKIND is one of:%s\n",
                kinds.c_str());
   return 2;
 }
@@ -32,10 +32,10 @@ std::optional<std::uint64_t> Number(std::string_view digits) {
 }
 
 int WriteBoard(const std::string& folder, std::uint64_t legs) {
-  std::error_code error;  // a folder that is not there is met again below
+  std::error_code error;  // if this fails, so does writing the files
   std::filesystem::create_directories(folder, error);
   if (kestrin::test::GenerateBoard(folder, legs)) return 0;
-  std::fprintf(stderr, "%s: cannot be written\n", folder.c_str());
+  std::fprintf(stderr, "kestrin_generate: cannot write to folder \"%s\"\n", folder.c_str());
   return 1;
 }
 

@@ -11,15 +11,15 @@
 namespace kestrin::bench {
 namespace {
 
-/// In memory of exactly the file's size that is never let go, so that the heap stays as a fresh program has
-/// it.
+/// Reads a file into memory of exactly its size. Nothing is freed until the end, so the heap stays like that
+/// of a new process.
 std::string ContentOf(const std::string& path) {
   std::string bytes(std::filesystem::file_size(path), '\0');
   std::ifstream(path, std::ios::binary).read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   return bytes;
 }
 
-/// Adds the size of a file to an input's.
+/// Adds the size and the number of lines of a file to those of an input.
 void AddSize(Input& input, const std::string& path) {
   constexpr std::size_t kBlockSize = std::size_t{1} << 16;
   std::string block(kBlockSize, '\0');
@@ -36,7 +36,7 @@ void AddSize(Input& input, const std::string& path) {
 Inputs::Inputs(std::uint64_t size) {
   for (const test::GeneratedFile& file : test::kGeneratedFiles) {
     const std::string path = folder_.Path(file.kind);
-    if (!test::WriteGenerated(file, path, size)) throw std::runtime_error(path + ": cannot be written");
+    if (!test::WriteGenerated(file, path, size)) throw std::runtime_error("cannot write \"" + path + '"');
     inputs_.push_back({std::string(file.kind), path, ContentOf(path)});
     AddSize(inputs_.back(), path);
   }

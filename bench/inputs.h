@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// What the works read, generated.
+/// The generated inputs of the benchmarks.
 
 #include <cstdint>
 #include <list>
@@ -11,13 +11,13 @@
 
 namespace kestrin::bench {
 
-/// A file of every kind and the four files of a board, each of the given size, in a folder that goes with
-/// them.
+/// A file of each kind, and the four files of a board. Each file, and the board as a whole, has the given
+/// size. They are in a temporary folder, which is removed with the object.
 class Inputs {
  public:
   explicit Inputs(std::uint64_t size);
 
-  /// They stay where they are.
+  /// The references are valid as long as the object is.
   [[nodiscard]] const std::list<Input>& All() const { return inputs_; }
 
  private:

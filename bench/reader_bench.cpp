@@ -1,8 +1,8 @@
-// kestrin_reader_bench: measures the readers beside the yardsticks and writes the results to standard output,
-// as tables in Markdown. Google Benchmark shows every run on standard error, and its options are taken too.
+// kestrin_reader_bench: compares the readers with the yardsticks. Prints the results to standard output as
+// tables in Markdown, and every run to standard error. Options, besides those of Google Benchmark:
 //
-//   --size=BYTES   of every file and of the board; 25000000 by default
-//   --check        only looks whether plain C builds what the readers build
+//   --size=BYTES   the size of each file, and of the board; 25000000 by default
+//   --check        only check that the plain C programs build the same models as the readers
 
 #include <benchmark/benchmark.h>
 
@@ -28,7 +28,7 @@ struct Options {
   bool checksOnly = false;
 };
 
-/// Takes this program's options out of the words and leaves Google Benchmark's.
+/// Removes this program's options from the arguments; the rest are Google Benchmark's.
 Options TakeOptions(std::vector<char*>& words) {
   constexpr std::string_view kSize = "--size=";
   Options options;
@@ -42,10 +42,10 @@ Options TakeOptions(std::vector<char*>& words) {
   return options;
 }
 
-/// False where Google Benchmark does not know an option.
+/// Returns false if Google Benchmark does not know an option.
 bool InitializeBenchmark(std::vector<char*> words) {
-  // The works take turns, by lot, so that whatever else the machine does meets them all. The user's options
-  // come later, and win.
+  // The runs are interleaved at random, so that other load on the machine affects all works alike. The user's
+  // options come later and so have precedence.
   std::string interleaved = "--benchmark_enable_random_interleaving=true";
   std::string repeated = "--benchmark_repetitions=11";
   words.insert(words.begin() + 1, {interleaved.data(), repeated.data()});
@@ -80,7 +80,7 @@ int Run(std::vector<char*> words) {
   if (!same || options.checksOnly) return same ? 0 : 1;
   Medians medians;
   benchmark::RunSpecifiedBenchmarks(&medians);
-  WriteCircumstances(std::cout, inputs);
+  WriteConditions(std::cout, inputs);
   WriteGoals(std::cout, medians);
   WriteFigures(std::cout, medians);
   return std::cout.flush() ? 0 : 1;

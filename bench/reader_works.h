@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The product's own readers as works.
+/// The library's readers as works.
 
 #include <cstring>
 #include <stdexcept>
@@ -65,7 +65,7 @@ struct BuiltBoard final : Built {
   CPC_KESTRIN_GET session;
 };
 
-/// A reader, fed from memory.
+/// Runs a reader on text in memory.
 template <class Model>
 std::unique_ptr<Built> ReadFromMemory(const Input& input) {
   auto built = std::make_unique<Model>();
@@ -81,25 +81,25 @@ std::unique_ptr<Built> ReadFromMemory(const Input& input) {
   return built;
 }
 
-/// A reader, fed from its file.
+/// Runs a reader on a file.
 template <class Model>
 std::unique_ptr<Built> ReadFromFile(const Input& input) {
   auto built = std::make_unique<Model>();
   auto reader = built->Reader();
   CStdioFile file;
-  if (file.Open(input.path.c_str()) == 0) throw std::runtime_error("no file");
+  if (file.Open(input.path.c_str()) == 0) throw std::runtime_error("cannot open \"" + input.path + '"');
   while (const auto line = file.ReadLine()) (void)reader.ReadLine(*line);
   return built;
 }
 
-/// The strict reader of the Traces file.
+/// Runs the strict reader on text in memory.
 inline std::unique_ptr<Built> ReadTracesStrictly(const Input& input) {
   auto built = std::make_unique<BuiltStrictly>();
   built->parse = ParseStrictly(test::SourceOf(input.bytes, input.bytes.size()));
   return built;
 }
 
-/// A session's import of the board in a folder, without a dialog.
+/// Imports the board in a folder with a session, without a dialog.
 inline std::unique_ptr<Built> ImportBoard(const Input& input) {
   auto built = std::make_unique<BuiltBoard>(input.path);
   built->session.vParse();

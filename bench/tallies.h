@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// What the models hold, counted as the plain readers count theirs.
+/// Tallies of the library's models, comparable with those of the plain C programs.
 
 #include "bench/measuring/work.h"
 #include "kestrin/geometry/geometry_model.h"

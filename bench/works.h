@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// What is run for every kind of input.
+/// The works for each kind of input.
 
 #include <span>
 #include <string_view>
@@ -11,7 +11,7 @@
 namespace kestrin::bench {
 
 ///@{
-/// The names of works.
+/// The name of a work.
 inline constexpr std::string_view kNewlines = "newlines";
 inline constexpr std::string_view kFields = "fields";
 inline constexpr std::string_view kReaderFromMemory = "reader, from memory";
@@ -22,25 +22,26 @@ inline constexpr std::string_view kImport = "import";
 inline constexpr std::string_view kImportWithDialog = "import with progress shown";
 ///@}
 
-/// The kind of input that is a whole export set; the others are those of files.
+/// The kind of an input that is a whole export set. Other inputs have the kind of their file.
 inline constexpr std::string_view kBoard = "board";
 
-/// A work and what it reads.
+/// A work with its name and the kind of its input.
 struct NamedWork {
   std::string_view kind;
   std::string_view name;
   Work run;
 };
 
-/// Newlines, fields and the readers from memory take the same bytes; the reader from the file and plain C
-/// take the same file from the page cache.
+/// All works. "From memory" works and the floors read the contents of an input; the others read the file,
+/// which is in the page cache.
 [[nodiscard]] std::span<const NamedWork> AllWorks();
 
 [[nodiscard]] constexpr bool BuildsModel(const NamedWork& work) {
   return work.name != kNewlines && work.name != kFields;
 }
 
-/// Whether all works that build a model of the input build the same. Says what they build where they do not.
+/// Whether all works that build a model build the same one of this input. If not, prints the differences to
+/// standard error.
 [[nodiscard]] bool BuildTheSame(const Input& input);
 
 }  // namespace kestrin::bench

@@ -1,4 +1,4 @@
-# What `cmake --install` puts where, and the packages that are made of it.
+# What `cmake --install` installs, and the packages that cpack makes of it.
 include(CMakePackageConfigHelpers)
 
 install(TARGETS kestrin kestrin_static
@@ -19,7 +19,7 @@ install(FILES ${PROJECT_BINARY_DIR}/kestrinConfig.cmake ${PROJECT_BINARY_DIR}/ke
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/kestrin
   COMPONENT development)
 
-# The pkg-config file finds its prefix from where it lies, however deep the library folder is.
+# The pkg-config file computes the prefix from its own location, so the installation can be moved.
 file(RELATIVE_PATH KESTRIN_PREFIX_FROM_PC /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 configure_file(cmake/kestrin.pc.in ${PROJECT_BINARY_DIR}/kestrin.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/kestrin.pc

@@ -19,14 +19,15 @@ bool IsCode(std::string_view text) {
   return std::find(std::begin(kCodes), std::end(kCodes), text) != std::end(kCodes);
 }
 
-template <class ACCEPTS>
-bool All(std::string_view text, ACCEPTS accepts) {
+template <class Accepts>
+bool All(std::string_view text, Accepts accepts) {
   return !text.empty() && std::all_of(text.begin(), text.end(), accepts);
 }
 
 bool IsCapital(char c) { return c >= 'A' && c <= 'Z'; }
 
-/// Without leading zeros, and not too large for an int: its text is what the number is written as.
+/// An integer without leading zeros that fits an int: converting it to a number and back yields the same
+/// text.
 bool IsPlainInteger(std::string_view text) {
   if (text == "0") return true;
   if (text.starts_with('-')) text.remove_prefix(1);
@@ -57,7 +58,7 @@ bool IsPlainSegValue(std::string_view text) {
          !text.starts_with("PRP");
 }
 
-/// The values between blanks, none of which separates inside apostrophes.
+/// The values between the blanks of a line. Blanks between apostrophes do not separate.
 std::vector<std::string_view> ValuesOf(std::string_view line) {
   std::vector<std::string_view> values;
   std::size_t start = 0;
@@ -105,8 +106,8 @@ bool IsPlainLine(std::string_view line) {
   return IsPlainRecord(line);
 }
 
-template <class RECORD>
-void MoveRecords(RecordArray<RECORD>& from, RecordArray<RECORD>& to) {
+template <class Record>
+void MoveRecords(RecordArray<Record>& from, RecordArray<Record>& to) {
   to.Append(from);
   from.RemoveAll();
 }
@@ -128,7 +129,7 @@ void RemoveDifferences(CMTraces& traces) {
     MoveRecords(*fill->m_pIslArray, *rest->m_pIslArray);
     MoveRecords(*fill->m_pIssArray, *rest->m_pIssArray);
     MoveRecords(*fill->m_pTtiArray, *rest->m_pTtiArray);
-    // A fill from a FIL line has vertices of its own, one that stands for areas has none.
+    // Only a fill with a FIL line has vertices of its own.
     if (!fill->m_pVerArray->IsEmpty()) {
       traces.m_pFilArray->Add(std::exchange(fill, nullptr));
     }

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Where the two readers of the Traces file must make the same of a file.
+/// Comparing the two readers of the Traces file.
 
 #include <string_view>
 
@@ -9,14 +9,14 @@
 
 namespace kestrin::fuzz {
 
-/// Whether a text says the same to the reader of lines and to the reader of tokens: every record stands on a
-/// line of its own, its values are tokens of the grammar between blanks, written so that number and text are
-/// the same thing, and no value is longer than the strict reader keeps.
+/// Whether the line reader and the strict reader must read the text in the same way. That is so if each
+/// record is on its own line; its values are tokens of the grammar, separated by blanks, and not longer than
+/// the strict reader keeps; and numbers are written in the form in which they are printed.
 [[nodiscard]] bool IsPlain(std::string_view text);
 
-/// Takes away what the readers do differently by design: the strict one starts a fill where names change, and
-/// a TTI record has the names of the last area there, of its fill here. Areas, islands and TTI records then
-/// stand in one fill behind the others, in file order.
+/// Removes what the readers do differently by design. The strict reader starts a new fill when the names
+/// change, and gives TTI records the names of the last area instead of the fill. So this moves all areas,
+/// islands and TTI records to one fill at the end of the list, in file order, and clears those names.
 void RemoveDifferences(CMTraces& traces);
 
 }  // namespace kestrin::fuzz

@@ -48,34 +48,34 @@ std::string ValidJson(const std::function<void(tool::JsonWriter&)>& write) {
   rapidjson::BaseReaderHandler<> anything;
   const auto result = reader.Parse<rapidjson::kParseValidateEncodingFlag>(text, anything);
   if (result.IsError()) std::fprintf(stderr, "%s\n", rapidjson::GetParseError_En(result.Code()));
-  Require(!result.IsError(), "a dump is valid JSON");
+  Require(!result.IsError(), "the dump is valid JSON");
   return document;
 }
 
 void RequireReason(const LineOutcome& outcome) {
   if (outcome.GetKind() != LineOutcome::Kind::kSkipped) return;
-  Require(outcome.Code() < SkipCode::kCount && !outcome.Reason().empty(), "a line is skipped for a reason");
+  Require(outcome.Code() < SkipCode::kCount && !outcome.Reason().empty(), "a skipped line has a reason");
 }
 
 void RequireCounts(const FileReport& report, std::string_view text, bool raised) {
   const auto lineCount = static_cast<std::int64_t>(LinesOf(text).size());
   Require(raised ? report.linesRead <= lineCount : report.linesRead == lineCount, "every line is read");
   Require(report.Imported() + report.Ignored() + report.Skipped() + (raised ? 1 : 0) == report.linesRead,
-          "every line is imported, ignored, skipped or raises");
+          "every line is imported, ignored or skipped, or raises an exception");
   std::int64_t skipped = 0;
   for (std::size_t i = 0; i < kSkipCodes.size(); ++i) {
     const SkippedLines& lines = report.Skipped(static_cast<SkipCode>(i));
     skipped += lines.count;
     Require(static_cast<std::int64_t>(lines.first.size()) ==
                 std::min<std::int64_t>(lines.count, FileReport::kKeptLines),
-            "the first lines of every code are kept");
+            "the report keeps the first lines of every code");
     for (const SkippedLine& line : lines.first) {
       Require(line.number >= 1 && line.number <= report.linesRead && !line.reason.empty() &&
                   line.text.size() <= FileReport::kKeptBytes,
-              "a skipped line has its number, its reason and its beginning");
+              "a skipped line has a number, a reason and its first bytes");
     }
   }
-  Require(skipped == report.Skipped(), "the codes add up to the skipped lines");
+  Require(skipped == report.Skipped(), "the counts of the codes add up to the number of skipped lines");
 }
 
 MemoryMeter::MemoryMeter() : before_(__sanitizer_get_current_allocated_bytes()), most_(before_) {}
@@ -88,7 +88,7 @@ void MemoryMeter::RequireInProportion(std::size_t inputSize) const {
   const std::size_t taken = most_ - before_;
   const bool isKept = taken <= kPerByte * inputSize + kFixed;
   if (!isKept) std::fprintf(stderr, "%zu bytes for an input of %zu\n", taken, inputSize);
-  Require(isKept, "memory is in proportion to the input");
+  Require(isKept, "memory is proportional to the input");
 }
 
 }  // namespace kestrin::fuzz

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// What the fuzz targets hold the readers to. A promise that is broken ends the process, and the fuzzer keeps
+/// The promises that the fuzz targets check. A broken promise aborts the process, so that the fuzzer keeps
 /// the input.
 
 #include <cstddef>
@@ -19,14 +19,14 @@
 
 namespace kestrin::fuzz {
 
-/// Ends the process unless the promise is kept.
+/// Prints the promise and aborts the process unless isKept.
 void Require(bool isKept, const char* promise);
 
 [[nodiscard]] inline std::string_view TextOf(const std::uint8_t* bytes, std::size_t size) {
   return {reinterpret_cast<const char*>(bytes), size};
 }
 
-/// The lines of a text as the session's readers get them.
+/// Splits a text into lines as the session does.
 [[nodiscard]] std::vector<std::string_view> LinesOf(std::string_view text);
 
 /// What is written as JSON; requires that it is a valid document.
@@ -42,20 +42,21 @@ template <class... Models>
   });
 }
 
-/// Requires that a line that is skipped is skipped for a reason.
+/// Requires that a skipped line has a reason.
 void RequireReason(const LineOutcome& outcome);
 
-/// Requires that every line of the text is counted once, up to one that raised, and every skipped line under
-/// its code.
+/// Requires that the report counts every line of the text once, and every skipped line by its code. If a line
+/// raised an exception, the counts end there.
 void RequireCounts(const FileReport& report, std::string_view text, bool raised);
 
-/// How much memory was taken since this was made. Models, report and scratch may take so many bytes for every
-/// byte of the input: the largest record of a shortest line is what sets the number.
+/// Measures the memory allocated since it was constructed. The limit is proportional to the input; it is set
+/// by the shortest line that makes the largest record.
 class MemoryMeter {
  public:
   MemoryMeter();
+  /// Takes a measurement.
   void Look();
-  /// Requires that no look saw more than inputs of this size may take.
+  /// Requires that no measurement exceeded the limit for inputs of this size.
   void RequireInProportion(std::size_t inputSize) const;
 
  private:
@@ -63,21 +64,23 @@ class MemoryMeter {
   std::size_t most_;
 };
 
-/// What a reader made of a text.
+/// The result of feeding a text to a reader.
 struct Outcome {
   std::string models;              ///< as JSON
-  std::vector<LineOutcome> lines;  ///< of all lines that raised nothing
+  std::vector<LineOutcome> lines;  ///< the outcomes of all lines that did not raise
 };
 
-/// Feeds a text to a reader. Every line has memory of its own, which goes before the next: a reader that
-/// looks beyond a line's ends, or back at it, is caught. SUBJECT has the reader and its models: `reader`,
-/// `Dump()` and kRaises, whether a line may raise CInvalidArgException.
-template <class SUBJECT>
+/// Feeds a text to a reader. Each line is in its own memory, which is freed before the next: so the sanitizer
+/// catches a reader that reads beyond a line or keeps a view of it.
+///
+/// Subject has the reader and its models: `reader`, `Dump()`, and `kRaises`, whether a line may raise
+/// CInvalidArgException.
+template <class Subject>
 [[nodiscard]] Outcome Read(std::string_view text) {
   const std::vector<std::string_view> lines = LinesOf(text);
   Outcome outcome;
   outcome.lines.reserve(lines.size());
-  SUBJECT subject;
+  Subject subject;
   MemoryMeter memory;
   for (const std::string_view line : lines) {
     const std::unique_ptr<char[]> copy(new char[line.size()]);
@@ -86,7 +89,7 @@ template <class SUBJECT>
       outcome.lines.push_back(subject.reader.ReadLine({copy.get(), line.size()}));
       RequireReason(outcome.lines.back());
     } catch (const CInvalidArgException&) {
-      Require(SUBJECT::kRaises, "lines of this file raise nothing");
+      Require(Subject::kRaises, "no line of this file raises an exception");
     }
     memory.Look();
   }
@@ -95,13 +98,14 @@ template <class SUBJECT>
   return outcome;
 }
 
-/// The whole body of a line reader's target.
-template <class SUBJECT>
+/// The body of a line reader's fuzz target.
+template <class Subject>
 int CheckReader(const std::uint8_t* bytes, std::size_t size) {
   const std::string_view text = TextOf(bytes, size);
-  const Outcome first = Read<SUBJECT>(text);
-  const Outcome second = Read<SUBJECT>(text);
-  Require(first.models == second.models && first.lines == second.lines, "the same lines give the same");
+  const Outcome first = Read<Subject>(text);
+  const Outcome second = Read<Subject>(text);
+  Require(first.models == second.models && first.lines == second.lines,
+          "the same lines make the same models and outcomes");
   return 0;
 }
 

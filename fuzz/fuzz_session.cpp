@@ -1,4 +1,4 @@
-// All four files through one session, with a host that posts messages while it reads.
+// Imports four files with one session, with and without a host that posts messages meanwhile.
 
 #include <sys/mman.h>
 #include <unistd.h>
@@ -13,15 +13,15 @@
 namespace kestrin::fuzz {
 namespace {
 
-/// What stands between the files in an input.
+/// Separates the files of an input.
 constexpr char kFileSeparator = '\x1c';
 
-/// A file without a disk.
+/// A file in memory, with a path.
 class MemoryFile {
  public:
   explicit MemoryFile(std::string_view content) : descriptor_(memfd_create("import", 0)) {
     Require(write(descriptor_, content.data(), content.size()) == static_cast<ssize_t>(content.size()),
-            "there is memory for a file");
+            "a file can be created in memory");
   }
   MemoryFile(const MemoryFile&) = delete;
   MemoryFile& operator=(const MemoryFile&) = delete;
@@ -33,7 +33,8 @@ class MemoryFile {
   int descriptor_;
 };
 
-/// Posts messages to itself when it is refreshed and, as long as its budget lasts, two for each that arrives.
+/// Posts a message to itself whenever it is refreshed, and two for each message that it receives, up to a
+/// limit.
 class BusyDialog : public CWnd {
  public:
   BOOL UpdateData(BOOL /*saveAndValidate*/) override {
@@ -67,7 +68,7 @@ struct Import {
   bool raised = false;
 };
 
-/// So many lines of a text, with all that stands between them.
+/// The beginning of a text with this many lines.
 std::string_view FirstLines(std::string_view text, std::size_t count) {
   const std::vector<std::string_view> lines = LinesOf(text);
   return count < lines.size() ? text.substr(0, static_cast<std::size_t>(lines[count].data() - text.data()))
@@ -118,11 +119,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
   const Files files(TextOf(bytes, size));
   const Import busy = Run(files, true);
   const Import quiet = Run(files, false);
-  Require(busy.raised == quiet.raised && busy.models == quiet.models, "a dialog changes nothing");
+  Require(busy.raised == quiet.raised && busy.models == quiet.models,
+          "an import with a dialog makes the same models");
   Require(quiet.models[0] == Read<TechSubject>(files.texts[0]).models &&
               quiet.models[1] == Read<NeutralSubject>(files.texts[1]).models &&
               quiet.models[2] == Read<GeometrySubject>(files.texts[2]).models &&
               quiet.models[3] == Read<TracesSubject>(FirstLines(files.texts[3], quiet.tracesLines)).models,
-          "the session gives what its readers give");
+          "a session makes the same models as its readers alone");
   return 0;
 }

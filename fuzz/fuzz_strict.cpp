@@ -10,39 +10,41 @@
 namespace kestrin::fuzz {
 namespace {
 
-std::string Told(const StrictParse& parse) {
-  std::string told = std::to_string(static_cast<int>(parse.result)) + " " + parse.error + " " +
+/// Everything that a parse returns, as text.
+std::string Described(const StrictParse& parse) {
+  std::string text = std::to_string(static_cast<int>(parse.result)) + " " + parse.error + " " +
                      std::to_string(parse.line) + "\n";
   for (const SyntaxError& error : parse.errors) {
-    told += std::to_string(error.line) + " " + error.Describe() + "\n";
+    text += std::to_string(error.line) + " " + error.Describe() + "\n";
   }
-  return parse.traces == nullptr ? told : told + Dump(*parse.traces);
+  return parse.traces == nullptr ? text : text + Dump(*parse.traces);
 }
 
 void RequireConsistent(const StrictParse& parse, std::string_view text) {
-  Require(parse.result != ParseResult::kExhausted, "a text of this size exhausts nothing");
-  Require(parse.result != ParseResult::kAccepted || parse.traces != nullptr, "what is accepted has a model");
-  Require(parse.result != ParseResult::kRejected || !parse.errors.empty(), "what is rejected has an error");
-  Require(parse.error.empty() == parse.errors.empty(), "the text of the last error is kept");
-  Require(parse.line <= std::count(text.begin(), text.end(), '\n'), "no line end is read twice");
+  Require(parse.result != ParseResult::kExhausted, "a text of this size exhausts no limit");
+  Require(parse.result != ParseResult::kAccepted || parse.traces != nullptr, "an accepted file has a model");
+  Require(parse.result != ParseResult::kRejected || !parse.errors.empty(), "a rejected file has an error");
+  Require(parse.error.empty() == parse.errors.empty(), "the last error has a message");
+  Require(parse.line <= std::count(text.begin(), text.end(), '\n'), "no line end is counted twice");
   std::int64_t line = 0;
   for (const SyntaxError& error : parse.errors) {
     Require(error.line >= std::exchange(line, error.line) && line <= parse.line, "errors are in file order");
-    Require(error.text.size() <= 255 && error.expected.any(), "an error says what was found and expected");
+    Require(error.text.size() <= 255 && error.expected.any(), "an error says what was expected");
   }
 }
 
-/// Whether the readers had to agree, as they then did.
+/// Requires that the readers agree on the text if they have to. Returns whether they have to.
 bool AgreesWithLineReader(StrictParse& parse, std::string_view text) {
   if (parse.result != ParseResult::kAccepted || !parse.errors.empty() || !IsPlain(text)) return false;
   TracesSubject lines;
   for (const std::string_view line : LinesOf(text)) {
     const auto outcome = lines.reader.ReadLine(line);
-    Require(outcome.GetKind() != LineOutcome::Kind::kSkipped, "no line of a file in good form is skipped");
+    Require(outcome.GetKind() != LineOutcome::Kind::kSkipped, "no line of a file in plain form is skipped");
   }
   RemoveDifferences(lines.model);
   RemoveDifferences(*parse.traces);
-  Require(Dump(lines.model) == Dump(*parse.traces), "the readers agree on a file in good form");
+  Require(Dump(lines.model) == Dump(*parse.traces),
+          "both readers make the same model of a file in plain form");
   return true;
 }
 
@@ -52,8 +54,8 @@ bool Check(std::string_view text) {
   memory.Look();
   memory.RequireInProportion(text.size());
   RequireConsistent(whole, text);
-  Require(Told(whole) == Told(ParseStrictly(test::SourceOf(text, 1 + text.size() % 7))),
-          "it does not matter how the bytes come");
+  Require(Described(whole) == Described(ParseStrictly(test::SourceOf(text, 1 + text.size() % 7))),
+          "the result does not depend on how the input is divided into blocks");
   return AgreesWithLineReader(whole, text);
 }
 
@@ -63,7 +65,7 @@ bool Check(std::string_view text) {
 extern "C" int LLVMFuzzerInitialize(int* /*count*/, char*** /*words*/) {
   std::ostringstream board;
   board << std::ifstream(KESTRIN_EXAMPLES "/board/board.traces").rdbuf();
-  kestrin::fuzz::Require(kestrin::fuzz::Check(board.str()), "the readers have to agree on the sample board");
+  kestrin::fuzz::Require(kestrin::fuzz::Check(board.str()), "the sample board is a file in plain form");
   return 0;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The line readers as the fuzz targets take them: each with its models.
+/// The line readers that the fuzz targets test, each with its models.
 
 #include <string>
 

@@ -1,5 +1,5 @@
 #!/bin/sh
-# Installs those of the named Debian packages that are missing; silent when there is nothing to do.
+# install-packages.sh PACKAGE...: installs the Debian packages that are missing. Prints nothing unless that fails.
 set -eu
 
 missing=
@@ -13,7 +13,7 @@ as_root=
 export DEBIAN_FRONTEND=noninteractive
 log=$(mktemp)
 trap 'rm -f "$log"' EXIT
-# shellcheck disable=SC2086  # a list of words
+# shellcheck disable=SC2086  # $missing is a list
 if ! { $as_root apt-get update && $as_root apt-get install -y --no-install-recommends $missing; } >"$log" 2>&1; then
   cat "$log" >&2
   echo "install-packages: could not install:$missing" >&2

@@ -6,7 +6,7 @@
 
 namespace kestrin::test {
 
-/// A file in memory, given in pieces of that many bytes.
+/// A source that returns a text in pieces of this many bytes.
 inline ByteSource SourceOf(std::string_view text, std::size_t piece = 1000) {
   return [text, piece](char* bytes, std::size_t size) mutable {
     const std::size_t count = text.copy(bytes, size < piece ? size : piece);

@@ -9,12 +9,12 @@
 
 namespace kestrin::test {
 
-/// A folder for the files of one test, removed with all that is in it.
+/// A temporary folder. It is removed, with its contents, when the object is destroyed.
 class TemporaryFolder {
  public:
   TemporaryFolder() {
     std::string name = (std::filesystem::temp_directory_path() / "kestrin-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
+    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("cannot create a temporary folder");
     path_ = name;
   }
   TemporaryFolder(const TemporaryFolder&) = delete;

@@ -10,8 +10,8 @@ std::uint64_t allocations = 0;
 
 }  // namespace
 
-// NOLINTBEGIN(bugprone-reserved-identifier): the linker sets these names. It leads calls of malloc to
-// __wrap_malloc, and those of __real_malloc to malloc; so with the others.
+// NOLINTBEGIN(bugprone-reserved-identifier): the linker option --wrap=malloc prescribes these names. It
+// redirects calls of malloc to __wrap_malloc, and calls of __real_malloc to malloc.
 extern "C" {
 
 void* __real_malloc(std::size_t size);

@@ -7,8 +7,8 @@
 
 namespace kestrin::bench {
 
-/// How often this program has called operator new, malloc, calloc and realloc. What the C library allocates
-/// for itself is not counted. Single-threaded.
+/// How often this program has called operator new, malloc, calloc and realloc so far. Calls inside the C
+/// library are not counted. For single-threaded programs.
 [[nodiscard]] std::uint64_t AllocationCount();
 
 }  // namespace kestrin::bench

@@ -11,7 +11,7 @@
 namespace kestrin::bench {
 namespace {
 
-/// Time of the processor, not of the wall: on a shared machine others take the processor away.
+/// Processor time, because on a shared machine wall-clock time includes waiting for other processes.
 double ProcessorSeconds() {
   timespec time{};
   clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
@@ -28,7 +28,7 @@ double SystemSeconds(const rusage& usage) {
   return static_cast<double>(usage.ru_stime.tv_sec) + static_cast<double>(usage.ru_stime.tv_usec) * 1e-6;
 }
 
-/// The greatest resident memory so far. A process begins with that of the one that it is a copy of.
+/// The peak of resident memory so far. A forked process starts with the resident memory of its parent.
 std::uint64_t PeakBytes(const rusage& usage) { return static_cast<std::uint64_t>(usage.ru_maxrss) * 1024; }
 
 }  // namespace
@@ -47,7 +47,7 @@ Cost Measure(Work work, const Input& input) {
     cost.allocations = AllocationCount() - allocationsBefore;
     cost.peakBytes = PeakBytes(after) - PeakBytes(before);
     built.reset();
-    malloc_trim(0);  // joins free chunks, which freeing does at once or puts off
+    malloc_trim(0);  // coalesces free memory, which the allocator otherwise does now or later
     cost.destructionSeconds = ProcessorSeconds() - end;
     return cost;
   });

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// What a work costs.
+/// Measuring the cost of a work.
 
 #include <cstdint>
 
@@ -9,17 +9,16 @@
 
 namespace kestrin::bench {
 
-/// The costs of one run of a work.
+/// The cost of one run of a work. Times are processor times.
 struct Cost {
-  double seconds = 0.0;        ///< of the processor, until the model is built; the system's share included
-  double systemSeconds = 0.0;  ///< the system's share of that, most of it for memory taken the first time
-  double destructionSeconds =
-      0.0;                        ///< until the model is destroyed and the heap has its free memory in order
-  std::uint64_t allocations = 0;  ///< until the model is built
-  std::uint64_t peakBytes = 0;    ///< of resident memory, above what was there before
+  double seconds = 0.0;             ///< for building the model, in user and system mode
+  double systemSeconds = 0.0;       ///< the part in system mode, most of it to supply memory
+  double destructionSeconds = 0.0;  ///< for destroying the model and coalescing the free memory
+  std::uint64_t allocations = 0;    ///< the number of allocations for building the model
+  std::uint64_t peakBytes = 0;      ///< how much building the model raised the peak of resident memory
 };
 
-/// Runs a work in a process of its own.
+/// Runs a work once, in its own process, and measures it.
 [[nodiscard]] Cost Measure(Work work, const Input& input);
 
 }  // namespace kestrin::bench

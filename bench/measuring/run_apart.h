@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Running a function in a process of its own.
+/// Running a function in its own process.
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -12,16 +12,16 @@
 
 namespace kestrin::bench {
 
-/// Runs a function in a copy of this process and returns what it returns. So every work has a fresh heap:
-/// none profits or suffers from the memory that another one left, and its peak of memory is its own.
+/// Runs a function in a forked process and returns its result. So each run starts with the same heap and has
+/// its own memory peak. Raises std::runtime_error if the function raises an exception.
 template <class Function>
 [[nodiscard]] std::invoke_result_t<Function> RunApart(Function function) {
   using Result = std::invoke_result_t<Function>;
   static_assert(std::is_trivially_copyable_v<Result>);
   std::array<int, 2> ends{};
-  if (pipe(ends.data()) != 0) throw std::runtime_error("no pipe");
+  if (pipe(ends.data()) != 0) throw std::runtime_error("cannot create a pipe");
   const pid_t child = fork();
-  if (child < 0) throw std::runtime_error("no process");
+  if (child < 0) throw std::runtime_error("cannot fork a process");
   if (child == 0) {
     try {
       const Result result = function();
@@ -36,7 +36,7 @@ template <class Function>
   const bool isRead = read(ends[0], &result, sizeof(result)) == sizeof(result);
   close(ends[0]);
   waitpid(child, nullptr, 0);
-  if (!isRead) throw std::runtime_error("a work failed");
+  if (!isRead) throw std::runtime_error("the forked process failed");
   return result;
 }
 

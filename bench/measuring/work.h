@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// What is measured: works, each of which makes something of the same input.
+/// The works that are measured: different programs for the same input.
 
 #include <bit>
 #include <cstdint>
@@ -11,7 +11,7 @@
 
 namespace kestrin::bench {
 
-/// What is counted in a model, to see that two works have built the same.
+/// A summary of a model, to check that two works build the same model.
 struct Tally {
   void AddNumber(double number) { numbers += std::bit_cast<std::uint64_t>(number); }
   void AddRecord(std::span<const double> itsNumbers) {
@@ -25,7 +25,7 @@ struct Tally {
   friend bool operator==(const Tally&, const Tally&) = default;
 };
 
-/// What a work has built. Destroying it destroys the model.
+/// The result of a work. Owns the model.
 class Built {
  public:
   Built() = default;
@@ -33,11 +33,11 @@ class Built {
   Built& operator=(const Built&) = delete;
   virtual ~Built() = default;
 
-  /// Nothing where there is no other work to compare with.
+  /// Returns zeros if there is no other work to compare with.
   [[nodiscard]] virtual Tally Count() const { return {}; }
 };
 
-/// What a work reads: a file and the same bytes in memory, or the folder of a board.
+/// The input of a work: a file together with its contents, or the folder of a board.
 struct Input {
   std::string kind;
   std::string path;
@@ -46,7 +46,7 @@ struct Input {
   std::uint64_t lines = 0;
 };
 
-/// Null for a work that builds nothing.
+/// A function that reads the input. Returns null if it builds no model.
 using Work = std::unique_ptr<Built> (*)(const Input& input);
 
 }  // namespace kestrin::bench

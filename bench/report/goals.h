@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The goals that the readers are held to.
+/// The performance goals of the readers.
 
 #include "bench/report/medians.h"
 #include "bench/works.h"
@@ -13,7 +13,7 @@ struct Term {
   const char* figure;
 };
 
-/// A figure of a kind of input, or a quotient of two, and what it should be.
+/// A goal for one kind of input: a bound on a figure, or on the quotient of two.
 struct Goal {
   std::string_view kind;
   const char* text;

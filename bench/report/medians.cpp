@@ -27,7 +27,7 @@ std::string Medians::Name(std::string_view kind, std::string_view work) {
 void Medians::ReportRuns(const std::vector<Run>& runs) {
   ConsoleReporter::ReportRuns(runs);
   for (const Run& run : runs) {
-    // The median comes after the runs that it is of. A single run has none.
+    // The median is reported after its runs, and not at all for a single run.
     const bool isKept = run.run_type == Run::RT_Iteration || run.aggregate_name == "median";
     if (isKept) figures_[run.run_name.function_name] = run.counters;
   }

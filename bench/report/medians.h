@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// What was measured.
+/// The figures that were measured, and their medians.
 
 #include <benchmark/benchmark.h>
 
@@ -16,7 +16,7 @@
 namespace kestrin::bench {
 
 ///@{
-/// The figures of a work.
+/// The name of a figure.
 inline constexpr const char* kTime = "ns/line";
 inline constexpr const char* kSystemTime = "of it system";
 inline constexpr const char* kSpeed = "MB/s";
@@ -25,20 +25,20 @@ inline constexpr const char* kPeak = "peak memory ÷ file";
 inline constexpr const char* kDestroying = "destroying, ns/line";
 ///@}
 
-/// The figures of one run.
+/// Computes the figures of one run.
 [[nodiscard]] benchmark::UserCounters FiguresOf(const Cost& cost, const Input& input);
 
-/// Shows the runs on standard error as they end, and keeps the median of every figure.
+/// Prints the runs to standard error as they finish, and keeps the median of every figure.
 class Medians : public benchmark::ConsoleReporter {
  public:
   Medians();
 
-  /// The name under which a work is run.
+  /// The name of a benchmark.
   [[nodiscard]] static std::string Name(std::string_view kind, std::string_view work);
 
   void ReportRuns(const std::vector<Run>& runs) override;
 
-  /// Nothing where the work was not run.
+  /// The median of a figure; nothing if the work was not run.
   [[nodiscard]] std::optional<double> Find(std::string_view kind, std::string_view work,
                                            const char* figure) const;
 

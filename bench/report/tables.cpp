@@ -43,7 +43,7 @@ std::string Compiler() {
 struct Column {
   const char* figure;
   int digits;
-  bool ofModels;  // where nothing is built, it is nothing
+  bool ofModels;  // shown only for works that build a model
 };
 
 constexpr Column kColumns[] = {{kTime, 1, false},       {kSystemTime, 1, false}, {kSpeed, 0, false},
@@ -51,7 +51,7 @@ constexpr Column kColumns[] = {{kTime, 1, false},       {kSystemTime, 1, false},
 
 }  // namespace
 
-void WriteCircumstances(std::ostream& out, const Inputs& inputs) {
+void WriteConditions(std::ostream& out, const Inputs& inputs) {
   out << Today() << ", " << Processor() << ", " << std::thread::hardware_concurrency() << " processors, "
       << Compiler() << ".\n\nInputs:";
   const char* separator = " ";

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The results as tables in Markdown.
+/// Printing the results as tables in Markdown.
 
 #include <ostream>
 
@@ -10,13 +10,13 @@
 
 namespace kestrin::bench {
 
-/// The day, the processor, the compiler and the sizes of what was read.
-void WriteCircumstances(std::ostream& out, const Inputs& inputs);
+/// Prints the date, the processor, the compiler and the sizes of the inputs.
+void WriteConditions(std::ostream& out, const Inputs& inputs);
 
-/// Every work with its figures.
+/// Prints the figures of every work.
 void WriteFigures(std::ostream& out, const Medians& medians);
 
-/// Every goal with what was measured.
+/// Prints every goal beside the measured value.
 void WriteGoals(std::ostream& out, const Medians& medians);
 
 }  // namespace kestrin::bench

@@ -35,7 +35,7 @@ double SumOfNumbers(std::string_view text) {
     const char* field = position;
     while (position != end && !EndsField(*position)) ++position;
     if (!BeginsNumber(*field)) continue;
-    if (*field == '+') ++field;  // which from_chars does not take
+    if (*field == '+') ++field;  // from_chars does not accept it
     double number = 0.0;
     std::from_chars(field, position, number);
     sum += number;

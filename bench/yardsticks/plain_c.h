@@ -1,10 +1,9 @@
 #pragma once
 
 /// @file
-/// The yardstick "plain C": a reader as an ordinary C programmer writes it. It reads with fgets into a
-/// buffer, cuts it in place, converts with atof and atoi, takes one calloc for each record and doubles its
-/// arrays of pointers. Texts are arrays inside their records, long enough for generated files. Nothing is
-/// freed: the process ends after reading.
+/// The yardstick "plain C": readers as an ordinary C programmer would write them. They read lines with fgets,
+/// cut them in place, convert with atof and atoi, allocate each record with calloc, and double arrays of
+/// pointers. Texts are arrays inside the records, long enough for generated files. Nothing is freed.
 
 #include <cstddef>
 #include <cstdio>
@@ -30,7 +29,7 @@ struct List {
   std::size_t count, capacity;
 };
 
-/// A new record of zeros at the end of a list.
+/// Appends a record of zeros to a list and returns it.
 template <class Record>
 Record* Append(List<Record>* list) {
   if (list->count == list->capacity) {
@@ -42,13 +41,13 @@ Record* Append(List<Record>* list) {
   return record;
 }
 
-/// Copies a text into a record of zeros, as far as there is room.
+/// Copies a text to a field of zeros, as far as it fits.
 inline void Keep(Text& room, const char* text) {
   const std::size_t length = std::strlen(text);
   std::memcpy(room, text, length < kTextSize ? length : kTextSize - 1);
 }
 
-/// Feeds every line of a file to a function.
+/// Calls a function with every line of a file.
 template <class Function>
 void ForEachLine(const char* path, Function function) {
   static char line[kLineSize];

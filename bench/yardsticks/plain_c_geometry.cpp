@@ -27,7 +27,7 @@ struct DrawObject {
   DrawObjectType type;
   Text layer;
   double width;
-  double points[6];  // of arcs; of circles x, y and the size
+  double points[6];  // arcs: three points; circles: x, y and the size
   int mode;
   Numbers coordinates;
 };
@@ -48,8 +48,8 @@ struct Layer {
   Text values[8];
   int valueCount;
 };
-/// A board, a component or a pin: each uses the members that it needs. The stack-up has a name and units
-/// only.
+/// A board, a component or a pin, each of which uses some of the members; or a stack-up, which has a name and
+/// units only.
 struct Geometry {
   Text name, units;
   List<DrawObject> drawObjects;
@@ -77,7 +77,7 @@ struct Reader {
   int count;
 };
 
-/// Cuts arguments at commas, in place, without blanks and quotes; commas between quotes do not separate.
+/// Cuts arguments at commas, in place, and removes blanks and quotes. Commas between quotes do not separate.
 void CutArguments(Reader* reader, char* text) {
   reader->count = 0;
   while (text != nullptr && *text != '\0' && reader->count < kMostFields) {
@@ -100,7 +100,7 @@ void CutArguments(Reader* reader, char* text) {
 
 double Bracketed(const char* field) { return atof(*field == '[' ? field + 1 : field); }
 
-/// The numbers between brackets, or the pending ones where there are no brackets.
+/// Reads the numbers between brackets, or the pending ones if there are no brackets.
 void ReadPoints(Reader* reader, int first, Numbers* numbers) {
   for (int i = first; i < reader->count; ++i) Append(numbers, Bracketed(reader->fields[i]));
   if (first < reader->count) return;
@@ -195,7 +195,7 @@ void Open(Reader* reader, Geometry* geometry) {
   Keep(geometry->name, reader->fields[0]);
 }
 
-/// The chain begins with what is most frequent.
+/// The most frequent commands come first.
 void ReadLine(Reader* reader, char* line) {
   char* arguments = strchr(line, '(');
   char* end = strrchr(line, ')');

@@ -60,7 +60,7 @@ struct Traces {
   List<Fill> fills;
 };
 
-/// Where the records that follow belong.
+/// The records to which the following lines belong.
 struct Reader {
   Traces* traces;
   Net* net;
@@ -69,7 +69,7 @@ struct Reader {
   List<Vertex>* vertices;
 };
 
-/// Keeps a text without the apostrophes around it.
+/// Copies a text without the apostrophes around it.
 void KeepUnquoted(Text& room, const char* text) {
   Keep(room, *text == '\'' ? text + 1 : text);
   const std::size_t length = strlen(room);
@@ -155,17 +155,17 @@ void ReadSt(Reader* reader, char** v) { Convert(reader->traces->st, v + 1, 4); }
 
 constexpr struct Row {
   const char* code;
-  int least;  // values after the code
+  int least;  // the number of values after the keyword
   void (*read)(Reader* reader, char** values);
 } kRows[] = {
-    // what is most frequent comes first
+    // the most frequent come first
     {"VER", 2, ReadVertex}, {"SEG", 4, ReadSegment}, {"WIR", 5, ReadWire},  {"ISL", 1, ReadIsland},
     {"#", 2, ReadNet},      {"ANT", 5, ReadAntenna}, {"GUI", 6, ReadGuide}, {"INC", 7, ReadIncomplete},
     {"FIL", 16, ReadFill},  {"ARE", 6, ReadArea},    {"TTI", 3, ReadTie},   {"XRF", 2, ReadXrf},
     {"TTT", 5, ReadTtt},    {"UNITS", 1, ReadUnits}, {"ST", 4, ReadSt},
 };
 
-/// The value after the last one is null.
+/// The values are followed by a null pointer.
 void ReadLine(Reader* reader, char* line) {
   constexpr int kMostValues = 32;
   char* values[kMostValues + 1];
@@ -238,7 +238,7 @@ struct BuiltTraces final : Built {
 }  // namespace
 
 std::unique_ptr<Built> ReadTraces(const Input& input) {
-  // Records without an owner go where nobody counts them.
+  // Records without an owner are added to these, which are not counted.
   Net net{};
   Fill fill{};
   List<Segment> segments{};

@@ -18,8 +18,8 @@ class GeometryWriter {
   }
 
  private:
-  /// The parts are drawn one after the other, as a list in braces has it, so that every compiler makes the
-  /// same bytes.
+  /// The arguments use random numbers. They are a braced list, whose elements are evaluated in order, so that
+  /// every compiler generates the same bytes.
   void Line(std::initializer_list<std::string> parts) {
     for (const std::string& part : parts) {
       out_ << part;
@@ -32,7 +32,7 @@ class GeometryWriter {
     Line({"$$create_", kind, "(\"", name, "\");"});
     Line({"$$page(0.0, 0.0, @mm);"});
   }
-  /// Values have their comma before them.
+  /// Each value begins with its comma.
   void Attribute(const std::string& name, std::initializer_list<std::string> values) {
     std::string joined;
     for (const std::string& value : values) joined += value;
@@ -51,7 +51,7 @@ class GeometryWriter {
     for (std::int64_t i = 0; i < 2 * count; ++i) text.append(i == 0 ? "[" : ", ").append(Number());
     return text + "]";
   }
-  /// Most lists are short, a few have hundreds of points.
+  /// Most lists are short; one in twenty may have hundreds of points.
   std::string SomePoints() { return Points(Below(20) == 0 ? 2 + Below(400) : 2 + Below(10)); }
   std::string Layer() {
     static constexpr const char* kLayers[] = {"SIGNAL_1", "SILKSCREEN_1", "PLACE_1", "SOLDER_MASK_2"};

@@ -8,14 +8,14 @@
 namespace kestrin::test {
 namespace {
 
-/// Writes lines and knows how many bytes they were. What a line is made of is given as parts, each of them
-/// drawn before the next, so that every compiler makes the same bytes.
+/// Writes lines and counts their bytes. Draw at most one random number in the arguments of a call: their
+/// order of evaluation differs between compilers.
 class Lines {
  public:
   explicit Lines(std::ostream& out) : out_(out) {}
 
-  template <class... PARTS>
-  void Write(const PARTS&... parts) {
+  template <class... Parts>
+  void Write(const Parts&... parts) {
     line_.clear();
     (line_.append(parts), ...);
     out_ << line_ << '\n';

@@ -7,7 +7,7 @@
 namespace kestrin::test {
 namespace {
 
-/// Writes one Traces file. Coordinates are counted in ten-thousandths of a millimetre.
+/// Writes one Traces file. Coordinates are integers, in ten-thousandths of a millimetre.
 class TracesGenerator {
  public:
   TracesGenerator(std::ostream& out, std::uint64_t size) : out_(out), size_(size) {}
@@ -28,7 +28,8 @@ class TracesGenerator {
     text_.clear();
   }
 
-  /// A number from first to last. The standard's distributions may differ from library to library.
+  /// A random number from first to last. The distributions of the standard library are not used because they
+  /// differ between implementations.
   int Random(int first, int last) {
     return first + static_cast<int>(random_() % static_cast<std::uint64_t>(last - first + 1));
   }
@@ -48,7 +49,7 @@ class TracesGenerator {
     if (text_.size() > std::size_t{1} << 16) Flush();
   }
 
-  /// To a place near the last one, on the board.
+  /// Moves to a point of the board near the last one.
   void Move() {
     x_ = (x_ + Random(0, 40'000) + kBoardSize - 20'000) % kBoardSize;
     y_ = (y_ + Random(0, 40'000) + kBoardSize - 20'000) % kBoardSize;

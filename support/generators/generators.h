@@ -1,8 +1,8 @@
 #pragma once
 
 /// @file
-/// Large files for measuring, always the same for the same size. Each has the records of a real board in a
-/// realistic mix, is about size bytes long and ends with a whole record.
+/// Generators of large files for benchmarks. A generated file has a realistic mix of records, is about size
+/// bytes long, ends with a complete line, and has the same bytes every time.
 
 #include <cstdint>
 #include <ostream>
@@ -11,20 +11,20 @@
 
 namespace kestrin::test {
 
-/// A Geometry file: a board, its stack-up, padstacks, and components with paths, polygons, arcs, circles,
-/// texts and attributes, with points in the line and pending ones. A list of points has up to 400 of them.
+/// Writes a Geometry file: a board, its stack-up, padstacks, and components with paths, polygons, arcs,
+/// circles, texts and attributes. Points are in the line or pending, up to about 400 in a list.
 void GenerateGeometry(std::ostream& out, std::uint64_t size);
 
-/// A Neutral file of one board: nets with pins, components with properties.
+/// Writes a Neutral file of one board: nets with pins, components with properties.
 void GenerateNeutral(std::ostream& out, std::uint64_t size);
 
-/// A Tech file: physical layers, then via rules. Those of real boards are a few lines long.
+/// Writes a Tech file: physical layers, then via rules. Real Tech files are a few lines long.
 void GenerateTech(std::ostream& out, std::uint64_t size);
 
-/// A Traces file: half of it VER lines, most of the rest SEG lines, about 24 bytes a line.
+/// Writes a Traces file: half of it VER lines, most of the rest SEG lines, about 24 bytes a line.
 void GenerateTraces(std::ostream& out, std::uint64_t size);
 
-/// What files can be generated, by the ending that export sets give them.
+/// A generator and the ending of its files, without the dot.
 struct GeneratedFile {
   std::string_view kind;
   void (*generate)(std::ostream& out, std::uint64_t size);
@@ -38,7 +38,7 @@ inline constexpr GeneratedFile kGeneratedFiles[] = {
     {"traces", &GenerateTraces},
 };
 
-/// Writes one file; false when it cannot be written.
+/// Writes one file. Returns false if it cannot be written.
 [[nodiscard]] bool WriteGenerated(const GeneratedFile& file, const std::string& path, std::uint64_t size);
 
 /// Writes the four files of a board into an existing folder, as board.tech and so on; false when they cannot
