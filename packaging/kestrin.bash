@@ -1,4 +1,4 @@
-# Completion of kestrin's command line for bash.
+# Bash completion for kestrin.
 _kestrin() {
   local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} files='--tech --neutral --geometry --traces'
   COMPREPLY=()

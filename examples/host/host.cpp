@@ -1,5 +1,5 @@
-// A small host: imports an export set, shows progress, and prints every net with its pins and how many
-// segments it is routed with.
+// A small host: imports an export set, shows progress, and prints every net with its pins and the number of
+// its segments.
 
 #include <kestrin/kestrin.h>
 
@@ -11,10 +11,10 @@
 
 namespace {
 
-/// A dialog that writes a line when a file's reading begins and when a bar has moved on by a quarter.
+/// A dialog on standard error. It prints a line when a file is begun and when a bar reaches another quarter.
 class Dialog : public kestrin::CWnd {
  public:
-  /// The bars: Geometry, Neutral, Traces, Tech.
+  /// Makes the session report to this dialog, which must outlive the import.
   void Attach(kestrin::CPC_KESTRIN_GET& session) {
     session.m_pStatusWnd = &status_;
     session.SetProgressPtr(&geometry_, &neutral_, &traces_, &tech_);
@@ -48,7 +48,7 @@ class Dialog : public kestrin::CWnd {
   Bar tech_{this};
 };
 
-/// How many segments the nets of each name are routed with.
+/// The number of segments by net name. Several nets of the Traces file may have the same name.
 std::map<std::string, std::int64_t> CountSegments(const kestrin::CMTraces& traces) {
   std::map<std::string, std::int64_t> segments;
   for (const auto* net : *traces.m_pNetArray) {
@@ -75,8 +75,9 @@ void PrintReport(const kestrin::ImportReport& report) {
     const kestrin::FileReport& read = report.Of(file);
     std::cerr << read.path << ": " << read.linesRead << " lines, " << read.Imported() << " imported, "
               << read.Skipped() << " skipped\n";
-    if (read.end == kestrin::ReadingEnd::kNotOpened) std::cerr << "  it could not be opened\n";
-    if (read.end == kestrin::ReadingEnd::kStopped) std::cerr << "  reading stopped there\n";
+    if (read.end == kestrin::ReadingEnd::kNotOpened) std::cerr << "  the file could not be opened\n";
+    if (read.end == kestrin::ReadingEnd::kStopped)
+      std::cerr << "  the import stopped at the last line read\n";
   }
 }
 
@@ -97,7 +98,7 @@ int main(int count, char** words) {
   int status = 0;
   try {
     session.vParse();
-  } catch (const std::exception& error) {  // what was read before it is there all the same
+  } catch (const std::exception& error) {  // the models have what was read before
     std::cerr << "the import stopped: " << error.what() << '\n';
     status = 1;
   }
