@@ -131,6 +131,9 @@ TEST(GeometryCommands, DrawAndWrite) {
        "mirror=@NOMirror}"},
       {"$$text(L,, T, \" \", \"1\", , , , , , \"\", , , , @Mirror, \"\")",
        "text{layer=L text=T y=1 mirror=@Mirror}"},
+      {"$$text(L, , 1, , 2, , 3, , 4, , 5, , 6)", "text{layer=L x=1 size=2 angle=3 8=(1 4 std 5 0 6)}"},
+      {"$$text( , T, , 1, , @CC, , 2, , six, , 3, , @m)",
+       "text{text=T y=1 justification=@CC 8=(2 0.01 six [] 3) mirror=@m}"},
       // add: empty values count
       {R"($$add("A", 1, "2", "B", 3, 4.9, 5, 6);)", "add{A 1 2 B 3 4 5}"},
       {"$$add(\"\", , 2)", "add{[] 0 2}"},

@@ -12,7 +12,6 @@ std::size_t TextInput::Read(char* text, std::size_t size) {
       if (endIsKnown_ || !ReadBlock()) return TakeEnd(text, count);
     }
     if (returnWaits_ && rest_.front() != '\n') text[count++] = '\r';
-    returnWaits_ = false;
     count += TakeUpToReturn(text + count, size - count);
   }
   return count;
