@@ -6,11 +6,11 @@
 #include <cstring>
 #include <filesystem>
 #include <iterator>
-#include <memory>
 #include <string_view>
 #include <system_error>
 #include <vector>
 
+#include "kestrin/base/file_handle.h"
 #include "tool/usage_error.h"
 
 namespace kestrin::tool {
@@ -55,7 +55,7 @@ void CheckReadable(const std::string& path) {
   if (fs::exists(status) && !fs::is_regular_file(status)) {
     throw UsageError(Quoted(path) + " is not a regular file");
   }
-  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"), &std::fclose);
+  const FileHandle file(std::fopen(path.c_str(), "rb"));
   if (file == nullptr) throw UsageError("cannot open " + Quoted(path) + ": " + std::strerror(errno));
 }
 
