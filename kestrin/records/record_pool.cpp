@@ -17,8 +17,8 @@ constexpr std::size_t kSlabSize = std::size_t{64} * 1024;
 /// Blocks double from one slab up to this size: a small file takes little memory, a large one few blocks.
 constexpr std::size_t kLargestBlock = 8 * kHugePage;
 
-/// A block is smaller than its size by this much, so that the heap's header fits between two blocks and the
-/// next one can still begin at a multiple.
+/// How much less than its nominal size a block takes. The heap's header for the next block fits into the gap,
+/// so blocks can follow each other at multiples of their alignment.
 constexpr std::size_t kHeapWords = 64;
 
 /// The last slab of a block is the smallest.

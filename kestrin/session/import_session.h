@@ -46,9 +46,10 @@ class CMTraces;
 /// your message handlers and windows throw. What was read before stays in the roots, and you can use the
 /// session again.
 ///
-/// May threads share a session? Use a session and its models on one thread at a time; different sessions may
-/// work on different threads at once. During a parse, messages of your windows are dispatched on the calling
-/// thread: their handlers must not use the session or its models until vParse returns.
+/// May threads share a session? Use a session on one thread at a time. Several threads may read its models as
+/// long as none changes them, and different sessions may work on different threads at once. During a parse,
+/// messages of your windows are dispatched on the calling thread: their handlers must not use the session or
+/// its models until vParse returns.
 class KESTRIN_EXPORT CPC_KESTRIN_GET {
   // The owners of the roots, which copies share. Destroyed from last to first.
   std::shared_ptr<CMTech> tech_;
@@ -78,8 +79,8 @@ class KESTRIN_EXPORT CPC_KESTRIN_GET {
                       CProgressCtrl* traceProgress, CProgressCtrl* techProgress);
 
   /// Reads the files in the order Tech, Neutral, Geometry, Traces. The Tech path is optional. If the
-  /// Geometry, Neutral or Traces path is empty, shows a message box about the first of them that is, in this
-  /// order, and reads nothing.
+  /// Geometry, Neutral or Traces path is empty, shows a message box about the first empty one, in this order,
+  /// and reads nothing.
   void vParse();
   /// Like vParse, but reads only the files whose paths are set and requires none.
   void ParseGivenFiles();

@@ -12,9 +12,9 @@ struct SharedHandler {
   MessageBoxHandler handler;
 };
 
-SharedHandler& Shown() {
-  static SharedHandler shown;
-  return shown;
+SharedHandler& Registered() {
+  static SharedHandler registered;
+  return registered;
 }
 
 }  // namespace
@@ -22,8 +22,8 @@ SharedHandler& Shown() {
 int MessageBoxA(HWND owner, const char* text, const char* caption, UINT style) {
   MessageBoxHandler handler;
   {
-    const std::lock_guard lock(Shown().mutex);
-    handler = Shown().handler;
+    const std::lock_guard lock(Registered().mutex);
+    handler = Registered().handler;
   }
   if (handler) return handler(owner, text, caption, style);
   std::fprintf(stderr, "%s: %s\n", caption, text);
@@ -31,8 +31,8 @@ int MessageBoxA(HWND owner, const char* text, const char* caption, UINT style) {
 }
 
 MessageBoxHandler SetMessageBoxHandler(MessageBoxHandler handler) {
-  const std::lock_guard lock(Shown().mutex);
-  return std::exchange(Shown().handler, std::move(handler));
+  const std::lock_guard lock(Registered().mutex);
+  return std::exchange(Registered().handler, std::move(handler));
 }
 
 }  // namespace kestrin
