@@ -15,7 +15,7 @@
 namespace kestrin {
 
 /// What to read, and how.
-struct Reading {
+struct FileReading {
   CString path;
   const CProgressCtrl* bar = nullptr;
   bool pumpsMessages = false;  // before each line, even without a bar
@@ -38,7 +38,7 @@ class Stopwatch {
 /// Feeds every line of a file to the reader and reports what became of it. A file that cannot be opened is
 /// treated as having no lines. Exceptions of the reader, of the file and of the host's windows pass through.
 template <class Reader>
-void ReadLines(const Reading& reading, Reader& reader, FileReport& report) {
+void ReadLines(const FileReading& reading, Reader& reader, FileReport& report) {
   report = FileReport();
   report.end = ReadingEnd::kStopped;
   const Stopwatch stopwatch(report.duration);
