@@ -25,7 +25,7 @@ Unsigned ReadLittleEndian(CArchive& archive) {
   return static_cast<Unsigned>(value);
 }
 
-// A count that does not fit a width is announced there by the width's greatest value.
+// The greatest value of a width is an escape: the count follows in the next wider integer.
 constexpr auto kMax16 = std::numeric_limits<std::uint16_t>::max();
 constexpr auto kMax32 = std::numeric_limits<std::uint32_t>::max();
 

@@ -16,14 +16,21 @@
 
 namespace kestrin {
 
-/// A growable array of values or of pointers; ARG_TYPE is how elements are passed in. Indexes and sizes are
-/// 64-bit; an index outside the array raises CInvalidArgException and leaves the array as it was.
+/// A growable array of values or pointers. ARG_TYPE is the type in which elements are passed in.
 ///
-/// Where copying an element raises, appending and growing leave the array as it was; after any other
-/// operation the array is valid, but its elements may be partly changed.
+///     kestrin::CArray<double> widths;
+///     widths.Add(0.2);
+///     widths.SetAtGrow(3, 0.5);   // widths is now 0.2, 0, 0, 0.5
+///     for (double width : widths) Use(width);
 ///
-/// An array of pointers never deletes what they point to: removing, clearing and destroying drop pointers
-/// only.
+/// Indexes and sizes are 64-bit. An index outside the array raises CInvalidArgException and leaves the array
+/// unchanged.
+///
+/// If copying an element throws, appending and growing leave the array unchanged. After any other operation
+/// the array is valid, but some of its elements may have changed.
+///
+/// An array of pointers never deletes the objects that they point to. Removing elements, clearing the array
+/// and destroying it only drop the pointers.
 template <class TYPE, class ARG_TYPE = const TYPE&>
 class CArray : public CObject {
  public:
@@ -32,70 +39,75 @@ class CArray : public CObject {
 
   /// The number of elements.
   [[nodiscard]] std::int64_t GetSize() const noexcept { return m_nSize; }
-  /// The same.
+  /// The number of elements.
   [[nodiscard]] std::int64_t GetCount() const noexcept { return m_nSize; }
-  /// Size less one: -1 when empty.
+  /// The index of the last element; -1 if the array is empty.
   [[nodiscard]] std::int64_t GetUpperBound() const noexcept { return m_nSize - 1; }
-  /// Whether there are no elements.
+  /// Whether the array has no elements.
   [[nodiscard]] bool IsEmpty() const noexcept { return m_nSize == 0; }
 
-  /// Sets the number of elements; new ones are zero (null, empty). A growBy of 0 or more becomes the growth
-  /// step of the array, 0 standing for a step computed from the size. Size 0 releases the memory.
+  /// Sets the number of elements; new elements are zero (null, empty). Size 0 frees the memory. A growBy of 0
+  /// or more becomes the array's growth step; 0 means a step computed from the size.
   void SetSize(std::int64_t newSize, std::int64_t growBy = -1);
-  /// Shrinks the memory to the elements.
+  /// Reduces the capacity to the number of elements.
   void FreeExtra();
-  /// Removes every element and releases the memory.
+  /// Removes all elements and frees the memory.
   void RemoveAll() { SetSize(0); }
 
-  /// The elements in a row, null when there is no memory; valid until the array grows or shrinks.
+  /// The elements, contiguous in memory; null if no memory is allocated. Valid until the array grows or
+  /// shrinks.
   [[nodiscard]] TYPE* GetData() noexcept { return m_pData; }
-  /// The same, to read.
+  /// The same for a constant array.
   [[nodiscard]] const TYPE* GetData() const noexcept { return m_pData; }
 
-  /// The element at an index, valid until the array grows or shrinks.
+  /// The element at the index. The reference is valid until the array grows or shrinks.
   [[nodiscard]] TYPE& ElementAt(std::int64_t index) { return m_pData[Checked(index)]; }
-  /// The same, to read.
+  /// The same for a constant array.
   [[nodiscard]] const TYPE& ElementAt(std::int64_t index) const { return m_pData[Checked(index)]; }
   [[nodiscard]] TYPE& GetAt(std::int64_t index) { return ElementAt(index); }                   ///< the same
   [[nodiscard]] const TYPE& GetAt(std::int64_t index) const { return ElementAt(index); }       ///< the same
   [[nodiscard]] TYPE& operator[](std::int64_t index) { return ElementAt(index); }              ///< the same
   [[nodiscard]] const TYPE& operator[](std::int64_t index) const { return ElementAt(index); }  ///< the same
-  /// Replaces the element at an index.
+  /// Replaces the element at the index.
   void SetAt(std::int64_t index, ARG_TYPE element) { ElementAt(index) = element; }
 
-  /// Stores an element, growing the array to its index when needed; a negative index raises.
+  /// Replaces the element at the index. If the index is beyond the end, the array first grows to it; elements
+  /// in between are zero. A negative index raises CInvalidArgException.
   void SetAtGrow(std::int64_t index, ARG_TYPE element);
-  /// Appends; returns the element's index.
+  /// Appends an element and returns its index.
   std::int64_t Add(ARG_TYPE element) { return Emplace(element); }
-  /// Appends copies of another array's elements; returns the index of the first. Another array than this one.
+  /// Appends copies of another array's elements and returns the index of the first. Appending an array to
+  /// itself raises CInvalidArgException.
   std::int64_t Append(const CArray& source);
-  /// Makes this array a copy of another; of itself, nothing.
+  /// Makes this array a copy of another. Copying an array to itself does nothing.
   void Copy(const CArray& source);
-  /// Exchanges the elements, the memory and the growth steps of two arrays.
+  /// Exchanges the elements, memory and growth steps of two arrays.
   void Swap(CArray& other) noexcept;
 
-  /// Inserts copies of an element before an index, or beyond the end with a gap of zero elements.
+  /// Inserts count copies of an element before the index. If the index is beyond the end, zero elements fill
+  /// the gap. A count below 1 raises CInvalidArgException.
   void InsertAt(std::int64_t index, ARG_TYPE element, std::int64_t count = 1);
-  /// Inserts all elements of another array.
+  /// Inserts copies of another array's elements, which may be this array. Null raises CInvalidArgException.
   void InsertAt(std::int64_t startIndex, const CArray* source);
-  /// Removes a range that lies inside the array.
+  /// Removes count elements from the index on. Raises CInvalidArgException, and removes nothing, unless all
+  /// of them are in the array.
   void RemoveAt(std::int64_t index, std::int64_t count = 1);
 
-  /// For range-based loops.
+  /// An iterator for range-based loops.
   [[nodiscard]] TYPE* begin() noexcept { return m_pData; }
-  [[nodiscard]] TYPE* end() noexcept { return m_pData + m_nSize; }              ///< likewise
-  [[nodiscard]] const TYPE* begin() const noexcept { return m_pData; }          ///< likewise
-  [[nodiscard]] const TYPE* end() const noexcept { return m_pData + m_nSize; }  ///< likewise
+  [[nodiscard]] TYPE* end() noexcept { return m_pData + m_nSize; }              ///< the same
+  [[nodiscard]] const TYPE* begin() const noexcept { return m_pData; }          ///< the same
+  [[nodiscard]] const TYPE* end() const noexcept { return m_pData + m_nSize; }  ///< the same
 
  protected:
-  /// Appends an element made from the arguments; returns its index.
+  /// Appends an element constructed from the arguments and returns its index.
   template <class... Arguments>
   std::int64_t Emplace(Arguments&&... arguments);
 
-  TYPE* m_pData = nullptr;      ///< the elements, null without memory
-  std::int64_t m_nSize = 0;     ///< how many there are
-  std::int64_t m_nMaxSize = 0;  ///< capacity; the memory behind it may be larger, see AllocatedSlots
-  std::int64_t m_nGrowBy = 0;   ///< the growth step, 0 for a computed one
+  TYPE* m_pData = nullptr;      ///< the elements; null if no memory is allocated
+  std::int64_t m_nSize = 0;     ///< the number of elements
+  std::int64_t m_nMaxSize = 0;  ///< the capacity; the allocation may be larger, see AllocatedSlots
+  std::int64_t m_nGrowBy = 0;   ///< the growth step; 0 for a computed step
 
  private:
   [[nodiscard]] std::int64_t Checked(std::int64_t index) const {
@@ -130,7 +142,7 @@ void CArray<TYPE, ARG_TYPE>::SetSize(std::int64_t newSize, std::int64_t growBy) 
   m_nGrowBy = step;
 }
 
-/// Makes the capacity hold a size, by the framework's growth rule.
+/// Makes the capacity at least newSize, by the framework's growth rule.
 template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::Reserve(std::int64_t newSize, std::int64_t growBy) {
   if (m_pData == nullptr) {
@@ -158,7 +170,7 @@ void CArray<TYPE, ARG_TYPE>::SetAtGrow(std::int64_t index, ARG_TYPE element) {
     Add(element);
     return;
   }
-  TYPE value(element);  // the element may stand in the memory that is about to move
+  TYPE value(element);  // the element may be in the memory that is about to move
   SetSize(SizeOf(index, 1));
   m_pData[index] = std::move(value);
 }
@@ -166,7 +178,7 @@ void CArray<TYPE, ARG_TYPE>::SetAtGrow(std::int64_t index, ARG_TYPE element) {
 template <class TYPE, class ARG_TYPE>
 template <class... Arguments>
 std::int64_t CArray<TYPE, ARG_TYPE>::Emplace(Arguments&&... arguments) {
-  TYPE value(std::forward<Arguments>(arguments)...);  // which may come from the memory that is about to move
+  TYPE value(std::forward<Arguments>(arguments)...);  // they may refer to the memory that is about to move
   if (m_nSize == m_nMaxSize) Reserve(SizeOf(m_nSize, 1), m_nGrowBy);
   std::construct_at(m_pData + m_nSize, std::move(value));
   return m_nSize++;
@@ -244,7 +256,7 @@ void CArray<TYPE, ARG_TYPE>::Release() noexcept {
   m_nMaxSize = 0;
 }
 
-/// Makes room for count elements at an index; what is there when it returns is for the caller to overwrite.
+/// Makes room for count elements at an index. The caller must overwrite them: their values are leftovers.
 template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::OpenGap(std::int64_t index, std::int64_t count) {
   const std::int64_t oldSize = m_nSize;

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The framework's exceptions. The library raises none of its own; these pass through to the host.
+/// The framework's exceptions. The library defines no others.
 
 #include <exception>
 
@@ -9,15 +9,15 @@
 
 namespace kestrin {
 
-/// Base of the framework's exceptions.
+/// The base of the framework's exceptions.
 class KESTRIN_EXPORT CException : public std::exception {
  public:
   ~CException() override;
-  /// One line of text that lives as long as the program.
+  /// The reason in one line. The text is valid as long as the program runs.
   [[nodiscard]] const char* what() const noexcept override { return text_; }
 
  protected:
-  /// The text must live as long as the program.
+  /// The text must be valid as long as the program runs.
   explicit CException(const char* text) noexcept : text_(text) {}
   CException(const CException&) = default;
   CException& operator=(const CException&) = default;
@@ -26,19 +26,19 @@ class KESTRIN_EXPORT CException : public std::exception {
   const char* text_;
 };
 
-/// Raised by every checked access whose index is outside the string or array.
+/// Raised for an argument outside its range, such as an index outside a string or array.
 class KESTRIN_EXPORT CInvalidArgException : public CException {
  public:
   CInvalidArgException() noexcept : CException("invalid argument") {}
 };
 
-/// Raised when reading an open file fails for another reason than its end.
+/// Raised when reading an open file fails. Reaching the end of the file is not a failure.
 class KESTRIN_EXPORT CFileException : public CException {
  public:
   CFileException() noexcept : CException("the file could not be read") {}
 };
 
-/// Raised when an archive ends before what is read from it does, or cannot take what is written.
+/// Raised when an archive ends early, fails, or is used in the wrong direction.
 class KESTRIN_EXPORT CArchiveException : public CException {
  public:
   CArchiveException() noexcept : CException("the archive ended early or could not be written") {}

@@ -10,8 +10,7 @@ namespace kestrin {
 bool InputFile::Open(const char* path) {
   std::error_code ignored;
   file_.reset(std::filesystem::is_directory(path, ignored) ? nullptr : std::fopen(path, "rb"));
-  if (file_ != nullptr)
-    std::setvbuf(file_.get(), nullptr, _IONBF, 0);  // the readers bring large blocks of their own
+  if (file_ != nullptr) std::setvbuf(file_.get(), nullptr, _IONBF, 0);  // callers read large blocks
   return file_ != nullptr;
 }
 

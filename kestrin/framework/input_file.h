@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// A file that is read once from its start to its end.
+/// A file that is read once, from start to end.
 
 #include <cstddef>
 
@@ -9,16 +9,16 @@
 
 namespace kestrin {
 
-/// An open file, closed with the object. Bytes come as they stand on disk.
+/// A file opened for reading. Returns the bytes as they are on disk. The destructor closes the file.
 class InputFile {
  public:
-  /// False when the file cannot be opened; a folder cannot.
+  /// Returns false if the file cannot be opened or is a folder.
   [[nodiscard]] bool Open(const char* path);
   [[nodiscard]] bool IsOpen() const { return file_ != nullptr; }
   void Close() { file_.reset(); }
 
-  /// Reads up to size bytes and returns how many; 0 at the end. Raises CFileException on a read error,
-  /// once all that came before it has been given.
+  /// Reads up to size bytes and returns their number; 0 at the end. After a read error it first returns the
+  /// bytes before the error; the next call raises CFileException.
   [[nodiscard]] std::size_t Read(char* bytes, std::size_t size);
 
  private:

@@ -10,22 +10,22 @@ namespace kestrin {
 class CArchive;
 class CDumpContext;
 
-/// What a run-time class query answers.
+/// The result of a run-time class query.
 struct CRuntimeClass {
   const char* m_lpszClassName;  ///< the name of the class
 };
 
-/// Base of the framework's arrays and windows; not copyable unless a derived class says so.
+/// The base of the framework's arrays and windows. Not copyable unless a derived class makes itself so.
 class KESTRIN_EXPORT CObject {
  public:
-  /// The run-time class of the object, which lives as long as the program.
+  /// The run-time class of the object. The pointer is valid as long as the program runs.
   virtual CRuntimeClass* GetRuntimeClass() const;
   virtual ~CObject();
-  /// Writes the object to an archive or reads it from one; this one has nothing to write.
+  /// Stores the object to an archive or loads it from one. CObject itself has no data and does nothing.
   virtual void Serialize(CArchive& archive);
-  /// Would check the object in debug builds; does nothing.
+  /// Does nothing. A derived class may check its consistency here.
   virtual void AssertValid() const;
-  /// Would describe the object to a debugger; does nothing.
+  /// Does nothing. A derived class may describe itself here.
   virtual void Dump(CDumpContext& context) const;
 
   CObject& operator=(const CObject&) = delete;

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The memory behind a framework array.
+/// Memory for the framework's arrays.
 
 #include <algorithm>
 #include <bit>
@@ -18,19 +18,20 @@
 namespace kestrin {
 
 ///@{
-/// The growth step of an array without one of its own.
+/// The limits of a computed growth step.
 inline constexpr std::int64_t kSmallestStep = 4;
 inline constexpr std::int64_t kGreatestStep = 1024;
 ///@}
 
-/// How many slots are really allocated behind a capacity. An array's capacity grows in steps of at least 4
-/// and at most 1,024 slots; moving the slots at every such step would cost a small array many allocations and
-/// a large one quadratic time. So the memory comes in powers of two, and beyond some slots in eighths of one,
-/// and most steps find theirs already there. A small array that does not grow by single elements gets just
-/// what it asks for.
+/// The number of slots to allocate for a capacity.
+///
+/// The capacity that hosts see grows in steps of 4 to 1,024 slots. Reallocating at every step would cost a
+/// small array many allocations and a large one quadratic time. So allocations are powers of two, above 64
+/// slots also eighths of the way to the next, and most steps need no reallocation. A small array that does
+/// not grow one element at a time gets exactly its capacity.
 [[nodiscard]] constexpr std::int64_t AllocatedSlots(std::int64_t capacity) {
   constexpr std::int64_t kSmall = 64;
-  constexpr std::int64_t kFirstTwo = 1 + kSmallestStep;  // capacities of growth by one: 1, 5, 9, 13 ...
+  constexpr std::int64_t kFirstTwo = 1 + kSmallestStep;  // growing by one element: 1, 5, 9, 13, …
   const auto slots = static_cast<std::uint64_t>(capacity);
   if (capacity <= kFirstTwo) return capacity == 1 ? kFirstTwo : capacity;
   if (capacity <= kSmall) {
@@ -40,17 +41,17 @@ inline constexpr std::int64_t kGreatestStep = 1024;
   return static_cast<std::int64_t>((slots + granule - 1) / granule * granule);
 }
 
-// NOLINTBEGIN(cppcoreguidelines-owning-memory,bugprone-sizeof-expression): here slots are raw memory, that of
-// pointers is the size of pointers, and realloc is what grows in place.
+// NOLINTBEGIN(cppcoreguidelines-owning-memory,bugprone-sizeof-expression): slots are raw memory here, a slot
+// may hold a pointer, and only realloc can grow in place.
 
-/// Frees what malloc gave.
+/// The deleter of memory from malloc.
 struct FreeMemory {
-  /// Frees it; null is nothing.
+  /// Frees the memory. Null is allowed.
   void operator()(void* memory) const noexcept { std::free(memory); }
 };
 
-/// Moves slots to other memory; those whose move may raise are copied, so that nothing has changed when it
-/// does.
+/// Moves slots to other memory. Elements whose move may throw are copied instead, so that the slots are
+/// unchanged if it does.
 template <class T>
 void MoveSlots(T* slots, std::int64_t used, T* memory) {
   if constexpr (std::is_nothrow_move_constructible_v<T> || !std::is_copy_constructible_v<T>) {
@@ -61,8 +62,8 @@ void MoveSlots(T* slots, std::int64_t used, T* memory) {
   std::destroy_n(slots, used);
 }
 
-/// Moves the first used slots to memory for another number of slots and returns it; in place where the
-/// allocator can. Raises std::bad_alloc or what copying a slot raises, and then nothing has moved.
+/// Reallocates memory for count slots, in place if the allocator can, and keeps the first used slots. Throws
+/// std::bad_alloc, or what copying an element throws; the old memory is then unchanged.
 template <class T>
 [[nodiscard]] T* ReallocateSlots(T* slots, std::int64_t used, std::int64_t count) {
   static_assert(alignof(T) <= alignof(std::max_align_t), "arrays have no over-aligned elements");

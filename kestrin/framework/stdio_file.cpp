@@ -13,13 +13,13 @@ constexpr std::size_t kBlockSize = std::size_t{256} * 1024;
 
 }  // namespace
 
-/// The part of the file in memory: lines are handed out from its front, blocks are read to its back.
+/// The part of the file that is in memory. Lines are taken from its front; blocks are appended to it.
 class CStdioFile::LineBuffer {
  public:
   [[nodiscard]] bool Open(const char* path) { return file_.Open(path); }
 
   [[nodiscard]] std::optional<std::string_view> NextLine() {
-    std::size_t searched = 0;  // bytes of this line that are known to hold no line feed
+    std::size_t searched = 0;  // the first bytes of this line; none is a line feed
     for (;;) {
       if (const char* feed = FindFeed(searched)) return TakeLine(feed);
       searched = filled_ - start_;
@@ -66,7 +66,7 @@ class CStdioFile::LineBuffer {
   InputFile file_;
   std::vector<char> bytes_;
   std::size_t start_ = 0;   // of the next line
-  std::size_t filled_ = 0;  // end of what has been read
+  std::size_t filled_ = 0;  // the end of the bytes that have been read
 };
 
 CStdioFile::CStdioFile() = default;

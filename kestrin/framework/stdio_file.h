@@ -13,8 +13,16 @@
 
 namespace kestrin {
 
-/// A text file that is read line by line. A line ends at a line feed or at the end of the file and may hold
-/// any other bytes, in any number; one carriage return directly before the line feed is removed with it.
+/// A text file that is read line by line.
+///
+///     kestrin::CStdioFile file;
+///     kestrin::CString line;
+///     if (file.Open("board.tech") != 0) {
+///       while (file.ReadString(line)) Use(line);
+///     }
+///
+/// A line ends at a line feed or at the end of the file. It may be of any length and contain any other bytes.
+/// The line feed is removed, and so is one carriage return directly before it.
 class KESTRIN_EXPORT CStdioFile {
  public:
   CStdioFile();
@@ -22,16 +30,18 @@ class KESTRIN_EXPORT CStdioFile {
   CStdioFile(const CStdioFile&) = delete;
   CStdioFile& operator=(const CStdioFile&) = delete;
 
-  /// Opens a file for reading; zero when it cannot be opened, as a folder cannot. The flags are the
-  /// framework's; reading text, 0, is all there is.
+  /// Opens a file for reading. Returns zero if it cannot be opened or is a folder; the file opened before
+  /// then stays open. The flags are ignored: files are always opened to read text.
   [[nodiscard]] int Open(const char* path, unsigned flags = 0);
-  /// Closes the file, if one is open; so does the destructor.
+  /// Closes the file if one is open. The destructor does this too.
   void Close();
 
-  /// The next line; false at the end of the file. Raises CFileException on a read error.
+  /// Reads the next line. At the end of the file, returns false and makes the line empty. Raises
+  /// CFileException on a read error.
   bool ReadString(CString& line);
 
-  /// The same without a copy: the line is valid until the next is read.
+  /// Like ReadString, but without a copy. The view is valid until the next line is read or the file is
+  /// closed.
   [[nodiscard]] std::optional<std::string_view> ReadLine();
 
  private:

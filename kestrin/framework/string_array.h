@@ -12,12 +12,12 @@
 
 namespace kestrin {
 
-/// An ordered array of strings that it owns; indexes are checked as in CArray.
+/// An array of strings. Indexes are checked as in CArray.
 class CStringArray : public CArray<CString, const CString&> {
  public:
   using CArray::Add;
   ///@{
-  /// Appends a copy of the text; returns its index.
+  /// Appends a copy of the text and returns its index.
   std::int64_t Add(std::string_view text) { return Emplace(text); }
   std::int64_t Add(const char* text) { return Emplace(text); }
   std::int64_t Add(const std::string& text) { return Emplace(text); }

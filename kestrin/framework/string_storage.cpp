@@ -7,7 +7,7 @@
 
 namespace kestrin {
 
-/// What precedes the bytes of a long text on the heap.
+/// The header of a long text on the heap. The bytes follow it.
 struct StringStorage::Block {
   Block(std::size_t textSize, std::size_t room) : size(textSize), capacity(room) {}
 
@@ -25,7 +25,7 @@ struct StringStorage::Block {
   std::size_t size;
   std::size_t capacity;
   std::atomic<std::size_t> holders{1};
-  bool isLent = false;  // a host may write to the bytes, so that nobody else may hold them
+  bool isLent = false;  // a caller may write to the bytes, so the block must not be shared
 };
 
 std::string_view StringStorage::BlockView() const noexcept { return {GetBlock()->Bytes(), GetBlock()->size}; }
@@ -39,7 +39,7 @@ std::size_t StringStorage::Room() const noexcept {
   return !IsInline() && GetBlock()->isLent ? GetBlock()->capacity : View().size();
 }
 
-// Short texts move to a block as well: in place, a zero byte after 15 others would change their number.
+// Short texts move to a block too: inside the object, a caller could overwrite the tag.
 char* StringStorage::Lend(std::size_t room) {
   if (IsInline() || !GetBlock()->isLent || GetBlock()->capacity < room) {
     const std::string_view kept(View().data(), Room());
@@ -52,7 +52,7 @@ char* StringStorage::Lend(std::size_t room) {
   return GetBlock()->Bytes();
 }
 
-/// Makes this, a copy of another's members, hold the block too, or a copy of it.
+/// Completes a copy whose members are already copied: shares the block, or copies it if it is lent.
 void StringStorage::ShareBlock() {
   Block* const block = GetBlock();
   if (!block->isLent) {
@@ -63,26 +63,26 @@ void StringStorage::ShareBlock() {
   AssignLong({block->Bytes(), block->size});
 }
 
-void StringStorage::LetGoOfBlock() const noexcept {
+void StringStorage::ReleaseBlock() const noexcept {
   if (GetBlock()->holders.fetch_sub(1, std::memory_order_acq_rel) == 1) ::operator delete(GetBlock());
 }
 
 void StringStorage::TakeBlock(Block* block) noexcept {
-  if (!IsInline()) LetGoOfBlock();
+  if (!IsInline()) ReleaseBlock();
   std::memcpy(bytes_.data(), &block, sizeof(void*));
   bytes_[kInlineSize] = static_cast<char>(kBlockTag);
 }
 
-/// Whether so many bytes can be written to where the bytes are.
+/// Whether size bytes fit into the present memory, and it is not shared.
 bool StringStorage::HasRoomFor(std::size_t size) const noexcept {
   if (IsInline()) return size <= kInlineSize;
   return size <= GetBlock()->capacity && !GetBlock()->IsShared();
 }
 
-/// Where the bytes are, when there is room for those to be written.
+/// The bytes for writing. Call HasRoomFor first: a shared block must not be written to.
 char* StringStorage::Bytes() noexcept { return IsInline() ? bytes_.data() : GetBlock()->Bytes(); }
 
-/// Ends the bytes where they have been written.
+/// Sets the number of bytes, which must already be written.
 void StringStorage::SetSize(std::size_t size) noexcept {
   if (IsInline()) return SetInlineSize(size);
   GetBlock()->size = size;
@@ -104,13 +104,13 @@ void StringStorage::Append(std::string_view text) {
   } else {
     Block* const block = Block::Make(old, std::max(size, 2 * old.size()));
     text.copy(block->Bytes() + old.size(), text.size());
-    TakeBlock(block);  // only now, as the text may stand in the old one
+    TakeBlock(block);  // only now: the text may be in the old block
   }
   SetSize(size);
 }
 
 void StringStorage::Resize(std::size_t size) {
-  if (!HasRoomFor(size)) TakeBlock(Block::Make(View().substr(0, size), size));  // they are shared
+  if (!HasRoomFor(size)) TakeBlock(Block::Make(View().substr(0, size), size));  // the block is shared
   SetSize(size);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The bytes behind a framework string.
+/// The memory of a framework string.
 
 #include <array>
 #include <cstddef>
@@ -14,16 +14,17 @@
 
 namespace kestrin {
 
-/// Bytes with a zero byte behind them, in 16 bytes of memory: most texts of an export file are short, and a
-/// model keeps millions of them. Up to 15 bytes stand in the object itself, longer texts in a block on the
-/// heap, which copies share until one of them changes: a name that a file gives once and a model keeps in a
-/// million records takes the memory of one.
+/// A string of bytes with a zero byte after it, in an object of 16 bytes.
+///
+/// Most texts of an export file are short, and a model holds millions of them. So texts of up to 15 bytes are
+/// inside the object. Longer texts are in a heap block with a reference count; copies share it until one of
+/// them changes. A long name that appears in a million records is in memory once.
 class KESTRIN_EXPORT StringStorage {
  public:
   StringStorage() noexcept = default;
   ///@{
-  /// Copies behave like bytes of their own, also on different threads; what is moved from keeps bytes to be
-  /// replaced.
+  /// Copies are independent of each other, also on different threads. An object that was moved from is valid;
+  /// its bytes are unspecified.
   explicit StringStorage(std::string_view text) { Assign(text); }
   StringStorage(const StringStorage& other) : bytes_(other.bytes_) {
     if (!IsInline()) ShareBlock();
@@ -38,32 +39,32 @@ class KESTRIN_EXPORT StringStorage {
     return *this;
   }
   ~StringStorage() {
-    if (!IsInline()) LetGoOfBlock();
+    if (!IsInline()) ReleaseBlock();
   }
   ///@}
 
-  /// The bytes, valid until they change. A zero byte follows them.
+  /// The bytes, with a zero byte after them. The view is valid until the bytes change.
   [[nodiscard]] std::string_view View() const noexcept {
     return IsInline() ? std::string_view(bytes_.data(), kInlineSize - Tag()) : BlockView();
   }
-  /// The bytes, to be changed in place; the pointer ends when the storage is copied or changed.
+  /// The bytes, to be changed in place. The pointer is valid until the storage is copied or changed.
   [[nodiscard]] char* Data() { return IsInline() ? bytes_.data() : UnsharedBlock(); }
 
-  /// Room for at least that many bytes, to be written until something else changes the bytes. It starts with
-  /// the bytes, whose number stays the same. Copies made meanwhile share nothing.
+  /// Returns writable memory for at least room bytes. It begins with the bytes; their number stays the same.
+  /// The memory is valid until another operation changes the bytes. Copies made until then are deep.
   [[nodiscard]] char* Lend(std::size_t room);
-  /// The size of the room that is lent; of the bytes when none is.
+  /// The size of the memory that Lend returned; the number of bytes if none is lent.
   [[nodiscard]] std::size_t Room() const noexcept;
 
-  /// Replaces the bytes; the text may be a part of them.
+  /// Replaces the bytes. The text may be a part of them.
   void Assign(std::string_view text) {
     if (text.size() > kInlineSize || !IsInline()) return AssignLong(text);
     std::char_traits<char>::move(bytes_.data(), text.data(), text.size());
     SetInlineSize(text.size());
   }
-  /// Adds bytes at the end; the text may be a part of those that are there.
+  /// Appends bytes. The text may be a part of those that are there.
   void Append(std::string_view text);
-  /// Keeps the first bytes of the room.
+  /// Keeps the first size bytes, and ends the lending. The size must be at most Room().
   void Resize(std::size_t size);
 
  private:
@@ -73,7 +74,7 @@ class KESTRIN_EXPORT StringStorage {
   using InlineBytes = std::array<char, kInlineSize + 1>;
   static constexpr InlineBytes kEmpty{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, kInlineSize};
 
-  /// How many inline bytes are free, so that it is the zero byte behind 15 of them; or that there is a block.
+  /// The number of free inline bytes, or kBlockTag. With 15 inline bytes it is 0 and ends the text.
   [[nodiscard]] unsigned char Tag() const noexcept { return static_cast<unsigned char>(bytes_[kInlineSize]); }
   [[nodiscard]] bool IsInline() const noexcept { return Tag() != kBlockTag; }
   void SetInlineSize(std::size_t size) noexcept {
@@ -89,7 +90,7 @@ class KESTRIN_EXPORT StringStorage {
   [[nodiscard]] std::string_view BlockView() const noexcept;
   [[nodiscard]] char* UnsharedBlock();
   void ShareBlock();
-  void LetGoOfBlock() const noexcept;
+  void ReleaseBlock() const noexcept;
   void TakeBlock(Block* block) noexcept;
   [[nodiscard]] bool HasRoomFor(std::size_t size) const noexcept;
   [[nodiscard]] char* Bytes() noexcept;
