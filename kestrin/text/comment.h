@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Lines that are there for people only.
+/// Blank lines and comments.
 
 #include <string_view>
 
@@ -9,7 +9,7 @@
 
 namespace kestrin {
 
-/// Whether a line holds nothing but white space, or a comment: "#" first.
+/// Whether the line is blank or a comment. A comment begins with "#", which white space may precede.
 [[nodiscard]] constexpr bool IsBlankOrComment(std::string_view line) {
   const std::string_view text = Trimmed(line);
   return text.empty() || text.front() == '#';

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Whether a text has another in it.
+/// Whether a text contains another.
 
 #include <string_view>
 

@@ -13,7 +13,7 @@ std::optional<std::string_view> NextTokenUntil(std::string_view text, std::size_
   return text.substr(start, position - start);
 }
 
-/// The next field between separators, which do not separate between quotes.
+/// The next field between separators. A separator between quotes is part of the field.
 template <class IsQuote>
 std::optional<std::string_view> NextQuotedField(std::string_view line, std::size_t& position, char separator,
                                                 IsQuote isQuote) {
@@ -27,10 +27,10 @@ std::optional<std::string_view> NextQuotedField(std::string_view line, std::size
   return line.substr(start, end - start);
 }
 
-/// Where a group in parentheses ends.
+/// The end of a group in parentheses.
 struct GroupEnd {
   std::size_t position;
-  bool isClosed;   // by a parenthesis before it, else by the end of the line
+  bool isClosed;   // by a parenthesis; false if the line ends first
   bool hasBlanks;  // outside double quotes
 };
 
@@ -47,7 +47,7 @@ GroupEnd FindGroupEnd(std::string_view line, std::size_t start) {
   return {line.size(), false, hasBlanks};
 }
 
-/// Blanks between double quotes stay.
+/// Keeps blanks between double quotes.
 void CopyWithoutBlanks(std::string_view text, std::string& copy) {
   copy.clear();
   bool quoted = false;

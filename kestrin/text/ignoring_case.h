@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Comparing text whatever the case of its ASCII letters, without a copy of it.
+/// Comparing and searching text without regard to the case of ASCII letters.
 
 #include <algorithm>
 #include <string_view>

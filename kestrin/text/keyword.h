@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The words that say which record a line holds.
+/// The keywords of lines, and tables that are searched by keyword.
 
 #include <array>
 #include <cstddef>
@@ -11,8 +11,8 @@
 
 namespace kestrin {
 
-/// A word of up to seven characters, as one number: comparing it with every row of a table takes no time to
-/// speak of. All longer words are the same keyword, which no table has.
+/// A word of up to seven characters, packed into one integer, so that a table is searched by comparing
+/// integers. All longer words are the same keyword, which is in no table.
 class Keyword {
  public:
   static constexpr std::size_t kLongest = 7;
@@ -33,8 +33,8 @@ class Keyword {
   std::uint64_t number_ = 0;
 };
 
-/// Finds the row of a keyword. Made at compile time from an array of rows, which have a member `name`; those
-/// of frequent keywords come first.
+/// Finds the row of a keyword. Made at compile time from an array of rows, each with a member `name`. The
+/// search is linear, so put the most frequent keywords first.
 template <class Row, std::size_t Count>
 class KeywordTable {
  public:
@@ -45,7 +45,7 @@ class KeywordTable {
     }
   }
 
-  /// Null when no row has the keyword.
+  /// The row of the keyword; null if there is none.
   [[nodiscard]] constexpr const Row* Find(Keyword keyword) const {
     for (const Entry& entry : entries_) {
       if (entry.keyword == keyword) return entry.row;

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The fields of a line, cut as far as they are asked for.
+/// The fields of a line, cut on demand.
 
 #include <array>
 #include <cstddef>
@@ -12,31 +12,37 @@
 
 namespace kestrin {
 
-/// The fields between the spaces of a line, numbered from 0. Spaces between apostrophes do not separate; the
-/// apostrophes stay in the field.
+/// The fields between the spaces of a line, numbered from 0.
 ///
-/// Most records are read from left to right, and most fields are numbers: cutting no further than asked for,
-/// a number is converted and found to its end at once. Fields are views into the line and valid as long as it
-/// is. Asking for a field that the line does not have raises CInvalidArgException.
+///     LineFields fields;
+///     fields.Begin("SEG 1.5 2 'TOP LAYER'");
+///     fields.Double(1);   // 1.5
+///     fields.Text(3);     // 'TOP LAYER', with its apostrophes
+///     fields.Text(4);     // raises CInvalidArgException: the line has no such field
+///
+/// A space between apostrophes does not separate. Fields are views into the line.
+///
+/// The line is cut only as far as it is read. Most records are read from left to right and most fields are
+/// numbers, so a number is usually converted and cut in a single pass.
 class LineFields {
  public:
-  /// Further fields count, but cannot be asked for.
+  /// The number of fields that can be read. Further fields are only counted.
   static constexpr std::size_t kKept = 32;
 
-  /// The fields are those of this line from now on. Quoted says whether it begins inside an apostrophe.
+  /// Starts a new line. Quoted says whether it begins inside apostrophes.
   void Begin(std::string_view line, bool quoted = false) {
     rest_ = line;
     quoted_ = quoted;
     count_ = 0;
   }
-  /// Cuts what is left of the line.
+  /// Cuts the rest of the line.
   void Finish() {
     while (CutNext()) continue;
   }
-  /// Whether an apostrophe is open after the last field that was cut.
+  /// Whether an apostrophe is open where the cutting stopped.
   [[nodiscard]] bool IsQuoted() const { return quoted_; }
 
-  /// How many fields the line has.
+  /// The number of fields of the line.
   [[nodiscard]] std::size_t Count() {
     Finish();
     return count_;
@@ -53,13 +59,13 @@ class LineFields {
     }
     return number < kKept;
   }
-  /// Whether the fields that were asked for are all that the line has.
+  /// Whether no fields are left to cut.
   [[nodiscard]] bool AtEnd() {
     SkipSpaces();
     return rest_.empty();
   }
 
-  /// A field as the line has it, apostrophes included.
+  /// A field as it is in the line, with its apostrophes.
   [[nodiscard]] std::string_view Text(std::size_t number) {
     if (!Has(number)) AfxThrowInvalidArgException();
     return kept_[number];
@@ -70,7 +76,7 @@ class LineFields {
     if (!Read(number, value)) AfxThrowInvalidArgException();
     return value;
   }
-  /// Overwrites the target with a field's number, if the line has the field; returns whether it has.
+  /// Sets the target to the field's number if the line has the field. Returns whether it has.
   bool Read(std::size_t number, double& target) {
     if (number == count_ && CutPlainNumber(target)) return true;
     if (!Has(number)) return false;
@@ -95,7 +101,7 @@ class LineFields {
     Take(size);
     return true;
   }
-  /// False, and nothing is cut, when the next field is not just a number of the usual form.
+  /// Returns false and cuts nothing if the next field is anything but a plain number.
   bool CutPlainNumber(double& number) {
     SkipSpaces();
     const std::size_t size = quoted_ ? 0 : ReadPlainNumber(rest_, number);
@@ -104,9 +110,9 @@ class LineFields {
     return true;
   }
 
-  std::string_view rest_;  // of the line, not cut yet
-  bool quoted_ = false;    // where the rest begins
-  std::size_t count_ = 0;  // of the fields that are cut
+  std::string_view rest_;  // the part of the line that is not cut yet
+  bool quoted_ = false;    // whether the rest begins inside apostrophes
+  std::size_t count_ = 0;  // of fields cut so far
   std::array<std::string_view, kKept> kept_;
 };
 

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// What became of a line of an import file.
+/// The outcome of reading a line of an export file.
 
 #include <algorithm>
 #include <array>
@@ -26,16 +26,16 @@ enum class SkipCode : std::uint8_t {
   kUnknownCommand,
   kUnknownAttribute,
   kMissingValue,
-  kCount,  // of the codes
+  kCount,  // the number of codes
 };
 
-/// A skip code as users see it.
+/// The names of a skip code.
 struct SkipCodeText {
   std::string_view name;  ///< short and stable, for scripts: "unknown-record"
   std::string_view text;  ///< the reason in a sentence
 };
 
-/// The catalogue of skip codes, a row each in the order of SkipCode.
+/// The catalogue of skip codes, in the order of SkipCode.
 inline constexpr std::array kSkipCodes{
     SkipCodeText{"unknown-record", "unknown record"},
     SkipCodeText{"unended-keyword", "no blank follows the keyword"},
@@ -48,16 +48,20 @@ inline constexpr std::array kSkipCodes{
 };
 static_assert(kSkipCodes.size() == static_cast<std::size_t>(SkipCode::kCount));
 
-/// The row of a code in the catalogue.
+/// The catalogue's row of a code.
 [[nodiscard]] constexpr const SkipCodeText& TextOf(SkipCode code) {
   return kSkipCodes[static_cast<std::size_t>(code)];
 }
 
-/// The answer of a reader to one line: imported, ignored (it carries nothing: blank, a comment, outside what
-/// was asked for) or skipped for a reason. Small enough to be returned in registers.
+/// What a reader made of a line. The line was
+/// - imported,
+/// - ignored, because it has nothing to import: it is blank, a comment, or outside the selected board, or
+/// - skipped, for the reason that Code and Reason return.
+///
+/// Small enough to be returned in registers.
 class LineOutcome {
  public:
-  /// What became of the line.
+  /// What the reader did with the line.
   enum class Kind : std::uint8_t { kImported, kIgnored, kSkipped };
 
   ///@{
@@ -66,12 +70,13 @@ class LineOutcome {
   [[nodiscard]] static constexpr LineOutcome Ignored() { return {Kind::kIgnored, SkipCode{}, -1, nullptr}; }
   ///@}
 
-  /// The line is skipped for the reason that the code says.
+  /// The line was skipped for the code's reason.
   [[nodiscard]] static constexpr LineOutcome Skipped(SkipCode code) {
     return {Kind::kSkipped, code, -1, nullptr};
   }
   ///@{
-  /// The line breaks this rule, which must be a constant. The reason is made from the rule.
+  /// The line was skipped because it breaks a rule. The reason is made from the rule, which must be a
+  /// constant.
   [[nodiscard]] static constexpr LineOutcome Skipped(SkipCode code, const RecordRule& rule) {
     return {Kind::kSkipped, code, -1, &rule};
   }
@@ -84,7 +89,8 @@ class LineOutcome {
   }
   ///@}
 
-  /// The line begins inside an apostrophe that an earlier line, counted from 1, left open.
+  /// The line was skipped because it begins inside an apostrophe that an earlier line left open. Lines are
+  /// numbered from 1.
   [[nodiscard]] static constexpr LineOutcome OpenQuote(std::int64_t openingLine) {
     return {Kind::kSkipped, SkipCode::kOpenQuote,
             openingLine <= INT32_MAX ? static_cast<std::int32_t>(openingLine) : -1, nullptr};
@@ -92,9 +98,9 @@ class LineOutcome {
 
   /// Whether the line was imported, ignored or skipped.
   [[nodiscard]] constexpr Kind GetKind() const { return kind_; }
-  /// Meaningful for a skipped line only.
+  /// The code of the reason. Meaningful for a skipped line only.
   [[nodiscard]] constexpr SkipCode Code() const { return code_; }
-  /// Why this very line was skipped, in one sentence.
+  /// Why the line was skipped: "N_PIN needs at least 5 values, 3 found".
   [[nodiscard]] std::string Reason() const;
 
   friend constexpr bool operator==(LineOutcome, LineOutcome) = default;
@@ -105,8 +111,8 @@ class LineOutcome {
 
   Kind kind_;
   SkipCode code_;
-  std::int32_t number_;     // how many values the line has, or which line opened the quote; -1 for neither
-  const RecordRule* rule_;  // null when the code says it all
+  std::int32_t number_;     // the number of values, or of the line that opened the quote; -1 for neither
+  const RecordRule* rule_;  // null if the reason depends on the code only
 };
 
 }  // namespace kestrin

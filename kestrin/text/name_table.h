@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Tables of rows that are found by their names.
+/// Tables that are searched by name.
 
 #include <array>
 #include <bit>
@@ -13,8 +13,8 @@
 
 namespace kestrin {
 
-/// Finds the row of a name, whatever the case of its ASCII letters, in the same time however many rows there
-/// are. Made from an array of rows at compile time; a row has a member `name`.
+/// Finds the row of a name in constant time, without regard to the case of ASCII letters. A hash table, made
+/// at compile time from an array of rows, each with a member `name`.
 template <class Row, std::size_t Count>
 class NameTable {
  public:
@@ -26,7 +26,7 @@ class NameTable {
     }
   }
 
-  /// Null when no row has the name.
+  /// The row of the name; null if there is none.
   [[nodiscard]] constexpr const Row* Find(std::string_view name) const {
     for (std::size_t slot = SlotOf(name); slots_[slot] != nullptr; slot = (slot + 1) % kSlots) {
       const Row* row = slots_[slot];
@@ -38,14 +38,14 @@ class NameTable {
  private:
   static constexpr std::size_t kSlots = std::bit_ceil(4 * Count);
 
-  /// Of the length and two characters, which is enough to tell the names of a table apart.
+  /// A hash of the length and two characters: enough to tell the names of a table apart.
   [[nodiscard]] static constexpr std::size_t SlotOf(std::string_view name) {
     if (name.empty()) return 0;
     const auto codeOf = [](char c) { return std::size_t{static_cast<unsigned char>(ToUpper(c))}; };
     return ((name.size() * 33 + codeOf(name[name.size() / 2])) * 33 + codeOf(name.back())) % kSlots;
   }
 
-  std::array<const Row*, kSlots> slots_{};  // null for a free one
+  std::array<const Row*, kSlots> slots_{};  // null for a free slot
 };
 
 }  // namespace kestrin

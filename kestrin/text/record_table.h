@@ -1,7 +1,8 @@
 #pragma once
 
 /// @file
-/// The rows of the tables that readers are made of.
+/// The rows of a reader's table. A row says everything about a record: its keyword, how many values it takes,
+/// which record it belongs to, and the handler that reads it.
 ///
 ///     {"N_PIN", AtLeast(5), kCurrentNet, &NeutralReader::AddPin},
 
@@ -12,29 +13,30 @@
 
 namespace kestrin {
 
-/// What a record asks of its lines. Messages are made from it: "N_PIN needs at least 5 values, 3 found".
+/// The rule that a record's lines must follow. Messages are made from it: "N_PIN needs at least 5 values, 3
+/// found".
 struct RecordRule {
-  std::string_view name;  ///< as lines have it
+  std::string_view name;  ///< the keyword
   ValueCount values;
-  std::string_view owner;   ///< whom it belongs to: "a NET before it"; empty for nobody
+  std::string_view owner;   ///< the record that it belongs to: "a NET before it"; empty if it needs none
   std::string_view demand;  ///< what else it needs: "a number in square brackets"
 };
 
-/// What a reader knows of the record that a line belongs to.
+/// Whether the record that a line belongs to is there.
 enum class OwnerState : std::uint8_t {
   kThere,
   kMissing,    ///< the line is skipped
-  kElsewhere,  ///< the line is in a part of the file that is not read
+  kElsewhere,  ///< the line is in a part of the file that is not imported, and is ignored
 };
 
-/// Whom records belong to.
+/// The record that other records belong to, such as the net of a pin.
 template <class Reader>
 struct Owner {
   std::string_view demand;
-  OwnerState (*find)(const Reader& reader);  ///< null for an owner that is always there
+  OwnerState (*find)(const Reader& reader);  ///< null if the owner is always there
 };
 
-/// The owner of records that belong to the whole file.
+/// The owner of records that belong to the file as a whole.
 struct Nobody {
   template <class Reader>
   constexpr operator Owner<Reader>() const {
@@ -43,8 +45,7 @@ struct Nobody {
 };
 inline constexpr Nobody kNobody;
 
-/// All that there is to say about a record: its name, how many values it takes, whom it belongs to, and who
-/// reads it.
+/// A row: a record's keyword, number of values, owner and handler.
 template <class Reader, class Handler>
 struct Record : RecordRule {
   constexpr Record(std::string_view itsName, ValueCount itsValues, Owner<Reader> itsOwner, Handler handler,
@@ -52,14 +53,14 @@ struct Record : RecordRule {
       : RecordRule{itsName, itsValues, itsOwner.demand, otherDemand},
         read(handler),
         findOwner_(itsOwner.find) {}
-  /// A record that carries nothing for the model.
+  /// A record that has nothing for the model. Its lines are ignored.
   constexpr explicit Record(std::string_view itsName) : Record(itsName, Any(), kNobody, nullptr) {}
 
   [[nodiscard]] OwnerState FindOwner(const Reader& reader) const {
     return findOwner_ == nullptr ? OwnerState::kThere : findOwner_(reader);
   }
 
-  Handler read;  ///< null where the record carries nothing
+  Handler read;  ///< null if the record has nothing for the model
 
  private:
   OwnerState (*findOwner_)(const Reader& reader);

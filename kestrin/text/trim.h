@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Shortening a view at its ends.
+/// Removing characters at the ends of a view.
 
 #include <string_view>
 
@@ -24,25 +24,25 @@ namespace kestrin {
   return TrimmedRight(TrimmedLeft(text));
 }
 
-/// The text without a character at its left end, as often as it is there.
+/// The text without any leading occurrences of a character.
 [[nodiscard]] constexpr std::string_view WithoutLeading(std::string_view text, char c) {
   while (!text.empty() && text.front() == c) text.remove_prefix(1);
   return text;
 }
 
-/// The text without a character at its right end, as often as it is there.
+/// The text without any trailing occurrences of a character.
 [[nodiscard]] constexpr std::string_view WithoutTrailing(std::string_view text, char c) {
   while (!text.empty() && text.back() == c) text.remove_suffix(1);
   return text;
 }
 
-/// The text without double quotes at either end.
+/// The text without any double quotes at either end.
 [[nodiscard]] constexpr std::string_view Unquoted(std::string_view text) {
   return WithoutTrailing(WithoutLeading(text, '"'), '"');
 }
 
-/// The text without white space, and then without double quotes, at either end. White space between the
-/// quotes stays.
+/// The text without white space and then without double quotes at either end. White space inside the quotes
+/// stays.
 [[nodiscard]] constexpr std::string_view Cleaned(std::string_view text) { return Unquoted(Trimmed(text)); }
 
 }  // namespace kestrin

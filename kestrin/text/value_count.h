@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// How many values a record takes.
+/// The number of values that a record takes.
 
 #include <cstddef>
 #include <cstdint>
@@ -9,17 +9,16 @@
 
 namespace kestrin {
 
-/// A demand on the number of values of a line, as tables of records state it: `AtLeast(5)`, `OneOf(4, 6, 8)`.
+/// The numbers of values that are right for a record: `AtLeast(5)`, `OneOf(4, 6, 8)`.
 struct ValueCount {
   std::uint32_t fewest = 0;
-  std::uint32_t exact =
-      0;  ///< a bit for each number that will do; 0 where every number from the fewest on will
+  std::uint32_t exact = 0;  ///< a bit for each accepted number; 0: every number from fewest on is accepted
 
   [[nodiscard]] constexpr bool IsOpenEnded() const { return exact == 0; }
   [[nodiscard]] constexpr bool Accepts(std::size_t count) const {
     return IsOpenEnded() ? count >= fewest : count < 32 && (exact >> count & 1U) != 0;
   }
-  /// Asks a line, which cuts no more of its values than the answer takes.
+  /// Whether the line has an accepted number of values. Cuts no more of the line than needed to tell.
   template <class Line>
   [[nodiscard]] constexpr bool AcceptsValuesOf(Line& line) const {
     return IsOpenEnded() ? fewest == 0 || line.HasAtLeast(fewest) : Accepts(line.Count());
@@ -30,7 +29,7 @@ struct ValueCount {
 };
 
 ///@{
-/// The demands that there are. A number that is not open-ended is below 32.
+/// Makes a ValueCount. Numbers for OneOf and Exactly must be below 32.
 [[nodiscard]] constexpr ValueCount Any() { return {}; }
 [[nodiscard]] constexpr ValueCount AtLeast(std::uint32_t fewest) { return {fewest, 0}; }
 template <class... Counts>
