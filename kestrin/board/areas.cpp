@@ -9,7 +9,7 @@
 namespace kestrin {
 namespace {
 
-/// Gives every hole to the first of the areas that contains its first point; drops those that none contains.
+/// Assigns every hole to the first area that contains its first point. Drops holes outside all areas.
 class HoleAssignment {
  public:
   void Add(Polygon hole) {

@@ -14,7 +14,7 @@
 namespace kestrin {
 namespace {
 
-/// What a SEG record says.
+/// The contents of a SEG record.
 struct Vertex {
   Point point;
   int layer = 0;
@@ -22,14 +22,14 @@ struct Vertex {
   std::optional<std::size_t> via;
 };
 
-/// Reads the polylines of net headers, one header after another. What a header has is gathered here and then
-/// put on its net at once, so that the lists of a net need no more memory than they hold.
+/// Reads the polylines of net headers, one header at a time. It gathers all parts of a header before it moves
+/// them to the net, so that the net's lists do not grow element by element.
 class PolylineReader {
  public:
   PolylineReader(const Board& board, const NameIndex& viaPadstacks)
       : unit_(board.units.traces), widthStep_(board.reading.widthStep), viaPadstacks_(viaPadstacks) {}
 
-  /// Gathers the tracks and vias of a polyline; the template says where it is from.
+  /// Gathers the tracks and vias of a polyline. Tracks copy their kind and indexes from origin.
   template <class Polyline>
   void Read(const Polyline& polyline, const Track& origin) {
     bool isFirst = true;
@@ -44,7 +44,7 @@ class PolylineReader {
     EndTrack(origin);
   }
 
-  /// Puts on the net what was gathered.
+  /// Moves everything gathered to the net.
   void MoveTo(Net& net) {
     Move(tracks_, net.tracks);
     Move(vias_, net.vias);
@@ -73,7 +73,7 @@ class PolylineReader {
     return vertex;
   }
 
-  /// None for a width that no track has.
+  /// The width in millimetres; none unless it is positive and finite.
   [[nodiscard]] std::optional<double> Width(double inFile) const {
     const double width = Rounded(inFile * unit_);
     return width > 0.0 && std::isfinite(width) ? std::optional(width) : std::nullopt;
@@ -113,14 +113,14 @@ class PolylineReader {
   std::optional<double> widthStep_;
   const NameIndex& viaPadstacks_;
   std::vector<Point> points_;  // of the track that is being read
-  int layer_ = 0;              // likewise
+  int layer_ = 0;              // of that track
   std::optional<double> width_;
   std::vector<Track> tracks_;  // of the header
   std::vector<Via> vias_;
   std::vector<LayerLength> lengths_;
 };
 
-/// One sum for each layer.
+/// Adds up the lengths of each layer.
 void SumUp(std::vector<LayerLength>& lengths) {
   std::sort(lengths.begin(), lengths.end(),
             [](const LayerLength& a, const LayerLength& b) { return a.layer < b.layer; });

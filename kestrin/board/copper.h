@@ -1,9 +1,11 @@
 #pragma once
 
 /// @file
-/// The copper and the open connections of nets. Convention: the SEG records of WIR and ANT are the points of
-/// polylines; value 3 is the layer of the leg that begins there, because it changes where a via is; value 4
-/// is a width or a via, because it is a number or the name of one.
+/// The copper and open connections of nets.
+///
+/// Conventions: the SEG records of a WIR or ANT are the points of a polyline. Value 3 is the layer of the leg
+/// that begins at the point, since it changes at vias. Value 4 is a width if it is a number, else the name of
+/// a via.
 
 #include "kestrin/board/board.h"
 #include "kestrin/board/names.h"
@@ -14,15 +16,15 @@ namespace kestrin {
 class CMTraces;
 struct BoardModels;
 
-/// Gives the board its kinds of vias: those of the Geometry file, then those that only via rules name.
-/// Returns them by name; the names are the models'.
+/// Adds the kinds of vias to the board: those of the Geometry file, then those that only via rules name.
+/// Returns an index of their names, which refers to the models.
 [[nodiscard]] NameIndex ReadViaPadstacks(const BoardModels& models, Board& board);
 
-/// Gives the nets of the net headers their tracks, vias and open connections. Widths of digits alone count as
-/// the board's reading says.
+/// Adds tracks, vias and open connections to the nets. Widths that are written with digits only count in the
+/// width step of the board's reading.
 void ReadCopper(const CMTraces& traces, const NameIndex& viaPadstacks, NetTable& table, Board& board);
 
-/// Gives the nets of the fills their areas.
+/// Adds the areas of fills to their nets.
 void ReadAreas(const CMTraces& traces, NetTable& table, Board& board);
 
 }  // namespace kestrin

@@ -16,12 +16,12 @@ namespace {
 constexpr std::size_t kSides = 2;
 constexpr std::size_t kMostTurns = 4;  // of a side
 
-/// A set of turns of one side, a bit for each.
+/// A set of turns of a side, as bits.
 using TurnSet = std::uint8_t;
 
 [[nodiscard]] constexpr TurnSet Bit(std::size_t turn) { return static_cast<TurnSet>(1U << turn); }
 
-/// Where a pin would be, and under which turns of its side.
+/// A possible place of a pin, and the turns of its side that put it there.
 struct Place {
   Side side;
   TurnSet turns;
@@ -31,7 +31,7 @@ struct Place {
 /// Marks the places at which pins of one net touch its copper.
 class TouchTest {
  public:
-  /// The strips lend their memory.
+  /// The strips are passed in to reuse their memory.
   TouchTest(const std::vector<Point>& points, std::vector<Place>& places, const Net& net, PointStrips& strips)
       : places_(places), net_(net), effort_(SizeOf(points, net)), strips_(strips) {
     strips_.Assign(points);
@@ -79,7 +79,7 @@ class TouchTest {
           inHole[static_cast<std::size_t>(found - inArea_.begin())] = true;
       }
     }
-    if (effort_.IsSpent()) return;  // a hole may be unseen
+    if (effort_.IsSpent()) return;  // a hole may have been missed
     for (std::size_t i = 0; i < inArea_.size(); ++i) {
       if (!inHole[i]) places_[inArea_[i]].touches = true;
     }
@@ -98,7 +98,7 @@ class TouchTest {
                      [](const Area& area) { return area.outline.size() > 2; });
 }
 
-/// Counts under every turn how many pins touch.
+/// Counts the pins that touch copper, for every turn.
 class PlacementFit {
  public:
   PlacementFit(const Board& board, const Footprints& footprints, const BoardOptions& options)
@@ -145,7 +145,7 @@ class PlacementFit {
   }
 
  private:
-  /// What the fit needs of a component, in a row: nets ask for components in any order.
+  /// The data of a component that the fit needs, kept compact because nets access components in any order.
   struct Part {
     Transform place;             // not turned yet
     const Footprint* footprint;  // null for a component without pins
@@ -178,13 +178,13 @@ class PlacementFit {
     }
   }
 
-  /// Adds the places of a pin, and of those that share its name.
+  /// Adds the places of a pin and of all pins that share its name.
   void AddPlaces(const Part& part, std::size_t pin) {
     const std::vector<FootprintPin>& pins = part.footprint->pins;
     for (; pin < pins.size(); pin = pins[pin].nextOfName) AddPlaces(part, pins[pin].position);
   }
 
-  /// Adds the places of a pin under all turns that are open, each once.
+  /// Adds the places of a pin under all open turns, without duplicates.
   void AddPlaces(const Part& part, Point onGeometry) {
     ++counted_;
     const auto turns = TurnsOf(part.side);
@@ -203,17 +203,17 @@ class PlacementFit {
       }
       places_[same].turns |= Bit(turn);
     }
-    for (std::size_t i = first; i < places_.size(); ++i) NoteWhoDiffers(places_[i]);
+    for (std::size_t i = first; i < places_.size(); ++i) NoteDiffering(places_[i]);
   }
 
-  void NoteWhoDiffers(const Place& place) {
+  void NoteDiffering(const Place& place) {
     for (std::size_t turn = 0; turn < kMostTurns; ++turn) {
       if ((place.turns & Bit(turn)) != 0)
         differing_[At(place.side)][turn] |= static_cast<TurnSet>(~place.turns);
     }
   }
 
-  /// Calls an action with the turns of every reading that is open, in order.
+  /// Calls an action with the turns of every open reading, in order.
   template <class Action>
   void ForEachReading(Action action) const {
     for (std::size_t top = 0; top < TurnsOf(Side::kTop).size(); ++top) {
@@ -245,7 +245,7 @@ class PlacementFit {
   const Rotations rotations_;
   std::array<TurnSet, kSides> open_{};
   std::array<std::array<std::size_t, kMostTurns>, kSides> touching_{};
-  std::array<std::array<TurnSet, kMostTurns>, kSides> differing_{};  // which turns place a pin elsewhere
+  std::array<std::array<TurnSet, kMostTurns>, kSides> differing_{};  // the turns that put a pin elsewhere
   std::size_t counted_ = 0;
   std::vector<Point> points_;  // of one net
   std::vector<Place> places_;  // at the same indexes

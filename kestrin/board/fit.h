@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Choosing how components are placed.
+/// Fitting the placement of components.
 
 #include "kestrin/board/board.h"
 #include "kestrin/board/footprints.h"
@@ -10,9 +10,9 @@ namespace kestrin {
 
 struct BoardOptions;
 
-/// Fits the placement of a board's components to its copper: of the readings that the options leave open, the
-/// one under which most pins touch copper of their own net. Returns the board's reading with what it says of
-/// placement.
+/// Fits the placement of a board's components to its copper: of the readings that the options leave open,
+/// chooses the one with the most pins that touch copper of their own net. Returns the board's reading,
+/// completed with the placement.
 [[nodiscard]] Reading FitPlacement(const Board& board, const Footprints& footprints,
                                    const BoardOptions& options);
 

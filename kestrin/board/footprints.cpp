@@ -42,7 +42,7 @@ void Footprints::ReadPins(const CMGeomComponent& component, Footprint& footprint
         PadstackNamed(found && !overrides[*found].second.empty() ? overrides[*found].second : usual);
   });
   const std::size_t count = footprint.pins.size();
-  std::vector<std::size_t> last(count);  // of the name, so far, at the first pin of it
+  std::vector<std::size_t> last(count);  // the last pin so far of a name, at the index of its first pin
   for (std::size_t i = 0; i < count; ++i) {
     const std::size_t first = footprint.pinsByName.Add(footprint.pins[i].name, i);
     if (first != i) footprint.pins[last[first]].nextOfName = i;

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// What component geometries say of pins, once for all components that name them.
+/// The pins of component geometries, read once for all components with the same geometry.
 
 #include <cstddef>
 #include <optional>
@@ -21,7 +21,7 @@ struct FootprintPin {
   std::string name;
   Point position;  // in the geometry's unit
   std::optional<std::size_t> padstack;
-  std::size_t nextOfName = 0;  // the next pin of the geometry with this name; their number for the last
+  std::size_t nextOfName = 0;  // the next pin of the geometry with this name; pins.size() for the last
 };
 
 /// A component geometry.
@@ -32,18 +32,18 @@ struct Footprint {
   NameIndex pinsByName;
 };
 
-/// The component geometries. Padstacks go into the board as pins name them.
+/// The component geometries.
 class Footprints {
  public:
-  /// The geometry may be null.
+  /// Adds the padstacks that pins name to the board. The geometry may be null.
   Footprints(const CMGeom* geometry, Board& board);
 
-  /// Null when no geometry has the name.
+  /// The geometry of a name; null if there is none.
   [[nodiscard]] const Footprint* Find(std::string_view name) const {
     const auto found = byName_.Find(name);
     return found ? &footprints_[*found] : nullptr;
   }
-  /// Of a component that has a geometry.
+  /// The geometry of a component, which must have one.
   [[nodiscard]] const Footprint& Of(const Component& component) const {
     return footprints_[bySource_[*component.geometryIndex]];
   }
@@ -58,7 +58,7 @@ class Footprints {
   NameIndex padstacks_;      // in Board::padstacks
   std::vector<Footprint> footprints_;
   NameIndex byName_;
-  std::vector<std::size_t> bySource_;  // in footprints_, for the index of a geometry
+  std::vector<std::size_t> bySource_;  // in footprints_, by index in CMGeom::m_pComponents
 };
 
 }  // namespace kestrin

@@ -11,14 +11,14 @@
 namespace kestrin {
 namespace {
 
-/// The logical layers that there are on both sides; "_1" is the top, "_2" the bottom.
+/// The logical layers that exist on both sides, as "…_1" on the top and "…_2" on the bottom.
 constexpr std::string_view kSideLayers[] = {
     "SILKSCREEN", "BREAKOUT", "DRAWING", "GLUE_MASK", "PAD", "PASTE_MASK", "PLACE", "SOLDER_MASK", "THERMAL",
 };
 
 constexpr std::string_view kSignal = "SIGNAL_";
 
-/// No board has as many, and a Geometry file may name any number without a line for each.
+/// A limit because a Geometry file may state any number of layers. No real board has as many.
 constexpr int kMostLayersWithoutTech = 1000;
 
 void ReadPhysicalLayers(const CMTech& tech, std::vector<Layer>& layers) {
@@ -44,7 +44,7 @@ void NumberRoutingLayers(int count, Board& board) {
   }
 }
 
-/// Convention: a side's names belong to the outermost layer of that side, which the Tech file need not say.
+/// Convention: the names of a side belong to its outermost layer, unless the Tech file says otherwise.
 void NameSides(Board& board) {
   if (board.layers.empty()) return;
   for (const std::string_view name : kSideLayers) {
@@ -79,7 +79,7 @@ void FindOuterSignalLayers(Board& board) {
   }
 }
 
-/// "PAD_2" for "PAD_1" and the other way round; empty for what is no name of a side.
+/// "PAD_2" for "PAD_1" and the reverse; empty if the layer is not on one side only.
 std::string OtherSide(std::string_view layer) {
   for (const std::string_view name : kSideLayers) {
     if (layer.size() != name.size() + 2 || !layer.starts_with(name)) continue;

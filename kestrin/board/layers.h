@@ -8,7 +8,7 @@ namespace kestrin {
 struct Board;
 struct BoardModels;
 
-/// Gives the board its layers and the names that lead to them.
+/// Adds the layers and the names of logical layers to the board.
 void ReadLayers(const BoardModels& models, Board& board);
 
 }  // namespace kestrin

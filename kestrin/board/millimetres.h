@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Lengths as the board holds them.
+/// Lengths and points in millimetres.
 
 #include <cmath>
 #include <cstdint>
@@ -11,11 +11,11 @@
 
 namespace kestrin {
 
-/// The length rounded to 1e-9, so that points that were one in the other system compare equal whatever units
-/// they were written in. What cannot be computed is infinite.
+/// Rounds a length to 1e-9, so that the same point compares equal whatever unit a file uses. NaN becomes
+/// infinity.
 [[nodiscard]] inline double Rounded(double millimetres) {
   constexpr double kSteps = 1e9;
-  constexpr double kMost = 4e6;  // beyond, doubles are coarser than that or nearly so
+  constexpr double kMost = 4e6;  // the doubles beyond are nearly as coarse as the steps, or coarser
   if (!(std::abs(millimetres) < kMost)) {
     return std::isnan(millimetres) ? std::numeric_limits<double>::infinity() : millimetres;
   }
@@ -27,7 +27,7 @@ namespace kestrin {
   return {Rounded(x * unit), Rounded(y * unit)};
 }
 
-/// The distance of two points; infinite where it cannot be computed.
+/// The distance between two points; infinite if it cannot be computed.
 [[nodiscard]] inline double Distance(Point a, Point b) {
   const double x = b.x - a.x;
   const double y = b.y - a.y;

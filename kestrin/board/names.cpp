@@ -48,7 +48,7 @@ std::optional<std::size_t> NameIndex::Find(std::string_view name) const {
   return found == crowded_.end() ? std::nullopt : std::optional(found->second);
 }
 
-/// The slot that has the name or would take it; none where others have all of its slots.
+/// The slot that has the name or would take it; kNoPlace if other names have all slots that it may take.
 std::size_t NameIndex::PlaceOf(std::string_view name) const {
   const std::size_t hash = std::hash<std::string_view>()(name);
   for (std::size_t probe = 0; probe < kProbes; ++probe) {

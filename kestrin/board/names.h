@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Finding things by their names.
+/// Finding things by name.
 
 #include <cstddef>
 #include <cstdint>
@@ -12,24 +12,24 @@
 
 namespace kestrin {
 
-/// Names with an index each; of two that are equal the first counts. The texts stay the caller's and must
-/// outlive the index.
+/// Maps names to indexes. Does not copy the names: they must outlive it.
 ///
-/// It is a hash table that looks into a few slots only: names that find no room there, because there are many
-/// of one hash, go to a map. So a file cannot make it slow by its choice of names.
+/// This is a hash table that probes a few slots only. A name that finds no free slot there is kept in a map,
+/// so a file full of names with equal hashes cannot make it slow.
 class NameIndex {
  public:
   NameIndex() = default;
-  /// With room for that many names.
+  /// Reserves room for a number of names.
   explicit NameIndex(std::size_t names);
 
-  /// Adds a name unless it is there. Returns the index that counts, which is the given one for a new name.
+  /// Adds a name unless it is already there. Returns the index of the name: the given one if it is new, else
+  /// the earlier one.
   std::size_t Add(std::string_view name, std::size_t index);
 
   [[nodiscard]] std::optional<std::size_t> Find(std::string_view name) const;
 
  private:
-  /// Small, so that many are in the processor's cache.
+  /// Small, so that many fit into the processor's cache.
   struct Slot {
     const char* text = nullptr;
     std::uint32_t size = 0;
@@ -45,7 +45,7 @@ class NameIndex {
   static constexpr std::size_t kNoPlace = static_cast<std::size_t>(-1);
   static constexpr std::size_t kProbes = 8;
 
-  std::vector<Slot> slots_;  // a power of two, at most half of them taken
+  std::vector<Slot> slots_;  // their number is a power of two; at most half are taken
   std::size_t taken_ = 0;
   std::map<std::string_view, std::size_t> crowded_;
 };

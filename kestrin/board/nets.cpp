@@ -10,7 +10,7 @@
 namespace kestrin {
 namespace {
 
-/// Puts pins on nets, each on the first net that names it.
+/// Assigns each pin to the first net that names it.
 class PinAssignment {
  public:
   PinAssignment(const Footprints& footprints, Board& board)
@@ -26,7 +26,7 @@ class PinAssignment {
     nets_.resize(pins, kNoNet);
   }
 
-  /// The records of the pin are set. Nothing happens when a net has it already.
+  /// Adds the pin to a net unless a net already has it. The pin's netRecord and pinRecord must be set.
   void Assign(PinText text, NetPin pin, std::size_t net) {
     Find(text, pin);
     if (!Take(text, pin, net)) return;
@@ -34,7 +34,7 @@ class PinAssignment {
     board_.nets[net].pins.push_back(std::move(pin));
   }
 
-  /// Tells the components' pins their nets. Pins that share a name are pads of one pin.
+  /// Sets the nets of the components' pins. Pins that share a name are pads of one pin.
   void Finish() {
     for (std::size_t c = 0; c < board_.components.size(); ++c) {
       std::vector<Pin>& pins = board_.components[c].pins;
@@ -62,7 +62,7 @@ class PinAssignment {
     if (footprint != nullptr) pin.pin = footprint->pinsByName.Find(text.Pin());
   }
 
-  /// Whether no net had the pin.
+  /// Marks the pin as taken by a net. Returns false if a net already has it.
   bool Take(const PinText& text, const NetPin& pin, std::size_t net) {
     if (pin.pin) {
       std::size_t& taken = nets_[parts_[*pin.component].firstPin + *pin.pin];
@@ -76,7 +76,7 @@ class PinAssignment {
 
   Board& board_;
   NameIndex components_;
-  std::vector<Part> parts_;        // the components, as far as they count here
+  std::vector<Part> parts_;        // for each component
   std::vector<std::size_t> nets_;  // of each pin on the board
   std::deque<std::string> notOnBoard_;
   NameIndex namesNotOnBoard_;

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The nets of a board and the pins on them.
+/// The nets of a board and their pins.
 
 #include <cstddef>
 #include <string_view>
@@ -14,13 +14,13 @@ namespace kestrin {
 
 class CMNetList;
 
-/// The nets of a board by name. The names must outlive it.
+/// The nets of a board by name. Does not copy the names: they must outlive it.
 class NetTable {
  public:
-  /// With room for that many names.
+  /// Reserves room for a number of names.
   NetTable(std::size_t names, Board& board);
 
-  /// The net of a name, which is made where there is none yet. The reference is valid until the next call.
+  /// The net of a name. Adds a net to the board if there is none. The reference is valid until the next call.
   [[nodiscard]] Net& Of(std::string_view name) { return board_.nets[IndexOf(name)]; }
   [[nodiscard]] std::size_t IndexOf(std::string_view name);
 
@@ -29,8 +29,8 @@ class NetTable {
   NameIndex byName_;
 };
 
-/// Gives the board the nets of the Neutral file with their pins, and its components' pins their nets. The
-/// nets may be null.
+/// Adds the nets of the Neutral file with their pins to the board, and sets the nets of the components' pins.
+/// The nets may be null.
 void ReadNets(const CMNetList* nets, const Footprints& footprints, NetTable& table, Board& board);
 
 }  // namespace kestrin

@@ -19,11 +19,12 @@ constexpr Turn kBottomTurns[] = {{Sense::kCounterClockwise, 0},
 /// Convention: value 7 of COMP is the side, 1 the top and 2 the bottom.
 constexpr int kBottomSide = 2;
 
-/// More pins than this for each record of the files, beyond a million, no board has.
+/// Limits the number of pins to a million plus four for each record. No real board has more.
 constexpr std::size_t kPinsPerRecord = 4;
 constexpr std::size_t kPinsAlways = 1'000'000;
 
-/// Zero times infinity is zero here: a right angle moves no coordinate into the other.
+/// Like factor * value, but zero times infinity is zero: under a right angle, an infinite x must not make the
+/// other coordinate NaN.
 double Product(double factor, double value) { return factor == 0.0 ? 0.0 : factor * value; }
 
 void AddPins(const Footprint& footprint, Component& component) {

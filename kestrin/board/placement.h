@@ -1,9 +1,11 @@
 #pragma once
 
 /// @file
-/// Where components and their pins are. That a point of a geometry is turned, mirrored first on the bottom,
-/// and moved by the origin is convention: it is how components are placed everywhere. Which way they turn
-/// differs between systems and is not said in the files; so it is fitted.
+/// The positions of components and their pins.
+///
+/// Convention: a point of a geometry is mirrored if the component is on the bottom, then rotated, then moved
+/// to the component's origin. CAD systems commonly place components this way. The direction of rotation
+/// differs between systems and is not in the files, so it is fitted.
 
 #include <array>
 #include <cstdint>
@@ -19,16 +21,16 @@ class CMComps;
 /// A way to read the angle of a component.
 struct Turn {
   Sense sense;
-  int added;  // degrees
+  int added;  // to the angle, in degrees
 };
 
-/// The ways in order: of equally good ones the first is taken.
+/// The ways that are tried, in order. Of equally good ones, the fit takes the first.
 [[nodiscard]] std::span<const Turn> TurnsOf(Side side);
 
-/// The angle of a component, counter-clockwise from 0 to 359 degrees.
+/// The angle of a component: degrees counter-clockwise, from 0 to 359.
 [[nodiscard]] int DegreesOf(int rotation, Turn turn);
 
-/// The cosine and the sine of every whole degree; exact for right angles.
+/// The cosines and sines of whole degrees, exact for right angles.
 class Rotations {
  public:
   Rotations();
@@ -42,11 +44,12 @@ class Rotations {
   std::array<double, 360> sines_{};
 };
 
-/// Gives the board its components; their pins are not placed yet. The components may be null.
+/// Adds the components to the board; PlaceComponents places their pins later. The components may be null.
+/// Records is the number of records that the pins come from, and limits the number of pins.
 void ReadComponents(const CMComps* components, std::size_t records, const Footprints& footprints,
                     Board& board);
 
-/// Places components and pins as the board's reading says.
+/// Places components and pins according to the board's reading.
 void PlaceComponents(const Footprints& footprints, Board& board);
 
 }  // namespace kestrin

@@ -6,7 +6,7 @@
 namespace kestrin {
 namespace {
 
-/// So few points are looked through faster than they are arranged.
+/// Up to this many points, a single strip is faster than sorting by x.
 constexpr std::size_t kOneStrip = 64;
 
 }  // namespace
@@ -35,13 +35,13 @@ void PointStrips::Assign(const std::vector<Point>& points) {
   }
 }
 
-/// The first strip that reaches as far to the right.
+/// The first strip whose right edge is not left of an x coordinate.
 std::vector<PointStrips::Strip>::const_iterator PointStrips::FirstStrip(double left) const {
   return std::lower_bound(strips_.begin(), strips_.end(), left,
                           [](const Strip& strip, double x) { return strip.right < x; });
 }
 
-/// The points in the rectangle around a polygon, from the bottom to the top.
+/// Gathers the points in the bounding box of a polygon, sorted by y.
 void PointStrips::GatherCandidates(const Polygon& polygon, Effort& effort) {
   constexpr double kInfinity = std::numeric_limits<double>::infinity();
   Point low{kInfinity, kInfinity};

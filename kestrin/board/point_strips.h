@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Finding points near a leg and inside a polygon.
+/// Finding the points near a leg or inside a polygon.
 
 #include <algorithm>
 #include <cstddef>
@@ -13,14 +13,14 @@
 
 namespace kestrin {
 
-/// How many points a search may still look at. It keeps the search in proportion to the data where legs and
-/// points lie so thickly that no arrangement of them helps.
+/// A budget for a search: the number of points that it may still look at. It keeps the time in proportion to
+/// the data, even if legs and points overlap so much that no index helps.
 class Effort {
  public:
-  /// For that many points, legs and vertices together; a real board takes a tenth of it at most.
+  /// The budget for a number of points, legs and vertices. A real board needs at most a tenth of it.
   explicit Effort(std::size_t size) : left_(1'000'000 + 100 * size) {}
 
-  /// Whether there was as much left.
+  /// Takes points off the budget. Returns whether any is left.
   bool Spend(std::size_t points) {
     if (points > left_) left_ = 0;
     left_ -= std::min(points, left_);
@@ -32,14 +32,14 @@ class Effort {
   std::size_t left_;
 };
 
-/// Points in upright strips, the same number in each, and in a strip from the bottom to the top. Unlike the
-/// cells of a grid, strips by number hold few points each wherever the points are.
+/// Points sorted into vertical strips with an equal number of points, and by y within each strip. A strip has
+/// few points wherever they are; the cells of a grid could have many.
 class PointStrips {
  public:
-  /// Takes in points; infinite ones are near nothing.
+  /// Replaces the points. Infinite points are ignored.
   void Assign(const std::vector<Point>& points);
 
-  /// Calls an action with the index of every point within a distance of the straight line between two points.
+  /// Calls an action with the index of every point within a distance of the segment between two points.
   template <class Action>
   void NearLeg(Point from, Point to, double distance, Effort& effort, Action action) const;
 
@@ -73,11 +73,11 @@ class PointStrips {
 
   std::vector<Entry> entries_;
   std::vector<Strip> strips_;
-  std::vector<Candidate> candidates_;  // of one search
-  std::vector<std::uint32_t> inside_;  // its result
+  std::vector<Candidate> candidates_;  // of the current search
+  std::vector<std::uint32_t> inside_;  // the result of the last search
 };
 
-/// Whether a point is within a distance of the straight line between two points.
+/// Whether a point is within a distance of the segment between two points.
 [[nodiscard]] inline bool IsNear(Point point, Point from, Point to, double distance) {
   const double x = to.x - from.x;
   const double y = to.y - from.y;
@@ -104,7 +104,7 @@ void PointStrips::InStrip(const Strip& strip, double bottom, double top, Effort&
   }
 }
 
-/// Looks at all points: faster than a search where they are few, as on most nets.
+/// Looks at every point. Faster than a search for the few points of most nets.
 template <class Action>
 void PointStrips::NearLegOfFew(Point from, Point to, double distance, Effort& effort, Action action) const {
   const auto [bottom, top] = std::minmax(from.y, to.y);
@@ -122,12 +122,12 @@ template <class Action>
 void PointStrips::NearLeg(Point from, Point to, double distance, Effort& effort, Action action) const {
   if (from.x > to.x) std::swap(from, to);
   if (entries_.size() <= kFew) return NearLegOfFew(from, to, distance, effort, action);
-  const double reach = 1.01 * distance;  // more than what rounding takes away
+  const double reach = 1.01 * distance;  // the surplus is greater than any rounding error
   const bool isUpright = !(from.x + reach < to.x);
   const double slope = isUpright ? 0.0 : (to.y - from.y) / (to.x - from.x);
   for (auto strip = FirstStrip(from.x - reach); strip != strips_.end() && strip->left <= to.x + reach;
        ++strip) {
-    // The piece of the leg that is in the strip.
+    // The part of the leg in the strip.
     double low =
         isUpright ? from.y : from.y + slope * (std::clamp(strip->left - reach, from.x, to.x) - from.x);
     double high =

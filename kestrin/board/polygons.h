@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Closed outlines from the lists of the models.
+/// Making polygons from the lists of the models.
 
 #include "kestrin/board/millimetres.h"
 #include "kestrin/board/records.h"
@@ -10,12 +10,12 @@
 
 namespace kestrin {
 
-/// Drops a last point that repeats the first: files close their outlines or do not.
+/// Drops the last point if it repeats the first. Some outlines in files are closed this way and some are not.
 inline void DropRepeatedFirstPoint(Polygon& outline) {
   if (outline.size() > 1 && outline.front() == outline.back()) outline.pop_back();
 }
 
-/// From x, y, x, y, …; a number without its pair is left out.
+/// The polygon of the numbers x, y, x, y, …. Drops a last x without a y.
 [[nodiscard]] inline Polygon PolygonOf(const NumberArray& numbers, double unit) {
   Polygon outline;
   outline.reserve(static_cast<std::size_t>(numbers.GetSize() / 2));
@@ -26,7 +26,7 @@ inline void DropRepeatedFirstPoint(Polygon& outline) {
   return outline;
 }
 
-/// From the vertices of an area or an island.
+/// The polygon of the vertices of an area or island.
 template <class Record>
 [[nodiscard]] Polygon VerticesOf(const Record& record, double unit) {
   Polygon outline;

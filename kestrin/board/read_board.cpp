@@ -21,7 +21,7 @@
 namespace kestrin {
 namespace {
 
-/// Convention: components are kept inside the placement outline, which is the board's own where it is given.
+/// Convention: the placement outline, inside which components must be, is the outline of the board.
 Polygon OutlineOf(const CMGeomBoard& board, double unit) {
   Polygon outline = PolygonOf(*board.m_pPlacementOutline, unit);
   return outline.empty() ? PolygonOf(*board.m_pRoutingOutline, unit) : outline;
@@ -32,7 +32,7 @@ std::optional<double> WidthStepOf(const CMTraces& traces, double unit, std::opti
   return isUsable ? asked : FitWidthStep(traces, unit);
 }
 
-/// How many records the pins of components come from.
+/// The number of records that the pins of components come from.
 std::size_t PinRecords(const BoardModels& models) {
   std::size_t count = 0;
   const auto add = [&](std::int64_t more) { count += static_cast<std::size_t>(more); };
@@ -49,7 +49,7 @@ std::size_t PinRecords(const BoardModels& models) {
   return count;
 }
 
-/// About how many nets there are: net headers mostly have the names of the nets.
+/// An estimate of the number of nets. Net headers mostly repeat the names of the nets.
 std::size_t NetNames(const BoardModels& models) {
   const std::int64_t nets = models.nets == nullptr ? 0 : models.nets->m_pNets->GetSize();
   const std::int64_t headers = models.traces == nullptr ? 0 : models.traces->m_pNetArray->GetSize();

@@ -16,7 +16,7 @@ class CMNetList;
 class CMTech;
 class CMTraces;
 
-/// The roots to read a board from. Any may be null: the board then lacks what its file would say.
+/// The roots to read a board from. Any may be null: the board then lacks the contents of that file.
 struct BoardModels {
   ///@{
   /// A root, or null.
@@ -28,31 +28,36 @@ struct BoardModels {
   ///@}
 };
 
-/// What is fitted to the data unless it is said here.
+/// How to read a board. What you do not set is fitted to the data.
 struct BoardOptions {
-  std::optional<Sense> rotation;  ///< which way components on the top turn
-  std::optional<Sense> bottom;    ///< which way components on the bottom turn
-  std::optional<int>
-      bottomTurn;  ///< added to the angle of components on the bottom; 180, all else counts as 0
-  /// What widths of digits alone count, in the Traces file's unit; all but a positive number counts as not
-  /// said.
+  std::optional<Sense> rotation;  ///< how components on the top rotate
+  std::optional<Sense> bottom;    ///< how components on the bottom rotate
+  /// Degrees to add to the angle of components on the bottom: 180 or 0. Other numbers count as 0.
+  std::optional<int> bottomTurn;
+  /// The unit of widths that are written with digits only, in units of the Traces file. Ignored unless it is
+  /// positive and finite.
   std::optional<double> widthStep;
 };
 
 /// Reads the board that the models describe together.
 ///
-/// The models are only read and may go afterwards; several threads may read the same. Equal models give equal
-/// boards, whatever the locale. Time and memory are in proportion to the models, whatever they hold. Nothing
-/// is an error: what names nothing is left open. Throws std::bad_alloc only.
+///     const kestrin::Board board = kestrin::ReadBoard({.geometry = session.GetGeom()});
 ///
-/// The placement of components is fitted: of eight readings (Reading: two senses on the top, two on the
-/// bottom, a turn of 0 or 180 degrees there) that one is chosen under which most pins touch copper of their
-/// own net, the first of equals. A pin touches within half the width of a track, at least 0.001 mm, at a via,
-/// and in an area of its net outside its holes. The width step is fitted: it is the one of 1, 0.1, 0.01,
-/// 0.001 and 0.0001 that puts the median width between 0.075 and 0.75 mm.
+/// The models are not changed and not needed afterwards; several threads may read them at once. Equal models
+/// make equal boards, in any locale. Time and memory are in proportion to the size of the models, whatever
+/// they contain. There are no errors: a name that refers to nothing leaves the reference empty. Throws only
+/// std::bad_alloc.
 ///
-/// A net whose copper lies so thickly about its pins that looking at all of it would take much longer than
-/// the import is not looked at to its end: then pinsTouching may be less than there are.
+/// How is placement fitted? There are eight readings: two senses of rotation on the top, two on the bottom,
+/// and a turn of 0 or 180 degrees there. The one with the most pins that touch copper of their own net is
+/// chosen; of equals, the first. A pin touches a track within half its width, but at least 0.001 mm; a via
+/// within 0.001 mm; and an area if it is inside the outline and outside the holes.
+///
+/// How is the width step fitted? It is the one of 1, 0.1, 0.01, 0.001 and 0.0001 with which the median width
+/// is between 0.075 and 0.75 mm.
+///
+/// The search is cut short for a net with so much copper near its pins that it would take much longer than
+/// the import. Reading::pinsTouching may then be too low.
 [[nodiscard]] KESTRIN_EXPORT Board ReadBoard(const BoardModels& models, const BoardOptions& options = {});
 
 }  // namespace kestrin

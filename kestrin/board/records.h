@@ -7,7 +7,7 @@
 
 namespace kestrin {
 
-/// Hands every record of a list with its index to an action. A host may have left null slots.
+/// Calls an action with every record of a list and its index. Skips null slots, which hosts may have left.
 template <class List, class Action>
 void ForEachRecord(const List& list, Action action) {
   std::size_t index = 0;

@@ -11,7 +11,8 @@ namespace {
 
 [[nodiscard]] bool HasHyphen(std::string_view text) { return text.find('-') != std::string_view::npos; }
 
-/// References with a hyphen of their own, and behind each the one that ends it in a pin's text; sorted.
+/// The references that contain a hyphen, sorted. Each has the hyphen appended that follows it in a pin's
+/// text.
 std::vector<std::string> ReferencesWithHyphens(const std::vector<Component>& components) {
   std::vector<std::string> references;
   for (const Component& component : components) {
@@ -21,12 +22,12 @@ std::vector<std::string> ReferencesWithHyphens(const std::vector<Component>& com
   return references;
 }
 
-/// Cut where the model cuts it, at the first hyphen.
+/// The text of a pin, cut where the model cuts it: at the first hyphen.
 PinText PinTextOf(const CMRefPin& pin) {
   PinText made;
   made.text = ComparedReference(pin.m_sRef.View());
   made.cut = made.text.size();
-  // Without a reference, a pin with a hyphen had another at its start.
+  // If the reference is empty, a hyphen in the pin means that the text began with a hyphen.
   made.hasReference = made.cut != 0 || HasHyphen(pin.m_sPin.View());
   if (made.hasReference) made.text += '-';
   made.text += ComparedReference(pin.m_sPin.View());
@@ -58,8 +59,8 @@ void PinTexts::CutAtKnownReferences(const std::vector<std::string>& references) 
   for (PinText& text : withHyphens_) sorted.push_back(&text);
   std::sort(sorted.begin(), sorted.end(),
             [](const PinText* a, const PinText* b) { return a->text < b->text; });
-  // In sorted order the references that a text begins with are a stack: what begins the next text too is left
-  // on it.
+  // Texts and references are visited in sorted order, with a stack of the references that the current text
+  // begins with.
   std::vector<std::string_view> beginnings;
   const auto keepBeginningsOf = [&](std::string_view text) {
     while (!beginnings.empty() && !text.starts_with(beginnings.back())) beginnings.pop_back();

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Which part of a pin's text is the reference of its component.
+/// Finding the component's reference in the text of a pin.
 
 #include <cstddef>
 #include <string>
@@ -15,11 +15,11 @@ namespace kestrin {
 class CMNetList;
 class CMRefPin;
 
-/// A pin's text, "reference-pin", cut in two.
+/// The text of a pin, "reference-pin", cut in two.
 struct PinText {
   std::string text;
   std::size_t cut = 0;       // the length of the reference
-  bool hasReference = true;  // else all of the text is the pin
+  bool hasReference = true;  // else the whole text is the pin
 
   [[nodiscard]] std::string_view Reference() const { return std::string_view(text).substr(0, cut); }
   [[nodiscard]] std::string_view Pin() const {
@@ -27,23 +27,23 @@ struct PinText {
   }
 };
 
-/// Cuts the texts of pins in two. The models do it at the first hyphen, which may belong to the reference;
-/// here the longest reference wins that a component has.
+/// Cuts the texts of pins in two. The models cut at the first hyphen, which may be part of the reference.
+/// Here the longest match with the reference of a component wins.
 class PinTexts {
  public:
-  /// Takes time in proportion to the names, however many hyphens they have. The nets are those to be asked
-  /// about.
+  /// Cuts the texts of all pins of the nets. Takes time in proportion to the names, however many hyphens they
+  /// have.
   PinTexts(const CMNetList& nets, const std::vector<Component>& components);
 
-  /// The texts of the pins of the nets must be asked for one after another.
+  /// The text of a pin. Call it once for each pin of the nets, in order.
   [[nodiscard]] PinText Next(const CMRefPin& pin);
 
  private:
   void CutAtKnownReferences(const std::vector<std::string>& references);
 
   bool hasReferencesWithHyphens_ = false;
-  std::vector<PinText> withHyphens_;  // pins that have one beyond the first, in order
-  std::size_t next_ = 0;              // of these
+  std::vector<PinText> withHyphens_;  // the pins with more than one hyphen, in order
+  std::size_t next_ = 0;              // in withHyphens_
 };
 
 }  // namespace kestrin

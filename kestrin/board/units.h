@@ -9,7 +9,7 @@ namespace kestrin {
 
 struct BoardModels;
 
-/// The unit of each file: that which it names, else the Neutral file's, else the board geometry's, else
+/// The unit of each file: the one that it names, else the Neutral file's, else the board geometry's, else
 /// millimetres.
 [[nodiscard]] Units ReadUnits(const BoardModels& models);
 

@@ -34,7 +34,7 @@ std::vector<std::size_t> LayersOf(const CMGeomVia& via, const Board& board) {
 
 NameIndex ReadViaPadstacks(const BoardModels& models, Board& board) {
   NameIndex byName;
-  /// Null where the name is empty or there is a padstack of it.
+  // Null if the name is empty or already has a padstack.
   const auto addNew = [&](std::string_view name) -> ViaPadstack* {
     const std::size_t next = board.viaPadstacks.size();
     if (name.empty() || byName.Add(name, next) != next) return nullptr;

@@ -15,13 +15,13 @@ namespace {
 constexpr double kSteps[] = {1.0, 0.1, 0.01, 0.001, 0.0001};
 
 ///@{
-/// Between these are the usual widths of tracks, in millimetres. They are a power of ten apart, so that at
-/// most one step fits, but for the ends.
+/// The range of usual track widths, in millimetres. The ends are a factor of ten apart, so that only one step
+/// fits, unless the width is at an end.
 constexpr double kThinnest = 0.075;
 constexpr double kThickest = 0.75;
 ///@}
 
-/// A width and how many points in a row have it.
+/// A width, and the number of consecutive points with it.
 struct Run {
   double width;
   std::size_t count;
@@ -44,7 +44,7 @@ std::vector<Run> WidthsInDigits(const CMTraces& traces) {
   return runs;
 }
 
-/// Of an even number the mean of the two in the middle.
+/// The median; of an even number of widths, the mean of the two in the middle.
 double MedianOf(std::vector<Run> runs) {
   std::sort(runs.begin(), runs.end(), [](const Run& a, const Run& b) { return a.width < b.width; });
   std::size_t count = 0;

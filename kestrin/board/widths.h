@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Widths of tracks.
+/// The widths of tracks.
 
 #include <optional>
 #include <string_view>
@@ -10,12 +10,11 @@ namespace kestrin {
 
 class CMTraces;
 
-/// Whether a text is a number with digits and at most one point, and nothing else but a sign.
+/// Whether a text consists of an optional sign, digits, and at most one decimal point.
 [[nodiscard]] bool IsDecimalNumber(std::string_view text);
 
-/// Fitted: the step of widths that are written in digits alone, in the file's unit. It is the one of 1, 0.1,
-/// 0.01, 0.001 and 0.0001 that makes the median of these widths that of a track as boards have it; none where
-/// none does.
+/// Fits the unit of widths that are written with digits only, in units of the file: the one of 1, 0.1, 0.01,
+/// 0.001 and 0.0001 with which their median is a usual width of tracks; none if there is none.
 [[nodiscard]] std::optional<double> FitWidthStep(const CMTraces& traces, double unit);
 
 }  // namespace kestrin
