@@ -8,7 +8,7 @@
 
 namespace kestrin {
 
-/// Appends in one step, so that a list that is filled once takes no more memory than its numbers.
+/// Appends all numbers in one step, so that a list that is filled once has no spare memory.
 inline void Append(NumberArray& list, const std::vector<double>& numbers) {
   const auto oldSize = list.GetSize();
   list.SetSize(oldSize + static_cast<std::int64_t>(numbers.size()));

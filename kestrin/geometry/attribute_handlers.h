@@ -1,8 +1,8 @@
 #pragma once
 
 /// @file
-/// What attributes do with their values: each handler fills the member that its row in attributes.cpp names.
-/// Value 1 is the attribute's name.
+/// The handlers of attributes. Each fills the field that its row in attributes.cpp names. Value 1 of the line
+/// is the attribute's name.
 
 #include "kestrin/base/numbers.h"
 #include "kestrin/geometry/bracket_scans.h"
@@ -13,7 +13,7 @@
 namespace kestrin::attribute {
 
 ///@{
-/// From value 2.
+/// Reads value 2 and, for lists and records, the values after it.
 LineOutcome SetText(ReaderState& state, CString& text);
 LineOutcome SetIfYes(ReaderState& state, int& flag);
 LineOutcome AddNames(ReaderState& state, CStringArray& names);
@@ -21,7 +21,7 @@ LineOutcome AddOverride(ReaderState& state, RecordArray<CMGeomOverride>& overrid
 LineOutcome AddLayerDefinition(ReaderState& state, RecordArray<CMGeomLayerDEF>& layers);
 ///@}
 
-/// From the name alone.
+/// Sets a number that depends only on the attribute's name.
 template <int Type>
 LineOutcome SetType(ReaderState& /*state*/, int& type) {
   type = Type;
@@ -29,15 +29,15 @@ LineOutcome SetType(ReaderState& /*state*/, int& type) {
 }
 
 ///@{
-/// From a number in square brackets, without which the line does nothing.
+/// Reads a number in square brackets. Without one, the line is skipped.
 LineOutcome SetNumber(ReaderState& state, double& number);
 LineOutcome SetWholeNumber(ReaderState& state, int& number);
-/// The first pending point overrules the number.
+/// If there are pending points, their first value is used instead.
 LineOutcome SetDrillSize(ReaderState& state, double& size);
 ///@}
 
 ///@{
-/// From points.
+/// Reads points.
 LineOutcome AddPoints(ReaderState& state, NumberArray& points);
 LineOutcome ReplacePoints(ReaderState& state, NumberArray& points);
 LineOutcome AddPlacementRegion(ReaderState& state, RecordArray<CMGeomPlacementRegion>& regions);
@@ -47,7 +47,8 @@ LineOutcome AddDrill(ReaderState& state, RecordArray<CMGeomDrill>& drills);
 LineOutcome AddPin(ReaderState& state, RecordArray<CMGeomPinDef>& pins);
 ///@}
 
-/// From points too. A component has an outline for every line, a generic part one for all.
+/// Reads points. Each line makes a new outline of a component; all lines extend the one outline of a generic
+/// part.
 struct AddPlacementOutline {
   LineOutcome operator()(ReaderState& state, RecordArray<CMGeomPlacementOutline>& outlines) const;
   LineOutcome operator()(ReaderState& state, CMGeomPlacementOutline& outline) const;

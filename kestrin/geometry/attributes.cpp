@@ -79,7 +79,7 @@ constexpr GeometryRow kRows[] = {
 // clang-format on
 constexpr NameTable kAttributes(kRows);
 
-/// Any name that has these words in it is a layer definition's, unless it is one of the above.
+/// The row of every name that contains LAYER_DEFINITION, unless it is one of the above.
 constexpr GeometryRow kLayerDefinition{"LAYER_DEFINITION", kUnquoted, Any(),
                                        To<OfOpen<&CMGeomStackup::m_pLayers>, AddLayerDefinition>()};
 constexpr RecordRule kInStackup{"an attribute of a stack-up", Any(), "LAYER_DEFINITION in its name", ""};

@@ -1,13 +1,13 @@
 #pragma once
 
 /// @file
-/// The command `$$attribute("NAME", value, …);`, which attaches a property to a geometry.
+/// The command `$$attribute("NAME", value, …);`, which sets a property of a geometry.
 
 #include "kestrin/geometry/reader_state.h"
 
 namespace kestrin {
 
-/// Value 1, the name, is cut where commas outside double quotes separate.
+/// Reads the attribute. Value 1, its name, must have been cut at commas outside double quotes.
 LineOutcome ReadAttribute(ReaderState& state);
 
 }  // namespace kestrin

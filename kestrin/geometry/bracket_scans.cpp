@@ -7,7 +7,7 @@
 namespace kestrin {
 namespace {
 
-/// Returns whether a "[" was seen.
+/// Returns whether a "[" was found.
 bool Scan(ValueCut values, const BracketScan& scan, std::vector<double>& numbers) {
   const auto append = [&](const PointValue& value, bool emptyIsZero) {
     if (emptyIsZero || !value.isEmpty) numbers.push_back(value.number);
@@ -19,7 +19,7 @@ bool Scan(ValueCut values, const BracketScan& scan, std::vector<double>& numbers
       append(*value, scan.bareBracketIsZero);
       bracketed = open = true;
     } else if (value->bracket == Bracket::kClosing) {
-      if (open || scan.readsCloseWhenShut) append(*value, scan.bareBracketIsZero);
+      if (open || scan.readsStrayClose) append(*value, scan.bareBracketIsZero);
       if (open && scan.stopsAtClose) break;
       open = false;
     } else if (open) {

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Points in square brackets, a number a value.
+/// Reading points in square brackets, one number per value: `[1, 2, 3, 4]` is two points.
 
 #include <optional>
 #include <string_view>
@@ -12,18 +12,19 @@
 
 namespace kestrin {
 
-/// How the commands and attributes differ in reading a list of points. What they have in common: a value with
-/// "[" opens the list, one with "]" and no "[" closes it, and in the open list every value is a number.
+/// The differences between commands and attributes in how they read a list of points. In all of them, a value
+/// with "[" opens the list, a value with "]" and no "[" closes it, and every value of the open list is a
+/// number.
 struct BracketScan {
-  bool bareBracketIsZero;   ///< a bracket without a number is 0, else nothing
-  bool emptyValueIsZero;    ///< an empty value in the open list is 0, else nothing
-  bool readsCloseWhenShut;  ///< the number before "]" counts although the list is not open
-  bool stopsAtClose;        ///< the rest of the line counts no more, else a later "[" opens the list again
-  bool emptyPendingIsZero;  ///< an empty pending value is 0, else nothing
+  bool bareBracketIsZero;   ///< a bracket without a number counts as 0; else it is left out
+  bool emptyValueIsZero;    ///< an empty value in the open list counts as 0; else it is left out
+  bool readsStrayClose;     ///< the number before a "]" counts even if the list is not open
+  bool stopsAtClose;        ///< the rest of the line is ignored; else another "[" opens the list again
+  bool emptyPendingIsZero;  ///< an empty pending value counts as 0; else it is left out
 };
 
 // clang-format off
-//                                                 bare   empty  shut   stops  pending
+//                                                 bare   empty  stray  stops  pending
 inline constexpr BracketScan kPathScan            {false, true,  true,  false, false};
 inline constexpr BracketScan kPolygonScan         {true,  false, false, true,  false};
 inline constexpr BracketScan kOutlineScan         {true,  true,  false, true,  true };
@@ -31,8 +32,8 @@ inline constexpr BracketScan kKeepoutScan         {true,  true,  true,  false, t
 inline constexpr BracketScan kPlacementOutlineScan{true,  false, true,  false, true };
 // clang-format on
 
-/// Reads a list of points from those values of a line that may hold one into the numbers, which are replaced.
-/// Without a "[" there, the pending values follow what was read.
+/// Reads a list of points from the values of a line and replaces the numbers with it. If there is no "[", the
+/// pending values are appended.
 void ReadPoints(const ValueCut& values, const BracketScan& scan, const PendingPoints& pending,
                 std::vector<double>& numbers);
 
@@ -42,11 +43,11 @@ struct BracketedPoint {
   double y = 0.0;
 };
 
-/// Reads the first value with "[" as x and the first with "]" and no "[" as y. Without a "[" there, the first
-/// two pending values are x and y, as far as there are any.
+/// Reads x from the first value with "[", and y from the first value with "]" and no "[". If there is no "[",
+/// the first two pending values are x and y, as far as they exist.
 [[nodiscard]] BracketedPoint ReadPoint(ValueCut values, const PendingPoints& pending);
 
-/// The text of the first value with "[" after the line's first value, without the bracket.
+/// The first value with "[", from value 2 on, without leading brackets.
 [[nodiscard]] std::optional<std::string_view> FirstBracketed(Values& values);
 
 }  // namespace kestrin

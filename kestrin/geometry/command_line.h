@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The cut of a line into its command and what the command is given.
+/// Cutting a line into its command and arguments.
 
 #include <string_view>
 
@@ -9,8 +9,8 @@ namespace kestrin {
 
 /// A line `$$word(arguments);`. Nothing is trimmed.
 struct CommandLine {
-  std::string_view word;       ///< the text before the first "("; empty when there is none
-  std::string_view arguments;  ///< what follows, without any ")" and ";" at its end
+  std::string_view word;       ///< the text before the first "("; empty if there is no "("
+  std::string_view arguments;  ///< the text after it, without any ")" and ";" at the end
 };
 
 [[nodiscard]] CommandLine CutCommandLine(std::string_view line);

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The geometry that the lines of a file are in.
+/// The open geometry, to which the lines of a file belong.
 
 #include <string_view>
 #include <variant>
@@ -11,32 +11,32 @@
 
 namespace kestrin {
 
-/// Which geometry is open, and where drawing objects, texts and adds go. The last component stays known when
-/// another geometry is opened, and so does the board once it is bound.
+/// The open geometry, and the lists for drawing objects, texts and adds. Also remembers the last component
+/// and the bound board after another geometry is opened.
 class CurrentGeometry {
  public:
-  /// Geometries are made among the records. The model and these must outlive this.
+  /// Geometries are made in the record pool. The model and the pool must outlive this object.
   CurrentGeometry(CMGeom& model, RecordPool& records) : model_(model), records_(records) {}
 
   void BindBoard() { board_ = model_.m_pBoard; }
 
-  /// What create commands do: the record gets the name and becomes the current one of its kind, and what
-  /// follows goes to it.
+  /// Adds a geometry to the model and opens it: drawing objects, texts and adds that follow belong to it.
   void CreatePanel(std::string_view name);
   void CreateComponent(std::string_view name);
   void CreateGenericPart(std::string_view name);
   void CreatePin(std::string_view name);
   void CreateVia(std::string_view name);
   void CreateDrawing(std::string_view name);
-  /// The one board of the model, bound if it is not.
+  /// Opens the model's only board, and binds it.
   void CreateBoard(std::string_view name);
-  /// The one stack-up of the model, without its layer definitions. Has no drawing objects, texts and adds of
-  /// its own: they go where they went before.
+  /// Opens the model's only stack-up and removes its layer definitions. A stack-up has no drawing objects,
+  /// texts or adds: they still belong to the geometry before it.
   void CreateStackup(std::string_view name);
-  /// A probe or a test fixture, which has no place in the model. Neither does it have any of these.
+  /// Opens a probe or test fixture, which is not in the model. Drawing objects, texts and adds still belong
+  /// to the geometry before it.
   void CreateUnkept() { open_ = Unkept(); }
-  /// A geometry of a kind that is not known: its texts and adds are lost, its drawing objects go where they
-  /// went before. Closes a drawing.
+  /// Starts a geometry of an unknown kind. Its texts and adds are dropped; drawing objects still belong to
+  /// the geometry before it. Closes an open drawing.
   void CreateUnknown();
 
   /// The open geometry if it is of this kind, else null.
@@ -45,14 +45,14 @@ class CurrentGeometry {
     auto* const* geometry = std::get_if<Geometry*>(&open_);
     return geometry == nullptr ? nullptr : *geometry;
   }
-  /// Whether a geometry is open that has no place in the model.
+  /// Whether the open geometry is one that is not in the model.
   [[nodiscard]] bool IsUnkept() const { return std::holds_alternative<Unkept>(open_); }
 
-  /// Null as long as there is none.
+  /// The board once it is bound, and the last component that was opened; null if there is none.
   [[nodiscard]] CMGeomBoard* BoundBoard() const { return board_; }
   [[nodiscard]] CMGeomComponent* LastComponent() const { return component_; }
 
-  /// Where what follows goes; null when it is lost.
+  /// The lists for the drawing objects, texts and adds that follow; null if they are dropped.
   [[nodiscard]] CMGeomDrawObjArray* DrawObjs() const { return drawObjs_; }
   [[nodiscard]] RecordArray<CMGeomText>* Texts() const { return texts_; }
   [[nodiscard]] RecordArray<CMGeomAdd>* Adds() const { return adds_; }

@@ -22,7 +22,7 @@ LineOutcome AddObject(ReaderState& state, CMGeomDrawObjArray& objects,
   return LineOutcome::Imported();
 }
 
-/// Calls read with every value that is not empty once cleaned: its number, its text and its raw text.
+/// Calls read for every value that is not empty after cleaning, with its number, cleaned text and raw text.
 template <class Read>
 void ForEachFilled(Values& values, Read read) {
   for (std::size_t number = 1; values.HasAtLeast(number); ++number) {

@@ -1,8 +1,8 @@
 #pragma once
 
 /// @file
-/// The commands that gather points, and those that add drawing objects, texts and adds. Their values are
-/// numbered from 1. Where a number is read from the raw value, one in quotes is 0.
+/// The commands that collect points, and those that add drawing objects, texts and adds. Values are numbered
+/// from 1. A number that is read from the raw value is 0 if it is in quotes.
 
 #include "kestrin/geometry/reader_state.h"
 
@@ -13,7 +13,7 @@ LineOutcome ContinuePoints(ReaderState& state);
 LineOutcome SetPathWidth(ReaderState& state);
 
 ///@{
-/// Every drawing object consumes the pending points, whether it needs them or not.
+/// Adds a drawing object. Consumes the pending points even if the object does not use them.
 LineOutcome AddPath(ReaderState& state, CMGeomDrawObjArray& objects);
 LineOutcome AddArc(ReaderState& state, CMGeomDrawObjArray& objects);
 LineOutcome AddPolygon(ReaderState& state, CMGeomDrawObjArray& objects);

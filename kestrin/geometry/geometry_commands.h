@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The commands that open a geometry and say what its unit is.
+/// The commands that open a geometry and set its unit.
 
 #include "kestrin/geometry/reader_state.h"
 #include "kestrin/text/trim.h"
@@ -10,14 +10,14 @@ namespace kestrin {
 
 LineOutcome BindBoard(ReaderState& state);
 
-/// Opens a geometry that takes its name from the arguments: all of them, but for the quotes at their ends.
+/// Opens a geometry. Its name is the whole text of the arguments without the quotes at either end.
 template <void (CurrentGeometry::*Create)(std::string_view name)>
 LineOutcome CreateNamed(ReaderState& state) {
   (state.geometry.*Create)(Unquoted(state.arguments));
   return LineOutcome::Imported();
 }
 
-/// Opens a geometry that has no place in the model.
+/// Opens a geometry that is not in the model.
 LineOutcome CreateUnkept(ReaderState& state);
 
 LineOutcome SetUnit(ReaderState& state, CString& unit);

@@ -52,7 +52,7 @@ constexpr NameTable kCommands(kRows);
 constexpr RecordRule kStart{"a command", Any(), "", "to begin in the first column"};
 constexpr RecordRule kParentheses{"a command", Any(), "", "its arguments in parentheses"};
 
-/// What becomes of a line that does not start with a command's word and a parenthesis.
+/// The outcome of a line that does not begin with "$$" and have an opening parenthesis.
 LineOutcome OutcomeOfOtherLine(std::string_view line) {
   if (IsBlankOrComment(line)) return LineOutcome::Ignored();
   if (line.starts_with("$$")) return LineOutcome::Skipped(SkipCode::kUnknownCommand, kParentheses);

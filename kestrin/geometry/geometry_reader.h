@@ -11,8 +11,8 @@
 
 namespace kestrin {
 
-/// A line is a command, `$$word(arguments);`. Create commands open a geometry, and the commands that follow
-/// fill it.
+/// Reads a Geometry file. A line is a command, `$$word(arguments);`. A create command opens a geometry; the
+/// commands after it fill that geometry.
 class GeometryReader {
  public:
   /// The model must outlive the reader.

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The rows of the tables of commands and attributes.
+/// The rows of the command and attribute tables.
 
 #include <cstdint>
 #include <string_view>
@@ -12,16 +12,17 @@
 
 namespace kestrin {
 
-/// Reads the values of a line. The owner is there, and so are the values that the row asks for.
+/// Reads the values of a line. Called only if the owner is there and the line has the values that its row
+/// requires.
 using GeometryHandler = LineOutcome (*)(ReaderState& state);
 
-/// Whom a record belongs to, and the handler that fills it.
+/// The owner of a record and the handler that reads it.
 struct OwnerAndHandler {
   Owner<ReaderState> owner;
   GeometryHandler read;
 };
 
-/// The handler gets what the owner lends: the member that is to be filled.
+/// Combines an owner and a handler. The owner passes the field to fill to the handler.
 template <class TheOwner, auto Handler>
 [[nodiscard]] constexpr OwnerAndHandler To() {
   return {{TheOwner::kDemand, [](const ReaderState& state) { return TheOwner::Find(state.geometry); }},
@@ -32,7 +33,7 @@ template <class TheOwner, auto Handler>
           }};
 }
 
-/// What a line without its owner does to the pending points.
+/// What a line that is skipped for lack of an owner does to the pending points.
 enum class Ownerless : std::uint8_t { kKeepsPoints, kConsumesPoints };
 
 /// A command or an attribute. The first value of an attribute is its name.
@@ -46,18 +47,18 @@ struct GeometryRow : Record<ReaderState, GeometryHandler> {
       : Record(itsName, itsValues, parts.owner, parts.read, otherDemand),
         commas(itsCommas),
         ownerless(itsOwnerless) {}
-  /// One that belongs to nobody.
+  /// A row without an owner.
   constexpr GeometryRow(std::string_view itsName, Commas itsCommas, ValueCount itsValues, Nobody itsOwner,
                         GeometryHandler handler, std::string_view otherDemand = {})
       : Record(itsName, itsValues, itsOwner, handler, otherDemand), commas(itsCommas) {}
-  /// One that carries nothing.
+  /// A row whose lines are ignored.
   constexpr explicit GeometryRow(std::string_view itsName) : Record(itsName) {}
 
-  Commas commas = Commas::kEvery;  ///< that separate its values
+  Commas commas = Commas::kEvery;  ///< the commas that separate its values
   Ownerless ownerless = Ownerless::kKeepsPoints;
 };
 
-/// Reads a line by its row. Of its values none are cut yet but an attribute's name.
+/// Reads a line according to its row. No values may have been cut yet, except for an attribute's name.
 [[nodiscard]] inline LineOutcome ReadByRow(const GeometryRow& row, ReaderState& state) {
   if (row.read == nullptr) return LineOutcome::Ignored();
   const OwnerState owner = row.FindOwner(state);
@@ -66,7 +67,7 @@ struct GeometryRow : Record<ReaderState, GeometryHandler> {
     if (row.ownerless == Ownerless::kConsumesPoints) state.pending.Clear();
     return LineOutcome::NoOwner(row);
   }
-  state.values.GoOnWith(row.commas);
+  state.values.ContinueWith(row.commas);
   if (!row.values.AcceptsValuesOf(state.values)) {
     return LineOutcome::WrongValueCount(row, state.values.Count());
   }

@@ -14,12 +14,12 @@ constexpr std::string_view kBottomLayers[] = {
     "PASTE_MASK_2", "PLACE_2",    "SOLDER_MASK_2", "THERMAL_2",
 };
 
-/// In the order of the anchor numbers, starting with 1.
+/// In the order of the anchor numbers, which start at 1.
 constexpr std::string_view kJustifications[] = {"@TL", "@TC", "@TR", "@CL", "@CC",
                                                 "@CR", "@BL", "@BC", "@BR"};
 constexpr int kBottomLeft = 7;
 
-/// The sum of the anchor of a text and the anchor of the same text turned by 180 degrees.
+/// The anchor numbers of a text and of the same text turned by 180 degrees add up to this.
 constexpr int kTurnedAnchors = 10;
 
 }  // namespace

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Kinds of geometry in words, for messages.
+/// The names of kinds of geometries, for messages.
 
 #include <array>
 #include <cstddef>
@@ -20,7 +20,7 @@ constexpr std::string_view NameOfKind(const CMGeomPin*) { return "pin"; }
 constexpr std::string_view NameOfKind(const CMGeomStackup*) { return "stack-up"; }
 constexpr std::string_view NameOfKind(const CMGeomVia*) { return "via"; }
 
-/// Made at compile time, because tables of constants keep it.
+/// Text made at compile time, for use in constant tables.
 template <class... Geometries>
 class KindsBefore {
  public:
@@ -45,7 +45,7 @@ class KindsBefore {
   std::size_t size_ = 0;
 };
 
-/// "a panel, board or component before it".
+/// The text for a list of kinds: "a panel, board or component before it".
 template <class... Geometries>
 inline constexpr KindsBefore<Geometries...> kBefore;
 

@@ -1,8 +1,10 @@
 #pragma once
 
 /// @file
-/// Whom commands and attributes belong to. Each of these finds out whether the owner is there, lends the
-/// member of it that is to be filled, and names it for messages.
+/// The owners of commands and attributes. An owner has a text for messages, tells whether it is there, and
+/// passes its field to the handler that fills it.
+///
+///     OfOpen<&CMGeomPin::m_dDrillSize, &CMGeomVia::m_dDrillSize>   // "a pin or via before it"
 
 #include <string_view>
 #include <type_traits>
@@ -13,7 +15,7 @@
 
 namespace kestrin {
 
-/// What a pointer to a member points into.
+/// The class of a pointer to member.
 template <class Member>
 struct ClassOfMember;
 template <class Class, class Value>
@@ -23,7 +25,7 @@ struct ClassOfMember<Value Class::*> {
 template <auto Member>
 using ClassOf = typename ClassOfMember<decltype(Member)>::Type;
 
-/// A member of a record, or the list that it points to.
+/// A member of a record; if it is a pointer, the list that it points to.
 template <auto Member>
 [[nodiscard]] auto& MemberOf(ClassOf<Member>& record) {
   if constexpr (std::is_pointer_v<std::remove_reference_t<decltype(record.*Member)>>) {
@@ -37,7 +39,7 @@ template <auto Member>
   return owner == nullptr ? OwnerState::kMissing : OwnerState::kThere;
 }
 
-/// The open geometry, which must be of one of the kinds that have such a member.
+/// The open geometry, which must be of the class of one of the members.
 template <auto... Members>
 struct OfOpen {
   static constexpr std::string_view kDemand = kBefore<ClassOf<Members>...>.Text();
@@ -82,7 +84,7 @@ struct OfLastComponent {
   }
 };
 
-/// A list of the geometry that takes drawing objects, texts or adds: not always the one that is open.
+/// The list for drawing objects, texts or adds. Its geometry is not always the open one.
 template <auto List>
 struct OfTaker {
   static constexpr std::string_view kDemand = "a geometry before it";
@@ -93,7 +95,7 @@ struct OfTaker {
   }
 };
 
-/// The unit of the open geometry. One that is not kept needs none.
+/// The unit of the open geometry. If that geometry is not in the model, the line is ignored.
 struct UnitOfOpen : OfOpen<&CMGeomPanel::m_sUnits, &CMGeomBoard::m_sUnits, &CMGeomComponent::m_sUnits,
                            &CMGeomDrawing::m_sUnits, &CMGeomGenericPart::m_sUnits, &CMGeomPin::m_sUnits,
                            &CMGeomStackup::m_sUnits, &CMGeomVia::m_sUnits> {

@@ -6,8 +6,8 @@
 namespace kestrin {
 namespace {
 
-/// The text between the first "[" and the first "]": all before the "]" without a "[", nothing without a
-/// "]" or when the "]" comes first.
+/// The text between the first "[" and the first "]". Without a "[", everything before the "]"; without a "]",
+/// or if it comes first, nothing.
 std::string_view Bracketed(std::string_view arguments) {
   const std::size_t close = arguments.find(']');
   if (close == std::string_view::npos) return {};
@@ -23,14 +23,14 @@ void PendingPoints::Begin(std::string_view arguments) {
 }
 
 void PendingPoints::Continue(std::string_view arguments) {
-  // Blanks go, and a value of blanks alone with them.
+  // Blanks are removed. A value of blanks only is dropped.
   AddEach(Bracketed(arguments), [this](std::string_view value) {
     const std::string_view text = WithoutBlanks(value);
     if (!text.empty()) Add(text);
   });
 }
 
-/// Adds plain values in one step, and calls addOther with the others.
+/// Adds plain values directly, and calls addOther for all others.
 template <class AddOther>
 void PendingPoints::AddEach(std::string_view points, AddOther addOther) {
   ValueCut cut(points, Commas::kEvery);

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The points that lines gather ahead of the line that uses them.
+/// The points that lines collect for a later line.
 
 #include <cstddef>
 #include <string>
@@ -10,16 +10,18 @@
 
 namespace kestrin {
 
-/// One value of the pending points, cleaned and converted: nothing asks for its text.
+/// A value of the pending points, cleaned and converted.
 struct PendingValue {
   double number = 0.0;
-  bool isEmpty = false;  ///< nothing is left of its text; the number is then 0
+  bool isEmpty = false;  ///< the cleaned text is empty, and the number is 0
 };
 
-/// The values that `$$initial` begins with and `$$terminal` adds to, in the order of the file.
+/// The points that `$$initial` and `$$terminal` collect. The next drawing object, or attribute with points,
+/// consumes them.
 class PendingPoints {
  public:
-  /// Take the values from the square brackets of a command's arguments.
+  /// Reads the values in the square brackets of a command's arguments. Begin drops earlier values; Continue
+  /// appends.
   void Begin(std::string_view arguments);
   void Continue(std::string_view arguments);
 
@@ -28,7 +30,7 @@ class PendingPoints {
   [[nodiscard]] const std::vector<PendingValue>& Values() const { return values_; }
   [[nodiscard]] bool IsEmpty() const { return values_.empty(); }
 
-  /// Overwrites a number with the value of that number, from 1, if there is one.
+  /// Sets the target to a value, numbered from 1, if it exists.
   void CopyTo(std::size_t number, double& target) const {
     if (number <= values_.size()) target = values_[number - 1].number;
   }

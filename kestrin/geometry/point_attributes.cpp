@@ -1,4 +1,4 @@
-// Attributes that are points, and so consume the pending ones.
+// Attributes with points. They consume the pending points.
 
 #include <memory>
 #include <utility>

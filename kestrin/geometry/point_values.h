@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The values that lists of points are made of: `[x1, y1, x2, y2]` is cut into `[x1`, ` y1`, ` x2`, ` y2]`.
+/// The values of lists of points: `[x1, y1, x2, y2]` has the values `[x1`, ` y1`, ` x2` and ` y2]`.
 
 #include <cstddef>
 #include <cstdint>
@@ -13,23 +13,23 @@
 
 namespace kestrin {
 
-/// What a value does to the list.
+/// The bracket in a value.
 enum class Bracket : std::uint8_t {
   kNone,
-  kOpening,  ///< there is a "["
-  kClosing,  ///< there is a "]" and no "["
+  kOpening,  ///< "[", with or without "]"
+  kClosing,  ///< "]" only
 };
 
 /// A value, cleaned and converted.
 struct PointValue {
   double number = 0.0;
-  bool isEmpty = false;  ///< nothing but the bracket is left of its text; the number is then 0
+  bool isEmpty = false;  ///< the cleaned text has nothing but brackets, and the number is 0
   Bracket bracket = Bracket::kNone;
 };
 
-/// Reads what nearly every value is: blanks, a bracket or none, and a number of the usual form. Gives the
-/// value at the beginning of what is left to cut and returns its length with the commas before it; 0 for
-/// anything else.
+/// Reads a plain value, as nearly all are: blanks and a number, perhaps with brackets. The value must be at
+/// the start of the text, except that commas may precede it. Returns the length of commas and value, or 0 if
+/// the value is not plain.
 [[nodiscard]] inline std::size_t ReadPlainValue(std::string_view text, PointValue& value) {
   const char* const end = text.data() + text.size();
   const char* place = text.data();
@@ -47,10 +47,10 @@ struct PointValue {
   return static_cast<std::size_t>(place - text.data());
 }
 
-/// The next value whatever it is, or nothing at the end.
+/// The next value of any form, or nothing at the end.
 [[nodiscard]] std::optional<PointValue> NextAnyPointValue(ValueCut& cut);
 
-/// The same, in one step where the value is plain.
+/// The same, but faster if the value is plain.
 [[nodiscard]] inline std::optional<PointValue> NextPointValue(ValueCut& cut) {
   PointValue value;
   const std::size_t length = ReadPlainValue(cut.Rest(), value);

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// What the reader of a Geometry file knows from one line to the next.
+/// The state that the reader of a Geometry file keeps from line to line.
 
 #include <cstddef>
 #include <string_view>
@@ -19,10 +19,10 @@ namespace kestrin {
 struct RecordRule;
 
 struct ReaderState {
-  /// The model must outlive this.
+  /// The model must outlive this object.
   explicit ReaderState(CMGeom& model) : geometry(model, records) {}
 
-  /// The points of the current line, or the pending ones, which are then gone either way.
+  /// The points of the current line, or the pending points. Consumes the pending points in either case.
   [[nodiscard]] const std::vector<double>& TakePoints(std::size_t firstValue, const BracketScan& scan) {
     ReadPoints(values.From(firstValue), scan, pending, numbers);
     pending.Clear();
@@ -36,16 +36,16 @@ struct ReaderState {
     return point;
   }
 
-  RecordPool records;  ///< of the model
+  RecordPool records;  ///< makes the records of the model
   CurrentGeometry geometry;
   PendingPoints pending;
-  double pathWidth = 0.0;  ///< of the pen of arcs and circles that name none
+  double pathWidth = 0.0;  ///< the width of arcs and circles that specify none
 
-  // Of the current line.
+  // The current line.
   std::string_view arguments;        ///< of its command
-  Values values;                     ///< the arguments, cut
+  Values values;                     ///< the arguments, cut into values
   const RecordRule* rule = nullptr;  ///< of its command or attribute
-  std::vector<double> numbers;       ///< room for its points
+  std::vector<double> numbers;       ///< the result of TakePoints; a member to reuse its memory
 };
 
 }  // namespace kestrin

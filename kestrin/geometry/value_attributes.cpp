@@ -1,4 +1,4 @@
-// Attributes that are texts and numbers.
+// Attributes with texts and numbers.
 
 #include <memory>
 #include <utility>
@@ -46,7 +46,7 @@ LineOutcome AddLayerDefinition(ReaderState& state, RecordArray<CMGeomLayerDEF>& 
   auto layer = std::make_unique<CMGeomLayerDEF>();
   layer->m_sDefinition = state.values[1];
   layer->m_sDefinition.MakeUpper();
-  state.values.Cut(state.arguments, Commas::kEvery);  // also at a comma in the name
+  state.values.Cut(state.arguments, Commas::kEvery);  // a comma in the name separates too
   for (std::size_t number = 2; state.values.HasAtLeast(number); ++number) {
     const std::string_view value = state.values[number];
     if (!value.empty() && !Contains(value, '[') && !Contains(value, ']')) layer->m_pValues->Add(value);

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The values of a line.
+/// Cutting a line into values.
 
 #include <cstddef>
 #include <cstdint>
@@ -13,24 +13,24 @@
 
 namespace kestrin {
 
-/// Which commas separate values.
+/// The commas that separate values.
 enum class Commas : std::uint8_t {
   kEvery,
-  kUnquoted,  ///< those between double quotes do not
+  kUnquoted,  ///< commas outside double quotes
 };
 
-/// Cuts a text into its values, one after the other. No value is empty, though it may be once it is cleaned.
+/// Cuts a text into values, one at a time. No value is empty, but its cleaned text may be.
 class ValueCut {
  public:
   ValueCut() = default;
   ValueCut(std::string_view text, Commas commas) : text_(text), commas_(commas) {}
 
-  /// The next value, as the text has it, or nothing at its end.
+  /// The next value as it is in the text, or nothing at the end.
   [[nodiscard]] std::optional<std::string_view> Next();
-  /// Cuts what follows the last value in another way.
-  void GoOnWith(Commas commas) { commas_ = commas; }
+  /// Changes the commas that separate the values after the last one.
+  void ContinueWith(Commas commas) { commas_ = commas; }
 
-  /// All values again, and those after one of them.
+  /// A cut that starts at the beginning, or after a given value.
   [[nodiscard]] ValueCut FromStart() const { return {text_, commas_}; }
   [[nodiscard]] ValueCut After(std::string_view value) const {
     ValueCut cut = *this;
@@ -39,8 +39,8 @@ class ValueCut {
   }
 
   ///@{
-  /// What is left after the last value, for those that can tell the next one at a glance and then step over
-  /// it.
+  /// The text after the last value. A caller who recognizes the next value there can skip it instead of
+  /// calling Next.
   [[nodiscard]] std::string_view Rest() const { return text_.substr(position_); }
   void Skip(std::size_t length) { position_ += length; }
   ///@}
@@ -51,20 +51,27 @@ class ValueCut {
   Commas commas_ = Commas::kEvery;
 };
 
-/// The values between the commas of a line, numbered from 1, as views into it: cut as far as they are asked
-/// for. A value that the line does not have is empty. Kept from line to line, so that cutting takes no
-/// memory.
+/// The values between the commas of a line, numbered from 1.
+///
+///     Values values;
+///     values.Cut("A, \"B,C\", 2", Commas::kUnquoted);
+///     values[2];       // B,C
+///     values.Raw(2);   //  "B,C" with its quotes and the blank before it
+///     values[4];       // empty: the line has no such value
+///
+/// The values are views into the line, which is cut only as far as it is read. Reuse the object for the next
+/// line to reuse its memory.
 class Values {
  public:
-  /// Begins with another line.
+  /// Starts a new line.
   void Cut(std::string_view text, Commas commas) {
     cut_ = ValueCut(text, commas);
     values_.clear();
   }
-  /// Leaves the values that have been asked for as they are, and cuts the others in another way.
-  void GoOnWith(Commas commas) { cut_.GoOnWith(commas); }
+  /// Changes the commas that separate the values that have not been cut yet.
+  void ContinueWith(Commas commas) { cut_.ContinueWith(commas); }
 
-  /// Whether the line has that many values.
+  /// Whether the line has at least count values.
   [[nodiscard]] bool HasAtLeast(std::size_t count) {
     while (values_.size() < count) {
       const auto value = cut_.Next();
@@ -78,21 +85,21 @@ class Values {
     return values_.size();
   }
 
-  /// A value, as the line has it.
+  /// A value as it is in the line.
   [[nodiscard]] std::string_view Raw(std::size_t number) {
     return HasAtLeast(number) ? values_[number - 1] : std::string_view();
   }
-  /// A value without blanks, and then quotes, at either end.
+  /// A value without white space and then without double quotes at either end.
   [[nodiscard]] std::string_view operator[](std::size_t number) { return Cleaned(Raw(number)); }
 
-  /// The values from a number on, whichever have been asked for.
+  /// A cut that starts at a value, whether or not it has been cut yet.
   [[nodiscard]] ValueCut From(std::size_t number) {
     if (!HasAtLeast(number - 1) || values_.size() == number - 1) return cut_;
     return number == 1 ? cut_.FromStart() : cut_.After(values_[number - 2]);
   }
 
  private:
-  ValueCut cut_;  // at the end of the last of the values
+  ValueCut cut_;  // after the last value in values_
   std::vector<std::string_view> values_;
 };
 

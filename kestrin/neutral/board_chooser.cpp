@@ -7,8 +7,8 @@ namespace kestrin {
 namespace {
 
 bool Qualifies(const CMCompsPanel& placement) {
-  constexpr std::array kSetAside = {2, 3, 5, 8, 10, 11, 13, 16};
-  return std::find(kSetAside.begin(), kSetAside.end(), placement.m_nValue6) == kSetAside.end();
+  constexpr std::array kExcluded = {2, 3, 5, 8, 10, 11, 13, 16};
+  return std::find(kExcluded.begin(), kExcluded.end(), placement.m_nValue6) == kExcluded.end();
 }
 
 }  // namespace

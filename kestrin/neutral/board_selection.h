@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Which of the boards of a Neutral file is imported.
+/// The board of a Neutral file that is imported.
 
 #include <cstdint>
 
@@ -9,12 +9,13 @@
 
 namespace kestrin {
 
-/// A file may hold sections for several boards; of its nets and of its component sections one each is read.
+/// A file may have nets and component sections for several boards. One nets section and one component section
+/// are imported.
 struct BoardSelection {
-  std::int64_t ordinal = 1;     ///< of the sections that are read, from 1
-  std::int64_t placement = -1;  ///< the index of the placement on the panel that chose them, -1 when none did
-  std::int64_t netsSections = 0;       ///< how many there are in what was read of the file
-  std::int64_t componentSections = 0;  ///< likewise
+  std::int64_t ordinal = 1;            ///< which section of each kind is imported, counted from 1
+  std::int64_t placement = -1;         ///< the index of the placement that selected it; -1 if none did
+  std::int64_t netsSections = 0;       ///< the number of nets sections read so far
+  std::int64_t componentSections = 0;  ///< the number of component sections read so far
 };
 
 }  // namespace kestrin

@@ -24,7 +24,7 @@ std::string_view BetweenFirstAndLastQuote(std::string_view text) {
   return first == last ? std::string_view() : text.substr(first + 1, last - first - 1);
 }
 
-/// Sets the value at a place of a group, from 1. The last place shares its field with the one before.
+/// Sets the value at a place of a group, counted from 1. Places 9 and 10 have the same field.
 void SetGroupValue(CMCompsRefLoc& group, int place, std::string_view value) {
   switch (place) {
     case 1: group.m_dValue1 = ToDouble(value); break;
@@ -39,7 +39,7 @@ void SetGroupValue(CMCompsRefLoc& group, int place, std::string_view value) {
   }
 }
 
-/// A first value, then up to three groups of ten; there is a first group even for an empty text.
+/// Reads a first value and up to three groups of ten values. Even an empty text makes a first group.
 void AddReferenceLocations(CMCompsInfo& component, RecordPool& records, std::string_view text) {
   CMCompsRefLoc* group = Append(*component.m_pRefLocs, records.Make<CMCompsRefLoc>());
   std::size_t position = 0;

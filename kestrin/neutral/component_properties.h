@@ -10,7 +10,7 @@
 
 namespace kestrin {
 
-/// Adds a property, "(NAME,"value")", to the component: reference locations for the name REFLOC, else a
+/// Adds a property, `(NAME,"value")`, to the component: reference locations if the name is REFLOC, else a
 /// comment.
 void AddProperty(CMCompsInfo& component, RecordPool& records, std::string_view item);
 

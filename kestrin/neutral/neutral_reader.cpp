@@ -13,12 +13,12 @@
 namespace kestrin {
 namespace {
 
-/// The number after the last ":" of a value such as "X:12.5".
+/// The number after the last ":", as in "X:12.5".
 double NumberAfterColon(std::string_view value) {
   return ToDouble(value.substr(value.rfind(':') + 1));  // npos + 1 is 0
 }
 
-/// Records are read in their section only.
+/// Records outside the selected section are ignored.
 OwnerState OwnerIn(bool isSelected) { return isSelected ? OwnerState::kThere : OwnerState::kElsewhere; }
 
 OwnerState OwnerIn(bool isSelected, const void* owner) {
@@ -27,7 +27,7 @@ OwnerState OwnerIn(bool isSelected, const void* owner) {
 
 }  // namespace
 
-/// The row of a keyword, null for a word that is none.
+/// The row of a keyword; null for an unknown keyword.
 const NeutralReader::Row* NeutralReader::Find(Keyword keyword) {
   using Reader = NeutralReader;
   using Owner = kestrin::Owner<Reader>;
@@ -79,12 +79,12 @@ LineOutcome NeutralReader::ReadLine(std::string_view line) {
   if (position == line.size()) return LineOutcome::Skipped(SkipCode::kUnendedKeyword);
   rest_ = line.substr(position + 1);
   values_.Begin(rest_);
-  if (!row->values.AcceptsValuesOf(values_)) return SkipForItsCount(*row);
+  if (!row->values.AcceptsValuesOf(values_)) return SkipForValueCount(*row);
   return owner == OwnerState::kThere ? (this->*row->read)() : LineOutcome::NoOwner(*row);
 }
 
-LineOutcome NeutralReader::SkipForItsCount(const Row& row) {
-  // Every BOARD selects anew, if need be for the board that an earlier one named.
+LineOutcome NeutralReader::SkipForValueCount(const Row& row) {
+  // Every BOARD line updates the selection. One that cannot be read does so for the board named last.
   if (row.read == &NeutralReader::SetBoard) chooser_.Choose(selection_);
   return LineOutcome::WrongValueCount(row, values_.Count());
 }
@@ -139,7 +139,7 @@ LineOutcome NeutralReader::AddPin() {
   return LineOutcome::Imported();
 }
 
-/// Without apostrophes, and with "_" for the blanks that only stand between them.
+/// The name without apostrophes and with "_" for each blank. Only quoted values contain blanks.
 std::string_view NeutralReader::PinName(std::string_view value) {
   if (value.find('\'') == std::string_view::npos) return value;
   scratch_ = value;

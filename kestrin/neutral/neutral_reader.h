@@ -20,11 +20,12 @@
 
 namespace kestrin {
 
-/// Records are known by their keyword wherever they stand; headers ("###Nets") only count sections, and the
-/// counts decide which records are taken.
+/// Reads a Neutral file. A record is recognized by its keyword, in whatever section it appears. Headers such
+/// as
+/// "###Nets" are only counted; the counts decide whether the records that follow are imported.
 class NeutralReader {
  public:
-  /// The models and the selection, which tells at any time what is read, must outlive the reader.
+  /// The models and the selection must outlive the reader. The selection is up to date after every line.
   NeutralReader(CMComps& components, CMNetList& nets, BoardSelection& selection)
       : components_(components), nets_(nets), selection_(selection) {
     components_.m_nReadFlag = 1;
@@ -38,7 +39,7 @@ class NeutralReader {
   static const Row* Find(Keyword keyword);
 
   void CountSection(std::string_view header);
-  LineOutcome SkipForItsCount(const Row& row);
+  LineOutcome SkipForValueCount(const Row& row);
   std::string_view PinName(std::string_view value);
 
   [[nodiscard]] bool InFirstBoardSection() const { return boardSections_ == 1; }
@@ -47,7 +48,7 @@ class NeutralReader {
     return selection_.componentSections == selection_.ordinal;
   }
 
-  // What records do with their values. Their owner is there.
+  // The handlers of records. They are called only if the record's owner is there.
   LineOutcome AddPlacement();
   LineOutcome SetBoard();
   LineOutcome SetUnits();
@@ -56,7 +57,7 @@ class NeutralReader {
   LineOutcome AddComponent();
   LineOutcome AddProperties();
 
-  /// Value n of the record, from 1; the record's row has seen to it that there is one.
+  /// Value n of the record, from 1. The row has already checked that the line has it.
   [[nodiscard]] std::string_view Value(std::size_t n) { return values_.Text(n - 1); }
 
   CMComps& components_;
@@ -65,10 +66,10 @@ class NeutralReader {
   RecordPool records_;
   BoardChooser chooser_;
   std::int64_t boardSections_ = 0;
-  CMNetInfo* net_ = nullptr;          // takes the pins that follow
-  CMCompsInfo* component_ = nullptr;  // takes the properties that follow
-  std::string_view rest_;             // of the current line, after its keyword
-  LineFields values_;                 // which are in there
+  CMNetInfo* net_ = nullptr;          // the owner of the next pins
+  CMCompsInfo* component_ = nullptr;  // the owner of the next properties
+  std::string_view rest_;             // the current line after its keyword
+  LineFields values_;                 // of the current line
   std::string scratch_;
 };
 

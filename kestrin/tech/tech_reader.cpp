@@ -15,8 +15,8 @@
 namespace kestrin {
 namespace {
 
-/// The text between the first opening and the last closing parenthesis: nothing without a closing one, all
-/// before it without an opening one.
+/// The text between the first "(" and the last ")". Without a "(", everything before the last ")"; without a
+/// ")", nothing.
 std::string_view ArgumentText(std::string_view line) {
   line.remove_prefix(line.find('(') + 1);  // npos + 1 is 0
   const std::size_t close = line.rfind(')');
@@ -28,7 +28,7 @@ std::string_view ArgumentText(std::string_view line) {
 LineOutcome TechReader::ReadLine(std::string_view line) {
   using Command = Record<TechReader, LineOutcome (TechReader::*)(std::string_view line)>;
   static constexpr Command kCommands[] = {
-      // in the order that decides when a line holds several
+      // if a line contains several keywords, the first row wins
       {"$$define_physical_layer", Any(), kNobody, &TechReader::AddLayer},
       {"$$define_rule_via", Any(), kNobody, &TechReader::AddViaRule},
   };
@@ -66,7 +66,7 @@ LineOutcome TechReader::AddViaRule(std::string_view line) {
 
 template <class Visit>
 void TechReader::ForEachArgument(std::string_view line, Visit visit) {
-  // Quotes go before the cut and protect no comma, so that ",\"\"," is one separator.
+  // Quotes are removed before the text is cut: they protect no comma, and `,"",` is a single separator.
   unquoted_ = ArgumentText(line);
   std::erase(unquoted_, '"');
   std::int64_t number = 0;

@@ -11,8 +11,8 @@
 
 namespace kestrin {
 
-/// Every line stands for itself: one that holds a command's keyword anywhere becomes a record, whatever its
-/// arguments are.
+/// Reads a Tech file. Each line is read on its own: if it contains the keyword of a command anywhere, it
+/// becomes a record, whatever its arguments are.
 class TechReader {
  public:
   /// The model must outlive the reader.
@@ -23,12 +23,12 @@ class TechReader {
  private:
   LineOutcome AddLayer(std::string_view line);
   LineOutcome AddViaRule(std::string_view line);
-  /// Calls visit with every argument of a command and its number, from 1.
+  /// Calls visit with the number of each argument, from 1, and its text.
   template <class Visit>
   void ForEachArgument(std::string_view line, Visit visit);
 
   CMTech& model_;
-  std::string unquoted_;  // room for the arguments of the current line
+  std::string unquoted_;  // the arguments of the current line; a member to reuse its memory
 };
 
 }  // namespace kestrin

@@ -1,4 +1,4 @@
-// The part of TracesReader for the lines of a fill: its header, its areas and islands with their vertices.
+// The handlers of TracesReader for a fill: its header, and its areas and islands with their vertices.
 
 #include <cstddef>
 #include <memory>
@@ -11,7 +11,7 @@
 namespace kestrin {
 namespace {
 
-/// A line with another number of values than the two forms makes an empty fill.
+/// There are two forms, of 16 and 21 values. A line of any other length makes an empty fill.
 void Read(LineFields& values, CMTracesFIL& fill) {
   const bool isLong = CountValues(values) == 21;
   if (!isLong && CountValues(values) != 16) return;
@@ -39,7 +39,7 @@ void Read(LineFields& values, CMTracesFIL& fill) {
   fill.m_sTail3 = values.Text(tail + 2);
 }
 
-/// A line with another number of values than the three forms makes an empty area.
+/// There are three forms, of 6, 8 and 13 values. A line of any other length makes an empty area.
 void Read(LineFields& values, CMTracesArea& area) {
   const std::size_t count = CountValues(values);
   if (count != 6 && count != 8 && count != 13) return;
@@ -103,7 +103,7 @@ LineOutcome TracesReader::AddVer() {
   return LineOutcome::Imported();
 }
 
-/// An area goes to the current fill, whatever the names of both are.
+/// Adds the area to the current fill, even if their names differ.
 template <class Area>
 LineOutcome TracesReader::AddArea(RecordArray<Area>* CMTracesFIL::*list) {
   auto area = records_.Make<Area>();
@@ -113,7 +113,7 @@ LineOutcome TracesReader::AddArea(RecordArray<Area>* CMTracesFIL::*list) {
   return LineOutcome::Imported();
 }
 
-/// Areas may come without a FIL line; the fill that they then belong to takes after the first of them.
+/// Areas may appear without a FIL line. They then belong to a fill that is made from the first of them.
 void TracesReader::AddFillFor(const CMTracesArea& area) {
   auto fill = records_.Make<CMTracesFIL>();
   fill->m_sName1 = area.m_sName1;

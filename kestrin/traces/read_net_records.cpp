@@ -1,5 +1,5 @@
-// The part of TracesReader for the lines of a net: its header, its wires, incomplete connections and antennas
-// with their segments.
+// The handlers of TracesReader for a net: its header, and its wires, incomplete connections and antennas with
+// their segments.
 
 #include <cstddef>
 #include <memory>
@@ -41,7 +41,7 @@ void Read(LineFields& values, CMTracesGUICHG& record) {
   record.m_nValue6 = values.Int(6);
 }
 
-/// As far as the line goes.
+/// Reads as many values as the line has.
 void Read(LineFields& values, CMTracesSEG& record) {
   values.Read(1, record.m_dValue1);
   values.Read(2, record.m_dValue2);
@@ -85,7 +85,7 @@ LineOutcome TracesReader::AddSeg() {
   return LineOutcome::Imported();
 }
 
-/// The SEG lines that follow go to the record.
+/// Adds the record, which takes the SEG lines that follow.
 template <class Wire>
 LineOutcome TracesReader::AddWithSegments(RecordArray<Wire>* CMTracesNET::*list) {
   auto record = records_.Make<Wire>();

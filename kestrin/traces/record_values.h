@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The values of a record of a Traces file: the fields after its code, numbered from 1.
+/// The values of a line of a Traces file: the fields after its code, numbered from 1.
 
 #include <cstddef>
 #include <string_view>
@@ -11,10 +11,10 @@
 
 namespace kestrin {
 
-/// How many values a line has, which has a code.
+/// The number of values of a line, which must have a code.
 [[nodiscard]] inline std::size_t CountValues(LineFields& line) { return line.Count() - 1; }
 
-/// A value without the apostrophes at its ends.
+/// A value without the apostrophes at either end.
 [[nodiscard]] constexpr std::string_view WithoutApostrophes(std::string_view value) {
   return WithoutTrailing(WithoutLeading(value, '\''), '\'');
 }

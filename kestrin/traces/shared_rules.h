@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// What all readers of a Traces file make of certain values.
+/// How all readers of a Traces file interpret certain values.
 
 #include <algorithm>
 #include <string_view>
@@ -11,7 +11,7 @@
 
 namespace kestrin {
 
-/// Values 1 to 6 of an ST line that has 6 or 8.
+/// Sets values 1 to 6 of an ST line with 6 or 8 values. Values 7 and 8 are always -1.
 inline void SetLongStValues(CMTraces& traces, int value1, int value2, int value3, int value4, int value5,
                             int value6) {
   traces.m_nStLongValue1 = value1;
@@ -29,7 +29,7 @@ inline void SetValue2(CMTracesXRF& record, std::string_view value) {
   record.m_sValue2B = value;
 }
 
-/// The number when the value is made of decimal digits only, else the text.
+/// Sets the number if the value consists of decimal digits only, else the text.
 inline void SetValue4(CMTracesSEG& record, std::string_view value, double number) {
   if (std::all_of(value.begin(), value.end(), IsDigit)) {
     record.m_dValue4 = number;

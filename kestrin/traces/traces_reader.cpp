@@ -12,7 +12,7 @@
 namespace kestrin {
 namespace {
 
-/// Whether a comment was meant as a net header but is not written like one, so that its net is missed.
+/// Whether a comment looks like a net header but is not one, so that its net is missed.
 bool IsMissedNetHeader(std::string_view comment) {
   constexpr std::string_view kWord = "NET";
   const std::string_view text = TrimmedLeft(comment.substr(1));
@@ -21,7 +21,7 @@ bool IsMissedNetHeader(std::string_view comment) {
   return rest.empty() || IsSpace(rest.front()) || rest.front() == '\'';
 }
 
-/// Whether a line without a record is meant to have none: blank lines, properties, notes in parentheses,
+/// Whether a line without a known code may be ignored: blank lines, properties, notes in parentheses and
 /// comments.
 bool CarriesNothing(std::string_view line) {
   const std::string_view text = Trimmed(line);
@@ -34,7 +34,7 @@ OwnerState OwnerAt(const void* owner) { return owner == nullptr ? OwnerState::kM
 
 }  // namespace
 
-/// The row of a record code, null for a code that is none.
+/// The row of a record code; null for an unknown code.
 const TracesReader::Row* TracesReader::Find(Keyword code) {
   using Reader = TracesReader;
   using Owner = kestrin::Owner<Reader>;
@@ -78,16 +78,16 @@ LineOutcome TracesReader::ReadRecord(std::string_view line) {
   if (row == nullptr) {
     return CarriesNothing(line) ? LineOutcome::Ignored() : LineOutcome::Skipped(SkipCode::kUnknownRecord);
   }
-  // A line with some of the values that it must have at least is no other form of the record: it raises when
-  // the missing one is asked for.
+  // Where a row says AtLeast, a line with too few values is not skipped: reading the missing value raises. A
+  // line without any values is skipped.
   const bool fits = row->values.IsOpenEnded() ? !values_.AtEnd() : row->values.Accepts(CountValues(values_));
   if (!fits) return LineOutcome::WrongValueCount(*row, CountValues(values_));
   if (row->FindOwner(*this) == OwnerState::kThere) return (this->*row->read)();
-  static_cast<void>(values_.Text(row->values.fewest));  // raises also for a record without an owner
+  static_cast<void>(values_.Text(row->values.fewest));  // a record without an owner raises too
   return LineOutcome::NoOwner(*row);
 }
 
-/// A line that begins inside an apostrophe has no code: its first value reaches to the closing apostrophe.
+/// A line that begins inside an apostrophe has no code: its first value extends to the closing apostrophe.
 LineOutcome TracesReader::SkipQuoted(std::string_view line) {
   if (Trimmed(line).empty()) return LineOutcome::Ignored();
   const LineOutcome outcome = LineOutcome::OpenQuote(quotingLine_);

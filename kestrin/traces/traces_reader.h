@@ -15,15 +15,14 @@
 
 namespace kestrin {
 
-/// The first value of a line says which record it is; what was read before says which record it belongs to.
-/// A record without an owner is skipped and changes nothing.
+/// Reads a Traces file. The code at the start of a line says which record it is, and the lines before it
+/// decide which record it belongs to. A record without an owner is skipped and changes nothing.
 class TracesReader {
  public:
   /// The model must outlive the reader.
   explicit TracesReader(CMTraces& model) : model_(model) {}
 
-  /// Raises CInvalidArgException when the line is too short for its record; the model then stays as the lines
-  /// before have made it.
+  /// Raises CInvalidArgException if the line has too few values for its record. The model is then unchanged.
   LineOutcome ReadLine(std::string_view line);
 
  private:
@@ -32,8 +31,8 @@ class TracesReader {
   LineOutcome ReadRecord(std::string_view line);
   LineOutcome SkipQuoted(std::string_view line);
 
-  // What records do with their values. Their owner is there. A handler reads all values before it changes
-  // anything, so that a missing one leaves the model as it was.
+  // The handlers of records. They are called only if the record's owner is there. A handler reads all values
+  // before it changes anything, so that the model is unchanged if a value is missing.
   LineOutcome SetUnits();
   LineOutcome SetSt();
   LineOutcome AddXrf();
@@ -64,13 +63,13 @@ class TracesReader {
   void AddFillFor(const CMTracesArea& area);
 
   CMTraces& model_;
-  LineFields values_;  // of the current line, the code first
+  LineFields values_;  // of the current line; field 0 is the code
   RecordPool records_;
   std::int64_t lineNumber_ = 0;
-  std::int64_t quotingLine_ = 0;  // which left the apostrophe open, where one is open
+  std::int64_t quotingLine_ = 0;  // the line that opened the apostrophe, if one is open
 
-  // Where the next dependent record goes, null before there is a place. A net header closes the fill; nothing
-  // else ever closes.
+  // The owners of the next dependent records; null until there is one. A net header sets the fill to null; no
+  // other line resets an owner.
   CMTracesNET* net_ = nullptr;
   CMTracesFIL* fill_ = nullptr;
   RecordArray<CMTracesVER>* vertices_ = nullptr;
