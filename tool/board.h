@@ -12,7 +12,7 @@
 
 namespace kestrin::tool {
 
-/// The words of the command line, empty where they are not given.
+/// The options of the command line as they were typed; empty if not given.
 struct ReadingWords {
   std::string rotation;
   std::string bottom;
@@ -27,8 +27,8 @@ inline constexpr const char* kClockwise = "cw";
 /// Reads the board of an import.
 [[nodiscard]] Board BoardOf(const Imported& imported, const BoardOptions& options = {});
 
-/// Imports the files and prints the board as JSON. Returns the exit status. Raises UsageError for a width
-/// step that is no width.
+/// Imports the files and prints the board as JSON. Returns the exit status. Raises UsageError if the width
+/// step is not positive and finite.
 [[nodiscard]] int PrintBoard(const ExportSet& files, const ReadingWords& words);
 
 }  // namespace kestrin::tool

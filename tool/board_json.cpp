@@ -8,7 +8,7 @@
 namespace kestrin::tool {
 namespace {
 
-/// A list with an action that writes an element.
+/// Writes a list; the action writes each element.
 template <class List, class Write>
 void WriteList(JsonWriter& json, const char* name, const List& list, Write write) {
   json.Key(name);

@@ -21,7 +21,7 @@ std::string Millimetres(double length) {
   return text.GetString();
 }
 
-/// Of a net or of the whole board.
+/// The totals of a net or of the whole board.
 struct Totals {
   void Add(const Net& net) {
     pins += net.pins.size();

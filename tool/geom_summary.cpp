@@ -23,7 +23,7 @@ std::string Number(double value) {
   return {text, std::to_chars(text, text + sizeof text, value).ptr};
 }
 
-/// The rectangle around a flat list of coordinates; one without its pair is left out.
+/// The bounding box of the coordinates x, y, x, y, …. Ignores a last x without a y.
 std::string Extent(const NumberArray& coords) {
   if (coords.GetSize() < 2) return "none";
   double low[] = {coords[0], coords[1]};
@@ -48,7 +48,7 @@ void PrintBoard(const CMGeomBoard& board) {
   std::printf("  routing outline    %s\n", Extent(*board.m_pRoutingOutline).c_str());
 }
 
-/// What the geometries of a kind hold altogether.
+/// The total contents of all geometries of a kind.
 struct Counts {
   std::int64_t geometries = 0;
   std::int64_t drawObjs = 0;
@@ -58,9 +58,9 @@ struct Counts {
   std::int64_t keepouts = 0;
 };
 
-/// Counts what a geometry of any kind has.
-template <class RECORD>
-void CountIn(const RECORD& record, Counts& counts) {
+/// Adds the contents of a geometry of any kind.
+template <class Record>
+void CountIn(const Record& record, Counts& counts) {
   ++counts.geometries;
   counts.drawObjs += record.m_pDrawObjs->GetSize();
   counts.texts += record.m_pTexts->GetSize();
@@ -79,10 +79,10 @@ void CountIn(const RECORD& record, Counts& counts) {
   }
 }
 
-template <class RECORD>
-Counts CountsOf(const CArray<RECORD*, RECORD*>& records) {
+template <class Record>
+Counts CountsOf(const CArray<Record*, Record*>& records) {
   Counts counts;
-  for (const RECORD* record : records) CountIn(*record, counts);
+  for (const Record* record : records) CountIn(*record, counts);
   return counts;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// What a person wants to know of a Geometry file at a glance.
+/// The summary of a Geometry file.
 
 namespace kestrin {
 class CMGeom;

@@ -23,8 +23,8 @@ struct Arguments {
 };
 
 constexpr char kExitStatuses[] =
-    "Exit status: 0 all is well; 1 a reader stopped early or the strict reading gave up, or check found "
-    "skipped lines or syntax errors; 2 wrong usage or a file that cannot be read.";
+    "Exit status: 0 if everything was imported; 1 if a reader stopped early, the strict parser gave up, or "
+    "check found skipped lines or syntax errors; 2 if the command line is wrong or a file cannot be read.";
 
 void AddFileOptions(CLI::App& command, Arguments& arguments) {
   for (const FileKind& kind : kFileKinds) {
@@ -33,7 +33,7 @@ void AddFileOptions(CLI::App& command, Arguments& arguments) {
         ->option_text("FILE");
   }
   command.add_flag("--strict", arguments.files.Strict(),
-                   "Read the Traces file by its grammar: order and form of its records count");
+                   "Parse the Traces file by its grammar, which fixes the order and form of its records");
 }
 
 CLI::App* AddCommand(CLI::App& app, Arguments& arguments, const char* name, const char* description,
@@ -47,8 +47,8 @@ CLI::App* AddCommand(CLI::App& app, Arguments& arguments, const char* name, cons
 void AddFolder(CLI::App& command, Arguments& arguments) {
   command
       .add_option("DIR", arguments.folder,
-                  "A folder that holds the export set: one file each that ends in .tech, .neutral, "
-                  ".geometry, .traces")
+                  "A folder with the export set: one file each that ends in .tech, .neutral, .geometry "
+                  "and .traces")
       ->option_text(" ");
 }
 
@@ -56,31 +56,36 @@ void AddReadingOptions(CLI::App& command, ReadingWords& words) {
   const CLI::IsMember senses({kCounterClockwise, kClockwise});
   command
       .add_option("--rotation", words.rotation,
-                  "Which way components on the top turn, as fits the data if not said")
+                  "The direction in which components on the top rotate (default: fitted to the data)")
       ->check(senses)
       ->option_text("ccw|cw");
-  command.add_option("--bottom", words.bottom, "Which way components on the bottom turn, likewise")
+  command
+      .add_option("--bottom", words.bottom,
+                  "The direction in which components on the bottom rotate (default: fitted to the data)")
       ->check(senses)
       ->option_text("ccw|cw");
-  command.add_option("--bottom-turn", words.bottomTurn, "Degrees added to their angle, likewise")
+  command
+      .add_option("--bottom-turn", words.bottomTurn,
+                  "Degrees to add to the angle of components on the bottom (default: fitted to the data)")
       ->check(CLI::IsMember({"0", "180"}))
       ->option_text("0|180");
   command
       .add_option("--width-step", words.widthStep,
-                  "What widths of digits alone count, in the unit of the Traces file, likewise")
+                  "The unit of track widths that are written with digits only, in units of the Traces file "
+                  "(default: fitted to the data)")
       ->option_text("NUMBER");
 }
 
-/// Parses the command line and carries it out. Returns the exit status.
+/// Parses the command line and runs the command. Returns the exit status.
 int Run(int count, char** words) {
-  CLI::App app("Imports a printed-circuit board from its four export files and shows what they hold.",
+  CLI::App app("Imports a printed-circuit board from its four export files and shows their contents.",
                "kestrin");
   app.set_version_flag("--version", std::string("kestrin ") + kVersion);
   app.require_subcommand(0, 1);
   app.footer(std::string("Example:\n  kestrin summary examples/board\n\n") + kExitStatuses);
 
   Arguments arguments;
-  CLI::App* summary = AddCommand(app, arguments, "summary", "Print what the files hold at a glance",
+  CLI::App* summary = AddCommand(app, arguments, "summary", "Print the contents of the files at a glance",
                                  "kestrin summary examples/board");
   AddFolder(*summary, arguments);
   CLI::App* dump = AddCommand(app, arguments, "dump", "Print the object model as a JSON document",
@@ -88,7 +93,7 @@ int Run(int count, char** words) {
   CLI::App* check = AddCommand(app, arguments, "check", "List the lines that an import skips",
                                "kestrin check examples/board --format json");
   AddFolder(*check, arguments);
-  check->add_option("--format", arguments.format, "How to print them, as text if not said")
+  check->add_option("--format", arguments.format, "The output format (default: text)")
       ->check(CLI::IsMember({"text", "json"}))
       ->option_text("text|json");
   CLI::App* board =
@@ -104,7 +109,7 @@ int Run(int count, char** words) {
   } catch (const CLI::ParseError& error) {
     throw UsageError(std::string(error.what()) + "; try kestrin --help");
   }
-  if (app.get_subcommands().empty()) throw UsageError("no command is given; try kestrin --help");
+  if (app.get_subcommands().empty()) throw UsageError("missing command; try kestrin --help");
   if (!arguments.folder.empty()) arguments.files.FindInFolder(arguments.folder);
   if (board->parsed()) return PrintBoard(arguments.files, arguments.reading);
   if (dump->parsed()) return Dump(arguments.files);

@@ -9,7 +9,7 @@
 
 namespace kestrin::tool {
 
-/// Prints board and panel, which board was selected and why, components by geometry and the nets.
+/// Prints the board and panel, which board was selected and why, the components by geometry, and the nets.
 void PrintNeutral(const CMComps& components, const CMNetList& nets, const BoardSelection& selection);
 
 }  // namespace kestrin::tool

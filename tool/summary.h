@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// kestrin summary: what a person wants to know of an export set at a glance.
+/// kestrin summary: the contents of an export set at a glance.
 
 #include "tool/export_set.h"
 

@@ -26,10 +26,10 @@ struct NetCounts {
   std::int64_t segments = 0;
 };
 
-template <class RECORD>
-std::int64_t SegmentsOf(const RecordArray<RECORD>* records) {
+template <class Record>
+std::int64_t SegmentsOf(const RecordArray<Record>* records) {
   std::int64_t count = 0;
-  for (const RECORD* record : *records) count += record->m_pSegArray->GetSize();
+  for (const Record* record : *records) count += record->m_pSegArray->GetSize();
   return count;
 }
 
@@ -47,10 +47,10 @@ struct FillCounts {
   std::int64_t islands = 0;
 };
 
-template <class RECORD>
-std::int64_t VerticesOf(const RecordArray<RECORD>* records) {
+template <class Record>
+std::int64_t VerticesOf(const RecordArray<Record>* records) {
   std::int64_t count = 0;
-  for (const RECORD* record : *records) count += record->m_pVerArray->GetSize();
+  for (const Record* record : *records) count += record->m_pVerArray->GetSize();
   return count;
 }
 

@@ -1,13 +1,13 @@
 #pragma once
 
 /// @file
-/// The Traces file's part of the summary.
+/// The summary of a Traces file.
 
 #include "kestrin/traces/traces_model.h"
 
 namespace kestrin::tool {
 
-/// Prints how many records of each kind there are.
+/// Prints the number of records of each kind.
 void PrintTraces(const CMTraces& traces);
 
 }  // namespace kestrin::tool

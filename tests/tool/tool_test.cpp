@@ -29,7 +29,7 @@ TEST(Tool, WrongUsageAndUnreadableFilesGiveOneLineAndStatus2) {
     std::string complaint;
   };
   const Case cases[] = {
-      {"", "no command is given"},
+      {"", "missing command"},
       {"frobnicate", "frobnicate"},
       {"dump", "no file to read; name one with --tech, --neutral, --geometry or --traces"},
       {"dump --tech", "--tech"},
