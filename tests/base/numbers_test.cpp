@@ -12,7 +12,7 @@ namespace {
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
-TEST(Numbers, IntTakesTheLongestDecimalPrefix) {
+TEST(Numbers, IntReadsTheLongestDecimalPrefix) {
   struct Case {
     const char* text;
     int expected;
@@ -34,7 +34,7 @@ TEST(Numbers, IntTakesTheLongestDecimalPrefix) {
   for (const Case& c : cases) EXPECT_EQ(ToInt(c.text), c.expected) << c.text;
 }
 
-TEST(Numbers, DoubleTakesTheLongestDecimalPrefix) {
+TEST(Numbers, DoubleReadsTheLongestDecimalPrefix) {
   struct Case {
     const char* text;
     double expected;

@@ -12,7 +12,7 @@
 
 namespace kestrin::test {
 
-/// The texts of an export set. An empty text is a file that is missing.
+/// The texts of an export set. An empty text means a missing file.
 struct Texts {
   std::string tech;
   std::string neutral;
@@ -62,7 +62,7 @@ inline std::ostream& operator<<(std::ostream& out, const Polygon& points) {
   return out;
 }
 
-/// "U1 top 90 (1 2): 1(0 0) P=GND 2(1 0)" a line.
+/// A line for each component: "U1 top 90 (1 2): 1(0 0) P=GND 2(1 0)".
 inline std::string Components(const Board& board) {
   std::ostringstream text;
   for (const Component& component : board.components) {
@@ -78,7 +78,7 @@ inline std::string Components(const Board& board) {
   return text.str();
 }
 
-/// "GND: U1-1 U1-2?" a line; a question mark is behind pins that are not on the board.
+/// A line for each net: "GND: U1-1 U1-2?". A question mark follows pins that are not on the board.
 inline std::string NetPins(const Board& board) {
   std::ostringstream text;
   for (const Net& net : board.nets) {
@@ -89,7 +89,7 @@ inline std::string NetPins(const Board& board) {
   return text.str();
 }
 
-/// "1w0.25(0 0)(1 0) V1@(1 0) open(0 0)(1 1) length1=1" for the copper of all nets.
+/// The copper of all nets: "1w0.25(0 0)(1 0) V1@(1 0) open(0 0)(1 1) length1=1".
 inline std::string Copper(const Board& board) {
   std::ostringstream text;
   for (const Net& net : board.nets) {
@@ -107,7 +107,7 @@ inline std::string Copper(const Board& board) {
   return text.str();
 }
 
-/// "SIGNAL_1(0 0)(1 0)(1 1)-(...)" for every area with its holes.
+/// Every area with its holes: "SIGNAL_1(0 0)(1 0)(1 1)-(...)".
 inline std::string Areas(const Board& board) {
   std::ostringstream text;
   for (const Net& net : board.nets) {

@@ -52,8 +52,8 @@ TEST(BoardComponents, PlaceTheirPins) {
   }
 }
 
-/// An odd angle moves infinite coordinates into each other, and their difference is no number.
-TEST(BoardComponents, HaveNoCoordinateThatIsNotANumber) {
+/// Other angles than right ones combine infinite coordinates, and infinity minus infinity is NaN.
+TEST(BoardComponents, HaveNoNanCoordinates) {
   for (const char* values : {"1e400 -1e400 1 30", "0 0 2 45", "1e308 1e308 1 200", "-1e400 1e400 2 0"}) {
     const Board board = BoardOf({.tech = {},
                                  .neutral = std::string("B_UNITS IN\n###Component\nCOMP U p s G ") + values,
@@ -86,7 +86,7 @@ TEST(BoardComponents, ChoosePadstacksAndKeepTheFirstOfEqualNames) {
   EXPECT_EQ(board.components[2].geometryIndex, std::nullopt);
 }
 
-TEST(BoardComponents, MeetTheirNetsByReferenceAndPin) {
+TEST(BoardComponents, AreMatchedWithNetsByReferenceAndPin) {
   struct Case {
     const char* neutral;
     const char* nets;
@@ -100,7 +100,7 @@ TEST(BoardComponents, MeetTheirNetsByReferenceAndPin) {
       {"NET A\nN_PIN U1-1 a b c d\nN_PIN U1-1 a b c d\nN_PIN Z-1 a b c d\nNET B\nN_PIN U1-1 a b c d\nN_PIN "
        "Z-1 a b c d",
        "A: U1-1 Z-1?\nB:\n"},
-      // The longest reference that a component has: J, J-1 and J-1-2 are there, J-3 is not.
+      // The longest known reference wins: there are J, J-1 and J-1-2, but no J-3.
       {"NET A\nN_PIN J-1 a b c d\nN_PIN J-1-1 a b c d\nN_PIN J-1-2 a b c d\nN_PIN J-1-2-1 a b c d\nN_PIN "
        "J-3-1 a b c d",
        "A: J-1 J-1-1 J-1-2 J-1-2-1 J-3-1?\n"},
@@ -120,7 +120,7 @@ TEST(BoardComponents, MeetTheirNetsByReferenceAndPin) {
   }
 }
 
-TEST(BoardComponents, OfOneReferenceStayAndTheFirstHasTheNets) {
+TEST(BoardComponents, WithTheSameReferenceStayAndTheFirstHasTheNets) {
   const Board board = BoardOf(
       {.tech = {},
        .neutral =
@@ -132,7 +132,7 @@ TEST(BoardComponents, OfOneReferenceStayAndTheFirstHasTheNets) {
             "U top 0 (0 0): 1(1 1)=A 2(2 2) 1(3 3)=A 1(4 4)=A\nU top 0 (5 0): 1(6 1) 2(7 2) 1(8 3) 1(9 4)\n");
 }
 
-TEST(BoardComponents, TakeTheirDrawingsToTheBoard) {
+TEST(BoardComponents, MapTheirDrawingsOntoTheBoard) {
   const Board board = BoardOf({.tech = {},
                                .neutral = "B_UNITS MM\n###Component\nCOMP U p s G 10 20 2 90\n",
                                .geometry = "$$create_component(G)\n$$page(0, 0, @in)\n" + Pin("1", "1, 0"),

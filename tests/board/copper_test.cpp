@@ -9,7 +9,7 @@ using test::Areas;
 using test::BoardOf;
 using test::Copper;
 
-/// Two points of the reading: digits of 25 are 0.25 mm.
+/// Widths in hundredths: 25 is 0.25 mm.
 const BoardOptions kHundredths{.rotation = {}, .bottom = {}, .bottomTurn = {}, .widthStep = 0.01};
 
 TEST(BoardCopper, MakesTracksOfPolylines) {
@@ -26,14 +26,14 @@ TEST(BoardCopper, MakesTracksOfPolylines) {
       {"WIR 1 0 0 0 0\nSEG 0 0 1 25\nSEG 1 0 2 25\nSEG 2 0 1 25\nSEG 3 0 1 25",
        "1w0.25(0 0)(1 0) 2w0.25(1 0)(2 0) 1w0.25(2 0)(3 0) 1=2 2=1 "},
       {"WIR 1 0 0 0 0\nSEG 0 0 1 25\nSEG 1 0 1 30\nSEG 2 0 1 30", "1w0.25(0 0)(1 0) 1w0.3(1 0)(2 0) 1=2 "},
-      // A leg that begins at a via is on the layer of the point that it ends at.
+      // A leg that begins at a via is on the layer of its end point.
       {"WIR 1 0 0 0 0\nSEG 0 0 4 25\nSEG 1 0 4 V1\nSEG 2 0 1 25",
        "4w0.25(0 0)(1 0) 1w0.25(1 0)(2 0) V1@(1 0) 1=1 4=1 "},
       {"WIR 1 0 0 0 0\nSEG 0 0 1 V1\nSEG 1 0 2 V2\nSEG 2 0 3 V1",
        "2w?(0 0)(1 0) 3w?(1 0)(2 0) V1@(0 0) V2@(1 0) V1@(2 0) 2=1 3=1 "},
       {"WIR 1 0 0 0 0\nSEG 0 0 1 25\nSEG 1 0 1 V1\nSEG 2 0 1 25", "1w0.25(0 0)(1 0)(2 0) V1@(1 0) 1=2 "},
       {"WIR 1 0 0 0 0\nSEG 0 0 0 V1\nWIR 2 0 0 0 0\nSEG 0 0 0 V1", "V1@(0 0) V1@(0 0) "},
-      // Layer 0 is no copper.
+      // Layer 0 has no copper.
       {"WIR 1 0 0 0 0\nSEG 0 0 1 25\nSEG 1 0 0 25\nSEG 2 0 1 25\nSEG 3 0 1 25",
        "1w0.25(0 0)(1 0) 1w0.25(2 0)(3 0) 1=2 "},
       {"WIR 1 0 0 0 0\nSEG 0 0 -3 25\nSEG 1 0 -3 25", "-3w0.25(0 0)(1 0) -3=1 "},
@@ -51,7 +51,7 @@ TEST(BoardCopper, MakesTracksOfPolylines) {
       {"WIR 1 0 0 0 0\nSEG 0 0 1 25\nWIR 2 0 0 0 0", ""},
       {"INC 1 1 2 1 3 4 1\nSEG 1 2 1 25\nSEG 3 4 1 V1\nGUI 1 2 3 4 5 6\nCHG 1 2 3 4 5 6", "open(1 2)(3 4) "},
       {"WIR 1 0 0 0 0\nSEG 1 1 1 25\nSEG 1 1 1 25", "1w0.25(1 1)(1 1) 1=0 "},
-      // Infinity minus infinity is not a number, and no length.
+      // Infinity minus infinity must not make a length NaN.
       {"WIR 1 0 0 0 0\nSEG 1e400 0 1 25\nSEG 1e400 1 1 25", "1w0.25(inf 0)(inf 1) 1=inf "},
       {"WIR 1 0 0 0 0\nSEG 1e308 0 1 25\nSEG -1e308 0 1 25", "1w0.25(1e+308 0)(-1e+308 0) 1=inf "},
   };
@@ -66,7 +66,7 @@ TEST(BoardCopper, MakesTracksOfPolylines) {
   }
 }
 
-TEST(BoardCopper, SaysWhereTracksAreFrom) {
+TEST(BoardCopper, RecordsTheSourceOfTracks) {
   const Board board = BoardOf(
       {.tech = {},
        .neutral = {},
@@ -98,7 +98,7 @@ TEST(BoardCopper, BelongsToNetsByName) {
 TEST(BoardCopper, FitsTheWidthStep) {
   struct Case {
     const char* unit;
-    const char* widths;  // of successive points
+    const char* widths;  // of consecutive points
     std::optional<double> step;
   };
   const Case cases[] = {
@@ -106,12 +106,12 @@ TEST(BoardCopper, FitsTheWidthStep) {
       {"MM", "0.25 V1 0 0", std::nullopt},
       {"MM", "", std::nullopt},
       {"MM", "0.25 25", 0.01},
-      {"MM", "75 75", 0.01},  // both ends fit: the first
+      {"MM", "75 75", 0.01},  // at both ends of the range: the greater step wins
       {"MM", "75", 0.01},
       {"MM", "74", 0.01},
       {"MM", "7", 0.1},
       {"MM", "1 1 25 25 25 900", 0.01},
-      {"MM", "100 900 900 100", 0.001},  // between 100 and 900
+      {"MM", "100 900 900 100", 0.001},  // the median is the mean of 100 and 900
       {"MM", "1 1000000", std::nullopt},
       {"MM", "7499", 0.0001},
       {"MM", "7501", std::nullopt},
@@ -142,7 +142,7 @@ TEST(BoardCopper, FitsTheWidthStep) {
   }
 }
 
-TEST(BoardCopper, GivesHolesToTheFirstAreaAroundThem) {
+TEST(BoardCopper, AssignsHolesToTheFirstAreaThatContainsThem) {
   const std::string big = "VER 0 0\nVER 10 0\nVER 10 10\nVER 0 10\nVER 0 0\n";
   const std::string small = "VER 0 0\nVER 4 0\nVER 4 4\nVER 0 4\n";
   const std::string hole = "VER 1 1\nVER 2 1\nVER 1 2\nVER 1 1\n";
@@ -174,7 +174,7 @@ TEST(BoardCopper, GivesHolesToTheFirstAreaAroundThem) {
   }
 }
 
-TEST(BoardCopper, SaysWhichLayersViasJoin) {
+TEST(BoardCopper, FindsTheLayersThatViasJoin) {
   const Board board = BoardOf(
       {.tech = "$$define_physical_layer(1, T, SIGNAL_1)\n$$define_physical_layer(2, I, SIGNAL_2)\n"
                "$$define_physical_layer(3, B, SIGNAL_3)\n$$define_rule_via(\"R\", \"T\", \"I\")",

@@ -31,7 +31,7 @@ constexpr Sense kCw = Sense::kClockwise;
 constexpr Convention kConventions[] = {{kCcw, kCcw, 0}, {kCcw, kCcw, 180}, {kCcw, kCw, 0}, {kCcw, kCw, 180},
                                        {kCw, kCcw, 0},  {kCw, kCcw, 180},  {kCw, kCw, 0},  {kCw, kCw, 180}};
 
-/// A net of one pin.
+/// A net with one pin.
 std::string NetOfPin(const std::string& net, const std::string& pin) {
   return "NET " + net + "\nN_PIN " + pin + " a b c d\n";
 }
@@ -41,7 +41,7 @@ struct Placed {
   int degrees;
 };
 
-/// A board whose components were placed under a convention, each pin with a track of its own.
+/// A board whose components were placed by a convention. Each pin has its own track.
 Texts MadeUnder(const Convention& convention, const std::vector<Placed>& components) {
   Texts texts{
       .tech = {},
@@ -91,7 +91,7 @@ TEST(BoardFit, FindsTheConventionThatABoardWasMadeUnder) {
   }
 }
 
-TEST(BoardFit, SaysWhatTheDataDoNotTell) {
+TEST(BoardFit, LeavesWhatTheDataDoesNotDecideUnconfirmed) {
   struct Case {
     const char* why;
     Convention made;
@@ -144,12 +144,12 @@ TEST(BoardFit, SaysWhatTheDataDoNotTell) {
   }
 }
 
-/// Half of the pins is enough, and two readings that do equally well are not.
-TEST(BoardFit, ConfirmsByHalfOfThePinsAndAgainstAllOthers) {
+/// Half of the pins is enough. A second reading that fits as well prevents confirmation.
+TEST(BoardFit, ConfirmsIfHalfOfThePinsTouchAndNoOtherReadingFitsAsWell) {
   const Texts half = MadeUnder({kCcw, kCcw, 0}, {{1, 90}, {1, 45}});
   Texts texts = half;
   const std::string more = MadeUnder({kCw, kCcw, 0}, {{1, 90}, {1, 45}}).traces;
-  texts.traces += more;  // nets of the same names: the pins touch under both senses
+  texts.traces += more;  // nets with the same names: the pins touch with both senses
   EXPECT_EQ(Told(BoardOf(texts).reading), "ccw ccw 0 fitted 4/4");
 
   for (const auto& [others, reading] :
@@ -169,7 +169,7 @@ TEST(BoardFit, ConfirmsByHalfOfThePinsAndAgainstAllOthers) {
   }
 }
 
-/// What a pin at (0, 0) touches.
+/// The copper that a pin at (0, 0) touches.
 TEST(BoardFit, TouchesTracksViasAndAreasOfItsNet) {
   const std::string square = "VER -1 -1\nVER 1 -1\nVER 1 1\nVER -1 1\n";
   const std::string away = "VER 5 5\nVER 6 5\nVER 6 6\n";

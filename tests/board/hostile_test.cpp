@@ -15,14 +15,14 @@ namespace {
 
 using test::BoardOf;
 
-/// Adds a record as a reader does: one made alone takes far more memory.
+/// Adds a record from a pool, as readers do. Records on the heap take far more memory.
 template <class Record, class List>
 Record& AddTo(const List& list, RecordPool& pool) {
   list->Add(pool.Make<Record>().release());
   return *list->GetAt(list->GetUpperBound());
 }
 
-/// A net of many pins, of one component, and of many legs; a function says where.
+/// A net with many pins of one component and many legs. Functions set their positions.
 struct BigNet {
   template <class PinAt, class LegAt>
   BigNet(int pins, PinAt pinAt, int points, LegAt legAt) {
@@ -66,8 +66,8 @@ struct BigNet {
   CMTraces traces;
 };
 
-/// Each of these takes hours where every pin is compared with every leg; ctest stops them after a minute.
-TEST(HostileBoard, TakesTimeInProportionHoweverPinsAndLegsLie) {
+/// Each of these would take hours if every pin were compared with every leg. ctest stops them after a minute.
+TEST(HostileBoard, TakesLinearTimeForAnyLayoutOfPinsAndLegs) {
   constexpr int kMany = 100'000;
   std::mt19937 random(1);
   std::uniform_real_distribution<double> anywhere(0, 1000);
@@ -82,7 +82,7 @@ TEST(HostileBoard, TakesTimeInProportionHoweverPinsAndLegsLie) {
   EXPECT_EQ(BigNet(kMany, farApart, kMany, farApart).Read().reading.pinsCounted, std::size_t{kMany});
 }
 
-TEST(HostileBoard, HoldsAMillionPinsAndATrackOfAMillionPoints) {
+TEST(HostileBoard, ReadsAMillionPinsAndATrackOfAMillionPoints) {
   constexpr int kMany = 1'000'000;
   const auto row = [](int i) { return Point{i * 0.5, 0.0}; };
   const Board board = BigNet(kMany, row, kMany, row).Read();
@@ -92,8 +92,8 @@ TEST(HostileBoard, HoldsAMillionPinsAndATrackOfAMillionPoints) {
   EXPECT_EQ(board.nets[0].lengths[0].length, (kMany - 1) * 0.5);
 }
 
-/// A few thousand lines must not make a thousand million pins.
-TEST(HostileBoard, LeavesPinsOutThatAreFarMoreThanItsLines) {
+/// A few thousand lines must not make a billion pins.
+TEST(HostileBoard, LeavesOutPinsThatFarOutnumberItsLines) {
   std::string geometry = "$$create_component(G)\n";
   std::string neutral = "###Component\n";
   for (int i = 0; i < 5000; ++i) {
@@ -111,7 +111,7 @@ TEST(HostileBoard, LeavesPinsOutThatAreFarMoreThanItsLines) {
   EXPECT_EQ(board.nets[0].pins[0].pin, std::nullopt);
 }
 
-TEST(HostileBoard, CutsPinsOfManyHyphensInTime) {
+TEST(HostileBoard, CutsPinsWithManyHyphensInLinearTime) {
   std::string neutral = "###Component\n";
   for (int i = 0; i < 2000; ++i)
     neutral += "COMP " + std::string(static_cast<std::size_t>(i), '-') + "A p s G 0 0 1 0\nCOMP A" +
@@ -124,8 +124,8 @@ TEST(HostileBoard, CutsPinsOfManyHyphensInTime) {
   EXPECT_EQ(board.nets[0].pins[7].component, 3999U);
 }
 
-/// The comb has an edge for every pin on either side of it, at every height.
-TEST(HostileBoard, LooksIntoAreasOfManyVerticesInTime) {
+/// The area is a comb: every pin is between two edges that span the full height.
+TEST(HostileBoard, SearchesAreasWithManyVerticesInLinearTime) {
   constexpr int kMany = 100'000;
   const auto row = [](int i) { return Point{i * 0.01, 0.5 + i * 1e-9}; };
   BigNet net(kMany, row, 0, row);
@@ -144,8 +144,8 @@ TEST(HostileBoard, LooksIntoAreasOfManyVerticesInTime) {
   EXPECT_EQ(board.reading.pinsCounted, std::size_t{kMany});
 }
 
-/// Any number in any place; the sanitizers look for conversions out of range.
-TEST(HostileBoard, HasNoCoordinateThatIsNotANumber) {
+/// Puts any number in any place. The sanitizers report conversions out of range.
+TEST(HostileBoard, HasNoNanCoordinates) {
   const char* numbers[] = {"1e400", "-1e400", "1e308", "-1e308", "1e-308", "0", "-0", "1e15", "-9e15", "4e6"};
   std::mt19937 random(2);
   const auto any = [&] { return std::string(numbers[random() % std::size(numbers)]) + " "; };

@@ -34,7 +34,7 @@ TEST(BoardNames, CompareWithoutApostrophesAndOuterBlanks) {
   }
 }
 
-/// Names that a hash table of up to 65,536 slots would all put into the same slot.
+/// Names that all have the same slot in any hash table of up to 65,536 slots.
 std::vector<std::string> CollidingNames(std::size_t count) {
   std::vector<std::string> names;
   for (int i = 0; names.size() < count; ++i) {
@@ -44,7 +44,7 @@ std::vector<std::string> CollidingNames(std::size_t count) {
   return names;
 }
 
-TEST(NameIndex, KeepsTheFirstOfEqualNamesAlsoWhereNamesCollide) {
+TEST(NameIndex, KeepsTheFirstOfEqualNamesEvenIfNamesCollide) {
   std::vector<std::string> names = CollidingNames(40);
   for (int i = 0; i < 5000; ++i) names.push_back("M" + std::to_string(i));
   NameIndex index;

@@ -12,7 +12,7 @@ namespace {
 
 using Indexes = std::set<std::uint32_t>;
 
-/// Many points at few places and far away from each other, as grids dislike them.
+/// Points in distributions that are hard for a grid, such as many at the same place or far apart.
 std::vector<Point> PointsLike(const std::string& kind, std::size_t count, std::mt19937& random) {
   std::uniform_real_distribution<double> anywhere(-50, 50);
   std::uniform_int_distribution<int> whole(-5, 5);
@@ -94,7 +94,7 @@ TEST(PointStrips, MeasureTheDistanceToTheNearestPointOfALeg) {
   }
 }
 
-TEST(PointStrips, AreNotUpsetByInfinities) {
+TEST(PointStrips, AllowInfinities) {
   constexpr double kInfinity = std::numeric_limits<double>::infinity();
   std::vector<Point> points{{0, 0}, {kInfinity, 0}, {0, -kInfinity}, {1e308, -1e308}};
   for (int i = 0; i < 100; ++i) points.push_back({1, static_cast<double>(i)});

@@ -9,7 +9,7 @@ namespace {
 
 using test::BoardOf;
 
-TEST(BoardUnits, KnowTheirWords) {
+TEST(BoardUnits, AreRecognizedByName) {
   struct Case {
     const char* word;
     std::optional<double> millimetres;
@@ -29,7 +29,7 @@ TEST(BoardUnits, KnowTheirWords) {
   for (const Case& c : cases) EXPECT_EQ(MillimetresIn(c.word), c.millimetres) << c.word;
 }
 
-/// A file of its own unit, and one without that goes by another's.
+/// A file has its own unit or, without one, the unit of another file.
 TEST(BoardUnits, AreThoseOfEachFile) {
   struct Case {
     const char* neutral;
@@ -64,8 +64,8 @@ TEST(BoardUnits, AreThoseOfEachFile) {
   }
 }
 
-/// Points that were one in the other system are one on the board, whatever units the files are in.
-TEST(BoardUnits, JoinExactly) {
+/// The same point in mils and in millimetres is the same point on the board.
+TEST(BoardUnits, ConvertToTheSamePoint) {
   for (int steps = 1; steps < 3000; ++steps) {
     char mils[100];
     char millimetres[100];
@@ -183,7 +183,7 @@ TEST(BoardOutline, IsThePlacementOutlineElseTheRoutingOutline) {
   }
 }
 
-TEST(Board, OfNothingIsEmpty) {
+TEST(Board, OfNoModelsIsEmpty) {
   const Board board = ReadBoard({});
   EXPECT_TRUE(board.layers.empty() && board.components.empty() && board.nets.empty() &&
               board.outline.empty());

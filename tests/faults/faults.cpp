@@ -13,11 +13,11 @@ constexpr std::int64_t kNever = std::numeric_limits<std::int64_t>::max();
 constexpr long kEverything = std::numeric_limits<long>::max();
 
 Allocations soFar;
-std::int64_t firstFailing = kNever;  // by the number of the allocation
+std::int64_t firstFailing = kNever;  // the number of an allocation
 std::int64_t lastFailing = kNever;
 long readableBytes = kEverything;
 
-/// Counts an allocation that is tried. Whether it fails.
+/// Counts an attempted allocation. Returns whether it fails.
 bool AllocationFails() {
   const std::int64_t number = soFar.made++;
   return number >= firstFailing && number <= lastFailing;
@@ -47,8 +47,8 @@ FailingReads::~FailingReads() { readableBytes = kEverything; }
 
 using namespace kestrin::test;
 
-// NOLINTBEGIN(bugprone-reserved-identifier,cppcoreguidelines-owning-memory): the linker sets these names, and
-// memory is what they are about.
+// NOLINTBEGIN(bugprone-reserved-identifier,cppcoreguidelines-owning-memory): the linker defines these names,
+// and the functions manage memory.
 extern "C" {
 
 void* __real_malloc(std::size_t size);
@@ -80,7 +80,7 @@ void __wrap_free(void* memory) {
   __real_free(memory);
 }
 
-/// The readers read bytes, so an item is one.
+/// The readers read single bytes, so items are bytes.
 std::size_t __wrap_fread(void* bytes, std::size_t size, std::size_t count, std::FILE* file) {
   if (readableBytes == kEverything) return __real_fread(bytes, size, count, file);
   const long left = std::max(readableBytes - std::ftell(file), 0L);

@@ -1,22 +1,23 @@
 #pragma once
 
 /// @file
-/// What a test program can let fail in itself. Its linker wraps the C functions; new is replaced.
+/// Making allocations and reads of the test program fail. The linker wraps the C functions; operator new is
+/// replaced.
 
 #include <cstdint>
 #include <limits>
 
 namespace kestrin::test {
 
-/// What the program took with new, malloc, calloc and realloc; what the C library takes for itself is not
-/// seen.
+/// The number of allocations by new, malloc, calloc and realloc. Those inside the C library are not counted.
 struct Allocations {
   std::int64_t made = 0;
   std::int64_t alive = 0;
 };
 [[nodiscard]] Allocations AllocationsSoFar();
 
-/// While it lives, allocations fail: the one that follows so many that succeed, or all from there on.
+/// Makes allocations fail as long as it exists. A number of allocations succeed first; then one fails, or
+/// all.
 class FailingAllocations {
  public:
   enum class Which { kOne, kAllFromThere };
@@ -26,7 +27,7 @@ class FailingAllocations {
   ~FailingAllocations();
 };
 
-/// While it lives, no file can be read beyond this many bytes from its start.
+/// Makes reads fail as long as it exists: only the first bytes of each file can be read.
 class FailingReads {
  public:
   explicit FailingReads(long readable);

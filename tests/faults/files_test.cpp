@@ -21,7 +21,7 @@ namespace {
 
 using ReadFile = void (CPC_KESTRIN_GET::*)(CString);
 
-TEST(FaultyFile, AReadErrorEndsTheImportBehindTheLastWholeLine) {
+TEST(FaultyFile, AReadErrorEndsTheImportAfterTheLastCompleteLine) {
   struct Case {
     ImportFile file;
     const char* kind;
@@ -79,7 +79,7 @@ TEST(FaultyFile, TheStrictReaderTakesAReadErrorAsTheEndOfTheFile) {
   testing::internal::GetCapturedStderr();
 }
 
-TEST(FaultyFile, WhatOpensButCannotBeReadRaisesAndWhatDoesNotOpenDoesNot) {
+TEST(FaultyFile, AFileThatOpensButCannotBeReadRaisesAndOneThatDoesNotOpenDoesNot) {
   CPC_KESTRIN_GET session;
   EXPECT_THROW(session.TraceFileParse("/proc/self/mem"), CFileException);
   EXPECT_EQ(session.GetReport().Of(ImportFile::kTraces).end, ReadingEnd::kStopped);
@@ -99,7 +99,7 @@ TEST(FaultyFile, WhatOpensButCannotBeReadRaisesAndWhatDoesNotOpenDoesNot) {
   EXPECT_EQ(session.GetReport().Of(ImportFile::kTraces).end, ReadingEnd::kNotOpened);
 }
 
-/// Cuts a file short when it is refreshed.
+/// A dialog that truncates a file when it is refreshed.
 class ShrinkingDialog : public CWnd {
  public:
   ShrinkingDialog(std::string path, long size) : path_(std::move(path)), size_(size) {}

@@ -18,7 +18,7 @@ std::string WholeBoard() {
   return test::DescribedModels(session);
 }
 
-/// Counts its messages, and answers each by two more until there were enough.
+/// Counts its messages and posts two more for each, up to a limit.
 class Storm : public CWnd {
  public:
   LRESULT WindowProc(UINT message, WPARAM /*wParam*/, LPARAM /*lParam*/) override {
@@ -31,7 +31,7 @@ class Storm : public CWnd {
   int received = 0;
 };
 
-TEST(UnrulyHost, AStormOfMessagesIsWorkedOffBeforeTheNextLine) {
+TEST(UnrulyHost, AStormOfMessagesIsDispatchedBeforeTheNextLine) {
   Storm storm;
   PostMessageA(storm.GetSafeHwnd(), WM_USER, 0, 0);
   CPC_KESTRIN_GET session;
@@ -41,8 +41,8 @@ TEST(UnrulyHost, AStormOfMessagesIsWorkedOffBeforeTheNextLine) {
   EXPECT_EQ(PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE), FALSE);
 }
 
-/// A host's dialog that keeps posting itself messages, and does something when it is called for the n-th
-/// time: to receive a message, to be refreshed or to move a bar.
+/// A host's dialog that keeps posting messages to itself and performs an action when it is called for the
+/// n-th time: to receive a message, to be refreshed, or to move a bar.
 class ActingDialog : public CWnd {
  public:
   ActingDialog(int number, std::function<void()> act) : number_(number), act_(std::move(act)) { Post(); }
@@ -70,7 +70,7 @@ class ActingDialog : public CWnd {
   void Post() { PostMessageA(GetSafeHwnd(), WM_USER, 0, 0); }
   BOOL Called() {
     if (--number_ != 0) return TRUE;
-    const std::function<void()> act = act_;  // which outlives the dialog if that goes
+    const std::function<void()> act = act_;  // a copy, because the action may destroy the dialog
     act();
     return TRUE;
   }
@@ -81,7 +81,7 @@ class ActingDialog : public CWnd {
   Bar bars_[4] = {Bar(*this), Bar(*this), Bar(*this), Bar(*this)};
 };
 
-TEST(UnrulyHost, AHandlerThatThrowsEndsTheImportAndTheSessionReadsOn) {
+TEST(UnrulyHost, AHandlerThatThrowsEndsTheImportAndTheSessionStaysUsable) {
   const std::string whole = WholeBoard();
   int number = 1;
   for (bool acted = true; acted; number += 7) {

@@ -25,7 +25,7 @@ using test::FailingAllocations;
 using test::SourceOf;
 using Which = FailingAllocations::Which;
 
-/// Runs it with an allocation that fails. Whether std::bad_alloc came out.
+/// Runs a function with failing allocations. Returns whether it threw std::bad_alloc.
 bool RunsOut(const std::function<void()>& run, std::int64_t succeeding, Which which) {
   const FailingAllocations failing(succeeding, which);
   try {
@@ -49,7 +49,7 @@ struct Host {
   CProgressCtrl bar{&dialog};
 };
 
-/// Files are read one after the other, and at most one of them stopped.
+/// Expects complete files, then at most one whose reading stopped, then files that were not read.
 void ExpectReportOfAnImportThatStopped(const ImportReport& report) {
   bool stopped = false;
   for (const ImportFile file :
@@ -61,10 +61,10 @@ void ExpectReportOfAnImportThatStopped(const ImportReport& report) {
   EXPECT_TRUE(stopped);
 }
 
-TEST(OutOfMemory, AnImportLetsItThroughAndTheSessionReadsOn) {
+TEST(OutOfMemory, AnImportPassesItOnAndTheSessionStaysUsable) {
   std::string whole;
   std::int64_t allocations = 0;
-  for (int round = 0; round < 2; ++round) {  // the first makes what lasts as long as the process
+  for (int round = 0; round < 2; ++round) {  // the first round allocates what lasts as long as the process
     CPC_KESTRIN_GET session;
     const Host host(session);
     allocations = AllocationsOf([&] { test::ImportBoard(session); });
@@ -88,7 +88,7 @@ TEST(OutOfMemory, AnImportLetsItThroughAndTheSessionReadsOn) {
   }
 }
 
-TEST(OutOfMemory, AMessageThatFindsNoRoomRaisesAndTheOthersArrive) {
+TEST(OutOfMemory, APostThatRunsOutOfMemoryThrowsAndTheOthersArrive) {
   struct Counter : CWnd {
     LRESULT WindowProc(UINT /*message*/, WPARAM /*wParam*/, LPARAM /*lParam*/) override { return ++received; }
     int received = 0;
@@ -104,7 +104,7 @@ TEST(OutOfMemory, AMessageThatFindsNoRoomRaisesAndTheOthersArrive) {
   EXPECT_EQ(window.received, posted);
 }
 
-TEST(OutOfMemory, TheStrictReaderSaysThatMemoryEndedTheParse) {
+TEST(OutOfMemory, TheStrictReaderReportsThatMemoryRanOut) {
   const std::string board = test::ContentOf(test::BoardFile("traces"));
   const std::string whole = test::Described(*ParseStrictly(SourceOf(board)).traces);
   ByteSource counted = SourceOf(board);
@@ -118,7 +118,7 @@ TEST(OutOfMemory, TheStrictReaderSaysThatMemoryEndedTheParse) {
         std::optional<StrictParse> parse;
         ByteSource source = SourceOf(board);
         const bool ranOut = RunsOut([&] { parse = ParseStrictly(std::move(source)); }, number, which);
-        // Without memory for the text of the error the exception itself comes out.
+        // If there is no memory for the text of the error, the exception is passed on.
         EXPECT_TRUE(ranOut ? which == Which::kAllFromThere || number == 0
                            : parse->result == ParseResult::kExhausted);
         EXPECT_TRUE(ranOut || !parse->error.empty());
@@ -129,7 +129,7 @@ TEST(OutOfMemory, TheStrictReaderSaysThatMemoryEndedTheParse) {
   EXPECT_EQ(test::Described(*ParseStrictly(SourceOf(board)).traces), whole);
 }
 
-/// Parses files and takes the models that are handed over.
+/// Parses files and takes over their models.
 struct Parsing {
   bool Succeeds(std::string path) {
     MPTracesParser parser(path.data());
@@ -138,7 +138,7 @@ struct Parsing {
     if (parser.GetTraces() != traces.get()) traces.reset(parser.GetTraces());
     return result == 0;
   }
-  std::unique_ptr<CMTraces> traces;  // kept until there is another: no new one has its address
+  std::unique_ptr<CMTraces> traces;  // kept until the next one exists, so that their addresses differ
 };
 
 TEST(OutOfMemory, TheParserOfAFileLosesNoModel) {
@@ -150,7 +150,7 @@ TEST(OutOfMemory, TheParserOfAFileLosesNoModel) {
   testing::internal::CaptureStderr();
   ASSERT_TRUE(parsing.Succeeds(path));
   const std::int64_t allocations = AllocationsOf([&] { ASSERT_TRUE(parsing.Succeeds(faulty)); });
-  ASSERT_TRUE(parsing.Succeeds(path));  // nothing is left of the text of the error
+  ASSERT_TRUE(parsing.Succeeds(path));  // frees the text of the error
   const std::int64_t alive = AllocationsSoFar().alive;
   for (std::int64_t number = 0; number < allocations; ++number) {
     const auto parse = [&] { EXPECT_FALSE(parsing.Succeeds(faulty)); };

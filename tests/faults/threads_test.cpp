@@ -22,7 +22,7 @@ namespace {
 constexpr int kThreads = 3;
 constexpr int kRounds = 3;
 
-/// Runs it in several threads at once, several times in each.
+/// Runs a function in several threads at once, several times in each.
 void InThreads(const std::function<void()>& run) {
   std::vector<std::thread> threads;
   threads.reserve(kThreads);
@@ -59,7 +59,7 @@ TEST(Threads, StrictParsesRunAtOnce) {
   });
 }
 
-TEST(Threads, ModelsAreReadAndLetGoOfAtOnce) {
+TEST(Threads, ModelsAreReadAndReleasedAtOnce) {
   auto session = std::make_unique<CPC_KESTRIN_GET>();
   test::ImportBoard(*session);
   const std::string whole = test::DescribedModels(*session);

@@ -72,7 +72,7 @@ TEST(Array, AppendingMillionsKeepsEveryElement) {
   for (std::intptr_t i = 0; i < kCount; ++i) ASSERT_EQ(array[i], i);
 }
 
-TEST(Array, RaisesForIndexesOutsideAndStaysAsItWas) {
+TEST(Array, RaisesForIndexesOutsideAndIsUnchanged) {
   constexpr auto kHuge = std::numeric_limits<std::int64_t>::max();
   Numbers array{1, 2, 3};
   const Numbers other{4};
@@ -115,7 +115,7 @@ TEST(Array, InsertsRemovesAppendsAndCopies) {
   EXPECT_EQ(Elements(array), (List{4, 4, 5, 5}));
 }
 
-/// A value that can be copied but not moved, and only so many times.
+/// A value that cannot be moved, and copied only a limited number of times.
 class CostlyValue {
  public:
   CostlyValue() { ++alive; }
@@ -149,7 +149,7 @@ std::vector<int> NumbersOf(const CostlyArray& array) {
   return numbers;
 }
 
-/// Does something to arrays of 1 to 5 with ever more copies allowed, until it succeeds.
+/// Changes an array of the numbers 1 to 5, allowing one more copy each time until the change succeeds.
 template <class Change>
 void TryWithEverMoreCopies(bool undoes, Change change, const std::vector<int>& expected) {
   for (int copies = 0;; ++copies) {
@@ -174,7 +174,7 @@ void TryWithEverMoreCopies(bool undoes, Change change, const std::vector<int>& e
   }
 }
 
-TEST(Array, OutlivesElementsWhoseCopyRaises) {
+TEST(Array, StaysValidIfCopyingAnElementThrows) {
   constexpr bool kUndoes = true;
   using Values = std::vector<int>;
   TryWithEverMoreCopies(
@@ -215,7 +215,7 @@ TEST(StringArray, TakesItsOwnElements) {
   for (const CString& string : array) EXPECT_EQ(string, "ten bytes.");
 }
 
-TEST(StringArray, HoldsValuesThroughGrowthAndGaps) {
+TEST(StringArray, KeepsValuesThroughGrowthAndGaps) {
   CStringArray array;
   for (int i = 0; i < 50; ++i)
     array.SetAtGrow(i, CString(std::to_string(i) + " is longer than fits in place"));

@@ -5,7 +5,7 @@
 namespace kestrin {
 namespace {
 
-TEST(SlotBuffer, ComesInPowersOfTwoWhereAnArrayGrowsByOneAndThenInEighths) {
+TEST(SlotBuffer, GrowsByPowersOfTwoAndThenByEighthsIfAnArrayGrowsByOne) {
   struct Case {
     std::int64_t capacity;
     std::int64_t slots;

@@ -43,7 +43,7 @@ TEST(StdioFile, ReadsLinesOfAnyBytesAndAnyLength) {
   }
 }
 
-TEST(StdioFile, ALineFeedMayStandOnEitherSideOfABlock) {
+TEST(StdioFile, ALineFeedMayBeAtEitherEndOfABlock) {
   const test::TemporaryFolder folder;
   for (int length = 262140; length < 262148; ++length) {
     const std::string first(static_cast<std::size_t>(length), 'a');
@@ -62,13 +62,13 @@ TEST(StdioFile, ALineFeedMayStandOnEitherSideOfABlock) {
 
 TEST(StdioFile, AReadErrorIsAnException) {
   CStdioFile file;
-  ASSERT_NE(file.Open("/proc/self/mem"), 0);  // opens, but has nothing at its start
+  ASSERT_NE(file.Open("/proc/self/mem"), 0);  // can be opened, but not read at its start
   CString line;
   EXPECT_THROW(file.ReadString(line), CFileException);
   EXPECT_EQ(CountLines("/proc/self/mem"), 1);
 }
 
-TEST(StdioFile, OpensNeitherWhatIsMissingNorAFolder) {
+TEST(StdioFile, OpensNeitherAMissingFileNorAFolder) {
   const test::TemporaryFolder folder;
   for (const std::string& path : {folder.Path("missing"), folder.Path(), ""s}) {
     CStdioFile file;

@@ -15,7 +15,7 @@
 namespace kestrin {
 namespace {
 
-TEST(String, GivesBytesUpToAndIncludingTheEnd) {
+TEST(String, ReadsBytesUpToAndIncludingTheEnd) {
   const CString text("ab");
   EXPECT_EQ(text[1], 'b');
   EXPECT_EQ(text.GetAt(2), '\0');
@@ -94,7 +94,7 @@ TEST(String, TokenizesUntilTheStartIsMinusOne) {
 TEST(String, KeepsShortAndLongTextsThroughCopiesAndGrowth) {
   CString grown;
   std::string expected;
-  for (const char c : {'a', 'b', '\0', 'c'}) {  // over the 15 bytes that stand in the object
+  for (const char c : {'a', 'b', '\0', 'c'}) {  // beyond the 15 bytes that fit into the object
     for (int i = 0; i < 5; ++i) grown += c;
     expected.append(5, c);
     ASSERT_EQ(grown.View(), expected);
@@ -115,12 +115,12 @@ TEST(String, KeepsShortAndLongTextsThroughCopiesAndGrowth) {
   static_assert(sizeof(CString) == 16);
 }
 
-TEST(String, CopiesOfLongTextsBehaveLikeTextsOfTheirOwn) {
+TEST(String, CopiesOfLongTextsAreIndependent) {
   const std::string text(100, 'a');
   const auto changed = [&](auto change) {
     const CString original(text);
     CString copy(original);
-    EXPECT_EQ(copy.GetString(), original.GetString());  // they share the bytes until one changes
+    EXPECT_EQ(copy.GetString(), original.GetString());  // shared until one of them changes
     change(copy);
     EXPECT_EQ(original.View(), text);
     return copy;
@@ -187,13 +187,13 @@ TEST(String, KeepsItsLengthWhileItsBufferIsLent) {
   }
 }
 
-TEST(String, ReleasesItsBufferWithinTheRoomOnly) {
+TEST(String, ReleasesItsBufferOnlyUpToItsSize) {
   CString text("ab");
   EXPECT_THROW(text.ReleaseBuffer(3), CInvalidArgException);
   std::fill_n(text.GetBuffer(5), 5, 'c');
   EXPECT_THROW(text.ReleaseBuffer(6), CInvalidArgException);
   EXPECT_THROW(text.ReleaseBuffer(-2), CInvalidArgException);
-  EXPECT_EQ(text.GetBuffer(500), std::string("ccccc"));  // what was written stays as the room grows
+  EXPECT_EQ(text.GetBuffer(500), std::string("ccccc"));  // what was written is kept as the buffer grows
   text.ReleaseBuffer(4);
   EXPECT_EQ(text, "cccc");
   text.ReleaseBuffer(1);

@@ -12,7 +12,7 @@ namespace {
 
 using test::Described;
 
-/// Create commands by the word that starts a case.
+/// Create commands, by the word at the start of a case.
 const std::map<std::string, std::string> kOpenings = {
     {"none", ""},
     {"locked", "$$lock_windows()\n"},
@@ -28,7 +28,7 @@ const std::map<std::string, std::string> kOpenings = {
     {"stackup", "$$create_stackup(S)\n"},
 };
 
-/// The lines of attributes, cut at "|", in a geometry; "pending" stands for the pending points 7, "", 9.
+/// The lines of attributes, separated by "|", in a geometry. "pending" means the pending points 7, "", 9.
 struct Case {
   const char* opened;
   const char* attributes;
@@ -86,7 +86,7 @@ TEST(GeometryAttributes, FillTheBoundBoardInEveryKind) {
        "board{routingOutline=[3 4]}"},
       {"locked", "BOARD_ROUTING_OUTLINE, [1, 2]|BOARD_ROUTING_OUTLINE", ""},
       {"locked", "pending|BOARD_ROUTING_OUTLINE, 5]", "board{routingOutline=[7 0 9]}"},
-      // without a bound board nothing happens at all
+      // without a bound board, nothing happens
       {"pin", "pending|BOARD_PLACEMENT_OUTLINE, [1]|BOARD_ROUTING_OUTLINE|TERMINAL_DRILL_SIZE",
        "pin{drillSize=7}"},
   });
@@ -194,10 +194,9 @@ TEST(GeometryAttributes, FillPinsAndVias) {
   });
 }
 
-/// What a line does to the pending points, and whether it is said to be lost, in every kind of geometry: an
-/// upper-case letter for a kind that keeps it, "." for one where it is skipped; then "!" if it leaves the
-/// pending points in some kind.
-TEST(GeometryAttributes, AreKeptAndUsePendingPointsUpByKind) {
+/// The effect of an attribute in every kind of geometry: an upper-case letter for a kind that imports it, "."
+/// for one where the line is skipped. Then "!" if it leaves the pending points alone in any kind.
+TEST(GeometryAttributes, AreKeptAndConsumePendingPointsByKind) {
   struct Row {
     const char* attribute;
     const char* kinds;
@@ -251,7 +250,7 @@ TEST(GeometryAttributes, AreKeptAndUsePendingPointsUpByKind) {
   }
 }
 
-TEST(GeometryAttributes, TellWhatBecameOfALine) {
+TEST(GeometryAttributes, ReportTheOutcomeOfALine) {
   struct Line {
     const char* line;
     const char* outcome;

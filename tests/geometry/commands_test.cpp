@@ -12,7 +12,7 @@ namespace {
 
 using test::Described;
 
-/// What a text is read into.
+/// A text and the model that it makes.
 std::string ModelOf(const std::string& text) {
   CMGeom geom;
   GeometryReader reader(geom);
@@ -28,7 +28,7 @@ struct Case {
 TEST(GeometryCommands, OpenGeometriesByName) {
   const Case cases[] = {
       {"$$create_probe(P)\n$$create_test_fixture(F)", ""},
-      // the name is all there is but for quotes at the ends and parentheses and semicolons at the right one
+      // the name is the whole text without quotes at either end, and without ")" and ";" at the right end
       {"$$create_pin(\"U1\", x)", "pin{name=[U1\", x]}"},
       {"$$create_pin( \"U1\" );", "pin{name=[ \"U1\" ]}"},
       {"$$create_pin(\"\"U(1)\"\"););)", "pin{name=U(1)}"},
@@ -59,8 +59,8 @@ TEST(GeometryCommands, FillTheGeometryThatTheLastCreateCommandLeavesOpen) {
       {pin + "$$create_stackup(S)\n" + rest,
        "stackup{name=S units=MM} pin{CIRCLE{layer=A} CIRCLE{layer=B} name=P text{layer=T} add{C}}"},
       {pin + "$$lock_windows()\n$$page(@cm)", "pin{CIRCLE{layer=A} name=P units=CM}"},
-      // of an unknown geometry, only the drawing objects are kept, in the one before; its unit too, but for
-      // drawings
+      // of an unknown geometry, only the drawing objects are kept, in the geometry before it; so is its unit,
+      // except after a drawing
       {pin + "$$create_widget(W)\n" + rest, "pin{CIRCLE{layer=A} CIRCLE{layer=B} name=P units=MM}"},
       {pin + "$$x$$Create_(W)\n" + rest, "pin{CIRCLE{layer=A} CIRCLE{layer=B} name=P units=MM}"},
       {pin + "$$create_via (W)\n" + rest, "pin{CIRCLE{layer=A} CIRCLE{layer=B} name=P units=MM}"},
@@ -97,7 +97,7 @@ TEST(GeometryCommands, FillGeometriesOfEveryKind) {
   }
 }
 
-/// The lines inside a drawing, and what they make of it.
+/// Lines in a drawing, and the model that they make.
 TEST(GeometryCommands, DrawAndWrite) {
   const Case cases[] = {
       // path: width from the raw value; a later "[" opens the list again, and "]" counts without one
@@ -111,13 +111,13 @@ TEST(GeometryCommands, DrawAndWrite) {
       {"$$path( , ,, [1, 2])", "LINE{coords=[1 2]}"},
       {"$$path()", "LINE{}"},
       {"$$template_path_width(8)\n$$path(L)", "LINE{layer=L}"},
-      // polygon: stops at the first "]" of the open list, empty values do not count
+      // polygon: stops at the first "]" of the open list; empty values do not count
       {R"($$polygon("L", [0, 0, 1, 0, 1, 1]);)", "POLYGON{layer=L coords=[0 0 1 0 1 1]}"},
       {R"($$polygon("L", [0,0, 1,0], [5,5]))", "POLYGON{layer=L coords=[0 0 1 0]}"},
       {R"($$polygon("L", 7], 8, [1, "", [2, x], 3))", "POLYGON{layer=L coords=[1 2 0]}"},
       {"$$polygon(L, [, 1, ])", "POLYGON{layer=L coords=[0 1 0]}"},
       {"$$polygon(\"\", [1, 2])", "POLYGON{coords=[1 2]}"},
-      // arc and circle: raw numbers, empty values leave what was there
+      // arc and circle: raw numbers; empty values leave the number unchanged
       {"$$arc(L, 1, 2, 3, 4, 5, 6, 7, @radius)",
        "ARC{layer=L x1=1 y1=2 x2=3 y2=4 x3=5 y3=6 width=7 arcMode=1}"},
       {"$$template_path_width(( 8) )\n$$arc(L, \"1\", 2, , 4, 5, 6, , x@center, @Radius, y)",
@@ -125,7 +125,7 @@ TEST(GeometryCommands, DrawAndWrite) {
       {"$$arc(L, @radius, @center)", "ARC{layer=L}"},
       {"$$circle(L, 1, 2, 3, 4, 5)", "CIRCLE{layer=L x=1 y=2 size=3 width=4}"},
       {"$$template_path_width(8x)\n$$circle(L, 1, \"2\", 3, \"\")", "CIRCLE{layer=L x=1 size=3 width=8}"},
-      // text: commas in quotes do not separate, the angle is whole, empty values leave the default
+      // text: commas in quotes do not separate, the angle is an integer, empty values leave the default
       {"$$text(L, \"a, b\", 1, 2, 3, @CC, 45.9, 4, 5, six, 7, 8, 9, @Mirror, @NOMirror, x)",
        "text{layer=L text=[a, b] x=1 y=2 size=3 justification=@CC angle=45 8=(4 5 six 7 8 9) "
        "mirror=@NOMirror}"},
@@ -146,23 +146,23 @@ TEST(GeometryCommands, DrawAndWrite) {
   }
 }
 
-/// What the pending points are is seen by a path; 1 and 2 stand for the lines of the case.
-TEST(GeometryCommands, GatherPendingPoints) {
+/// A path after the lines of the case shows the pending points.
+TEST(GeometryCommands, CollectPendingPoints) {
   const Case cases[] = {
       {"$$initial([0, 0])\n$$terminal([10, 0])", "0 0 10 0"},
       {"$$initial([1])\n$$initial([2])", "2"},
       {"$$terminal([1, 2])\n$$terminal([3])", "1 2 3"},
-      // without "[" all before "]"; without "]", or with "]" first, nothing
+      // without "[", everything before "]"; without "]", or with "]" first, nothing
       {"$$terminal(1, 2])", "1 2"},
       {"$$terminal([1, 2)", ""},
       {"$$terminal(]1[, 2])", ""},
       {"$$terminal([1, [2], 3])", "1 0"},
-      // blanks inside numbers go in terminal only; empty values do not count in a path
+      // only $$terminal removes blanks inside numbers; empty values do not count in a path
       {"$$initial([1 0, , \"3 0\"])", "1 3"},
       {"$$terminal([1 0, , \"3 0\", \" \", \"\"])", "10 30"},
       {"$$initial([\" \", \"5\"])", "0 5"},
       {"$$terminal([\t1\t])", "1"},
-      // what leaves them alone, and what uses them up
+      // commands that leave them alone, and commands that consume them
       {"$$initial([1])\n$$text(L)\n$$add(A)\n$$page(@mm)\n$$create_pin(P)\n$$create_drawing(D)", "1"},
       {"$$initial([1])\n$$circle(L, 1)", ""},
       {"$$initial([1])\n$$arc(L)", ""},
@@ -180,7 +180,7 @@ TEST(GeometryCommands, GatherPendingPoints) {
   }
 }
 
-TEST(GeometryCommands, UsePendingPointsWhereTheLineHasNone) {
+TEST(GeometryCommands, UsePendingPointsIfTheLineHasNone) {
   const std::string pending = "$$create_drawing()\n$$initial([1, \"\", 3, 4, 5, 6, 7])\n";
   const Case cases[] = {
       {"$$path(L, 2)", "LINE{layer=L width=2 coords=[1 3 4 5 6 7]}"},
@@ -198,7 +198,7 @@ TEST(GeometryCommands, UsePendingPointsWhereTheLineHasNone) {
   }
 }
 
-TEST(GeometryCommands, TellWhatBecameOfALine) {
+TEST(GeometryCommands, ReportTheOutcomeOfALine) {
   struct Line {
     const char* text;
     const char* outcome;

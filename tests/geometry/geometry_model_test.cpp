@@ -28,7 +28,7 @@ TEST(GeometryModel, BeginsEmptyWithItsDefaults) {
   EXPECT_EQ(Described(CMGeomCircle()), "CIRCLE{}");
 }
 
-TEST(GeometryModel, DrawingObjectsGoWithTheirArray) {
+TEST(GeometryModel, DrawingObjectsAreDeletedWithTheirArray) {
   int deleted = 0;
   struct Counted : CMGeomPath {
     explicit Counted(int& count) : count_(count) {}

@@ -19,7 +19,7 @@ TEST(GeometryText, ConvertsToTheTextConventionsOfHosts) {
     const char* reading = "";
   };
   const Case cases[] = {
-      // which layers are mirrored, and what overrules it
+      // the layers that are mirrored, and what overrides it
       {"PAD_1", "", 0, "@CC", 0, 0, 5},
       {"PAD_1", "@Mirror", 0, "@CC", 1, 0, 5},
       {"PAD_1", "x@Mirrored", 0, "@CC", 1, 0, 5},
@@ -40,7 +40,7 @@ TEST(GeometryText, ConvertsToTheTextConventionsOfHosts) {
       {"TOP", "", 0, "", 0, 0, 7},
       {"TOP", "", 0, "CC", 0, 0, 7},
       {"TOP", "", 0, "@CC ", 0, 0, 7},
-      // what would read upside down is turned, and its anchor with it
+      // text that would be upside down is turned, and so is its anchor
       {"TOP", "", 90, "@TL", 0, 90, 1},
       {"TOP", "", 90.5, "@TL", 0, 90.5, 1},
       {"TOP", "", 91, "@TL", 0, -89, 9},
@@ -77,7 +77,7 @@ TEST(GeometryText, ConvertsToTheTextConventionsOfHosts) {
   }
 }
 
-TEST(GeometryText, KnowsTheBottomLayersWhateverTheirCase) {
+TEST(GeometryText, RecognizesBottomLayersInAnyCase) {
   const CMGeomText text;
   for (const char* name : {"SILKSCREEN_2", "BREAKOUT_2", "DRAWING_2", "GLUE_MASK_2", "PAD_2", "PASTE_MASK_2",
                            "PLACE_2", "SOLDER_MASK_2", "THERMAL_2", "silkscreen_2"}) {

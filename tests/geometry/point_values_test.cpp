@@ -19,8 +19,8 @@ Numbers Read(std::string_view text, Next next) {
   return numbers;
 }
 
-/// Plain values are read in one step. The result must be that of the general way.
-TEST(PointValues, AreTheSameHoweverTheyAreRead) {
+/// Plain values have a fast path. Its results must equal those of the general path.
+TEST(PointValues, AreTheSameOnTheFastAndTheGeneralPath) {
   const std::string pieces[] = {"", " ", "[", "]", "1", "-2.5", "\"", "x", "1e2", "\t"};
   std::string text;
   for (const std::string& a : pieces) {
@@ -36,7 +36,7 @@ TEST(PointValues, AreTheSameHoweverTheyAreRead) {
       (Numbers{{1, false, Bracket::kOpening}, {2, false, Bracket::kClosing}, {3, false, Bracket::kNone}}));
 }
 
-TEST(PointValues, AreFoundWhateverWasAskedForBefore) {
+TEST(PointValues, AreFoundWhateverWasReadBefore) {
   const std::string_view text = "A,B,,1,2,3";
   for (std::size_t from = 1; from <= 8; ++from) {
     for (std::size_t asked = 0; asked <= 8; ++asked) {

@@ -1,8 +1,8 @@
 #!/bin/bash
 # Installs the Debian packages in a bare Debian 12 and uses them there: the tool on the sample board, the library in
-# the example host through find_package, shared and static, and through pkg-config. Nothing of the sources goes in but
-# the examples and these tests. It needs root, the network and debootstrap, so it is run by hand, on a Debian 12 whose
-# apt configuration the bare one takes over, behind a build:
+# the example host through find_package, shared and static, and through pkg-config. Of the sources, only the examples
+# and these tests are copied in. It needs root, the network and debootstrap, so run it by hand after a build, on a
+# Debian 12 whose apt configuration the bare one copies:
 #     sudo tests/install/debian_test.sh build/release [MIRROR]
 set -euo pipefail
 build=$(cd "$1" && pwd) mirror=${2:-http://deb.debian.org/debian}

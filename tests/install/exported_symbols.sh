@@ -1,12 +1,12 @@
 #!/bin/bash
-# Compares what the shared library shows with the list that is kept beside this script, so that no change of the
-# interface goes unseen. With --update it writes the list anew.
+# Compares the symbols that the shared library exports with the list beside this script, so that no change of the
+# interface goes unnoticed. With --update, rewrites the list.
 # Arguments: the shared library.
 set -euo pipefail
 list=$(dirname "$0")/exported_symbols.txt
 
-# Functions, and the tables of classes that are used through their virtual functions. Instantiations of the standard
-# library's templates are no promise.
+# Functions and virtual tables of the library. Instantiations of the standard library's templates are not part of the
+# interface.
 shown() {
   nm --dynamic --defined-only --demangle "$1" | cut -d' ' -f3- | grep -E '^(vtable for )?kestrin::' |
     sed 's/\[abi:[^]]*\]//' | LC_ALL=C sort -u

@@ -1,6 +1,6 @@
 #!/bin/bash
-# Compiles every installed header and every program in the documents alone, with the warnings that a careful host asks
-# for; and tries what the headers promise at compile time.
+# Compiles every installed header and every program in the documents on its own, with the warnings that a careful host
+# enables, and checks what the headers promise at compile time.
 # Arguments: the build tree, the C++ compilers.
 set -euo pipefail
 build=$1
@@ -19,7 +19,7 @@ for header in $headers; do echo "#include <$header>" >"${header//\//-}.cpp"; don
 awk '/^```/ { shown = /^```cpp/; file = "shown-" ++count ".cpp"; next } shown { print >file }' \
   "$source"/README.md "$source"/docs/integration.md
 
-# Other headers have macros of these names, whether they come first or last.
+# Other headers define macros with these names. They may be included before or after the library's.
 cat >host.inc <<'END'
 struct Window : kestrin::CWnd {
   kestrin::BOOL UpdateData(kestrin::BOOL save) override { return save == FALSE ? TRUE : CWnd::UpdateData(); }
@@ -29,7 +29,7 @@ macros=$'#define FALSE (0)\n#define TRUE 1'
 printf '%s\n' "$macros" '#include <kestrin/kestrin.h>' '#include "host.inc"' >macros-first.cpp
 printf '%s\n' '#include <kestrin/kestrin.h>' "$macros" '#include "host.inc"' >macros-last.cpp
 printf '%s\n' '#include <kestrin/kestrin.h>' 'namespace kestrin {' '#include "host.inc"' '}' >no-macros.cpp
-# What does not compile, with a part of the message.
+# Code that must not compile, with a part of the message.
 refused=(
   'text.Format("%s", name)' 'CString only'
   'text.Format("%s %s", text, name)' 'CString only'

@@ -1,6 +1,6 @@
 #!/bin/bash
-# Takes the library's sources into the build of a host: it gets the library, shared and static, and neither the tool
-# nor tests nor benchmarks. Unoptimised, for it is quicker.
+# Adds the library's sources to the build of a host: it builds the library, shared and static, but no tool, tests or
+# benchmarks. Builds without optimization because that is faster.
 # Arguments: the source tree, the C++ compiler.
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)

@@ -179,17 +179,17 @@ TEST(NeutralReader, SelectsTheSectionsOfThePlacementThatQualifies) {
   }
 }
 
-TEST(NeutralReader, TheNameOfTheBoardIsLookedUpOnce) {
+TEST(NeutralReader, LooksUpTheNameOfTheBoardOnce) {
   Import import;
   Feed(import.reader, "###Board Information\nBOARD " + std::string(8'000'000, 'A') + " 2 3 4 5 6");
-  for (int i = 0; i < 1'000'000; ++i) import.reader.ReadLine("BOARD x");  // each of which selects anew
+  for (int i = 0; i < 1'000'000; ++i) import.reader.ReadLine("BOARD x");  // each updates the selection
   EXPECT_EQ(import.selection.ordinal, 1);
 }
 
-TEST(NeutralReader, SaysWhyALineIsSkipped) {
+TEST(NeutralReader, ReportsWhyALineIsSkipped) {
   struct OutcomeCase {
     const char* line;
-    const char* reason;  // null for a line that is not skipped
+    const char* reason;  // null if the line is not skipped
   };
   const OutcomeCase cases[] = {
       {"", nullptr},

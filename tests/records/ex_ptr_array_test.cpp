@@ -14,7 +14,7 @@ namespace {
 
 using test::Elements;
 
-/// A record that writes its name down when it is deleted.
+/// A record that logs its name when it is deleted.
 struct Record {
   Record(char newName, std::string& newLog) : name(newName), log(newLog) {}
   Record(const Record&) = delete;
@@ -44,7 +44,7 @@ class ExPtrArray : public testing::Test {
 
 using Records = std::vector<Record*>;
 
-TEST_F(ExPtrArray, AnswersNullFalseOrMinusOneToWhatItDoesNotHave) {
+TEST_F(ExPtrArray, ReturnsNullFalseOrMinusOneForWhatItDoesNotHave) {
   Array array{a, b, a};
   EXPECT_EQ(array.GetAt(1), b);
   EXPECT_EQ(array.GetAt(-1), nullptr);
@@ -129,7 +129,7 @@ TEST_F(ExPtrArray, DeletesOnlyByItsDeleteOperations) {
   EXPECT_EQ(array.GetData(), nullptr);
 }
 
-/// A record that writes down, when it is deleted, the names that its array holds then.
+/// A record that logs the names of all records in its array when it is deleted.
 struct Observer : Record {
   Observer(char newName, std::string& newLog, Array& newArray) : Record(newName, newLog), array(newArray) {}
   Observer(const Observer&) = delete;
@@ -141,10 +141,10 @@ struct Observer : Record {
   Array& array;
 };
 
-TEST_F(ExPtrArray, DestructorsFindTheirRecordInTheArrayAndNoneThatIsGone) {
+TEST_F(ExPtrArray, DestructorsSeeTheirRecordInTheArrayButNoneDeletedBefore) {
   struct Case {
     void (*remove)(Array&);
-    std::string seen;  // by each destructor, and its name
+    std::string seen;  // for each destructor: the contents of the array, then the record's name
   };
   const Case cases[] = {
       {[](Array& array) { array.Delete(array.GetAt(1)); }, "12345 2"},

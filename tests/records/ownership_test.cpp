@@ -14,8 +14,8 @@ namespace kestrin {
 namespace {
 
 /// A record that adds its name to a log when it is deleted.
-template <class RECORD = CObject>
-class Logged : public RECORD {
+template <class Parent = CObject>
+class Logged : public Parent {
  public:
   Logged(const char* name, std::string& log) : name_(name), log_(log) {}
   Logged(const Logged&) = delete;
@@ -27,9 +27,9 @@ class Logged : public RECORD {
   std::string& log_;
 };
 
-template <class RECORD = CObject>
-Logged<RECORD>* New(const char* name, std::string& log) {
-  return std::make_unique<Logged<RECORD>>(name, log).release();
+template <class Parent = CObject>
+Logged<Parent>* New(const char* name, std::string& log) {
+  return std::make_unique<Logged<Parent>>(name, log).release();
 }
 
 class TwoLists : private OwnedLists<2> {
@@ -48,7 +48,7 @@ TEST(OwnedLists, DeleteTheirRecordsListByListInTheOrderInWhichTheyWereMade) {
     record.m_pMadeFirst->Add(New("first ", deleted));
     record.m_pMadeFirst->Add(nullptr);
     record.m_pMadeFirst->Add(New("second ", deleted));
-    record.m_pMadeFirst = nullptr;  // the pointer does not own
+    record.m_pMadeFirst = nullptr;  // the pointer is not the owner
   }
   EXPECT_EQ(deleted, "first second last ");
 }
@@ -59,7 +59,7 @@ class TooManyLists : private OwnedLists<1> {
   RecordArray<Logged<>>* m_pSecond = MakeList();
 };
 
-TEST(OwnedLists, RefuseAListThatThereIsNoRoomFor) { EXPECT_THROW(TooManyLists(), std::logic_error); }
+TEST(OwnedLists, RejectAListThatThereIsNoRoomFor) { EXPECT_THROW(TooManyLists(), std::logic_error); }
 
 static_assert(!std::is_copy_constructible_v<CMTracesNET> && !std::is_copy_assignable_v<CMTracesNET>);
 static_assert(!std::is_copy_constructible_v<CMNetInfo> && !std::is_copy_assignable_v<CMGeomBoard>);
@@ -90,7 +90,7 @@ TEST(SharedRoots, DeleteTheirRecordsWithTheLastCopy) {
       geom.m_pStackup->m_pLayers->Add(std::make_unique<CMGeomLayerDEF>().release());
       copy = geom;
     }
-    const CMGeomStackup stackup = *copy.m_pStackup;  // keeps the layers longer than the root
+    const CMGeomStackup stackup = *copy.m_pStackup;  // outlives the root and keeps the layers alive
     copy = CMGeom();
     EXPECT_EQ(deleted, "panel ");
     EXPECT_EQ(stackup.m_pLayers->GetSize(), 1);

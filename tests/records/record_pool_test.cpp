@@ -26,7 +26,7 @@ struct Numbered : PooledRecord {
 
 using Records = std::vector<std::unique_ptr<Numbered>>;
 
-/// Mostly by the pool, some as hosts make them.
+/// Makes most records in the pool and some on the heap, as hosts do.
 Records MadeBy(RecordPool& pool, int count) {
   Records records;
   for (int i = 0; i < count; ++i) {
@@ -35,20 +35,20 @@ Records MadeBy(RecordPool& pool, int count) {
   return records;
 }
 
-TEST(RecordPool, RecordsOutliveItAndEndInAnyOrder) {
+TEST(RecordPool, RecordsOutliveItAndAreDeletedInAnyOrder) {
   constexpr int kCount = 50'000;
   Records records;
   {
     RecordPool pool;
     records = MadeBy(pool, kCount);
-    EXPECT_EQ(pool.Make<Numbered>(7)->number, 7);  // ends while the pool still makes records beside it
+    EXPECT_EQ(pool.Make<Numbered>(7)->number, 7);  // deleted while the pool is still in use
   }
   for (int i = 0; i < kCount; ++i) EXPECT_EQ(records[static_cast<std::size_t>(i)]->number, i);
   std::shuffle(records.begin(), records.end(), std::mt19937(1));
   records.resize(kCount / 2);
 }
 
-TEST(RecordPool, RecordsEndOnOtherThreadsWhileMoreAreMade) {
+TEST(RecordPool, RecordsAreDeletedOnOtherThreadsWhileMoreAreMade) {
   RecordPool pool;
   std::vector<std::thread> threads(4);
   for (std::thread& thread : threads) {
@@ -58,7 +58,7 @@ TEST(RecordPool, RecordsEndOnOtherThreadsWhileMoreAreMade) {
 }
 
 #ifdef KESTRIN_ADDRESS_SANITIZER
-TEST(RecordPool, TheSanitizerSeesWhoTouchesARecordThatHasEnded) {
+TEST(RecordPool, TheSanitizerReportsAccessToADeletedRecord) {
   RecordPool pool;
   const auto kept = pool.Make<Numbered>(1);
   auto ended = pool.Make<Numbered>(2);
@@ -79,25 +79,26 @@ struct Failing : Numbered {
   Failing() : Numbered(0) { throw std::runtime_error("constructor"); }
 };
 
-/// Makes a record in each way that a language has, and deletes it.
-template <class RECORD>
+/// Creates and deletes a record in every way that the language allows.
+template <class HostRecord>
 void MakeAsHostsDo() {
-  const auto isAligned = [](const RECORD& record) {
-    return reinterpret_cast<std::uintptr_t>(&record) % alignof(RECORD) == 0 && record.number == 3;
+  const auto isAligned = [](const HostRecord& record) {
+    return reinterpret_cast<std::uintptr_t>(&record) % alignof(HostRecord) == 0 && record.number == 3;
   };
-  const std::unique_ptr<RECORD> plain(new RECORD(3));  // NOLINT(modernize-make-unique): this very operator
+  const std::unique_ptr<HostRecord> plain(
+      new HostRecord(3));  // NOLINT(modernize-make-unique): this very operator
   EXPECT_TRUE(isAligned(*plain));
-  const std::unique_ptr<RECORD> nothrow(new (std::nothrow) RECORD(3));
+  const std::unique_ptr<HostRecord> nothrow(new (std::nothrow) HostRecord(3));
   EXPECT_TRUE(isAligned(*nothrow));
-  const auto shared = std::make_shared<RECORD>(3);
+  const auto shared = std::make_shared<HostRecord>(3);
   EXPECT_TRUE(isAligned(*shared));
-  alignas(RECORD) std::array<std::byte, sizeof(RECORD)> memory;
-  RECORD* const placed = new (memory.data()) RECORD(3);
+  alignas(HostRecord) std::array<std::byte, sizeof(HostRecord)> memory;
+  HostRecord* const placed = new (memory.data()) HostRecord(3);
   EXPECT_TRUE(isAligned(*placed));
   std::destroy_at(placed);
 }
 
-TEST(PooledRecord, HostsMakeItInEveryWayOfTheLanguage) {
+TEST(PooledRecord, HostsCanCreateItInEveryWay) {
   MakeAsHostsDo<Numbered>();
   MakeAsHostsDo<Aligned16>();
   MakeAsHostsDo<Aligned128>();
@@ -107,7 +108,7 @@ TEST(PooledRecord, HostsMakeItInEveryWayOfTheLanguage) {
   EXPECT_THROW(static_cast<void>(pool.Make<Failing>()), std::runtime_error);
 }
 
-TEST(PooledRecord, TakesTheMemoryThatItNeedsWhenAHostMakesIt) {
+TEST(PooledRecord, TakesNoExtraMemoryIfAHostCreatesIt) {
   const auto record = std::make_unique<Numbered>(1);
   EXPECT_LE(malloc_usable_size(record.get()), 2 * sizeof(Numbered));
 }

@@ -1,4 +1,4 @@
-// Lines as hosts write them, who know the members as plain pointers. That they compile is half of the test.
+// Code as hosts write it, with fields that are plain pointers. Half of the test is that it compiles.
 
 #include <gtest/gtest.h>
 

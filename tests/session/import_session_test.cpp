@@ -35,7 +35,7 @@ class ImportSession : public testing::Test {
   test::TemporaryFolder folder_;
 };
 
-TEST_F(ImportSession, WarnsOfTheFirstMandatoryPathThatIsMissing) {
+TEST_F(ImportSession, WarnsAboutTheFirstMissingMandatoryPath) {
   CPC_KESTRIN_GET session;
   RecordingDialog host;
   host.Attach(session);
@@ -103,7 +103,7 @@ TEST_F(ImportSession, RefreshesThroughWhicheverBarThereIs) {
   }
 }
 
-TEST_F(ImportSession, TheGeometryAndTracesReadersLetTheHostWorkOffItsMessages) {
+TEST_F(ImportSession, TheGeometryAndTracesReadersPumpTheHostsMessages) {
   CPC_KESTRIN_GET session;
   SetPaths(session);
   session.vSetTraceFilePath(folder_.File("line.traces", "UNITS MM"));
@@ -115,7 +115,8 @@ TEST_F(ImportSession, TheGeometryAndTracesReadersLetTheHostWorkOffItsMessages) {
   };
   EXPECT_EQ(eventsOf(&CPC_KESTRIN_GET::TechFileParse, session.m_sTechFilePath), 0U);
   EXPECT_EQ(eventsOf(&CPC_KESTRIN_GET::NeutralFileParse, session.m_sNeutralFilePath), 0U);
-  EXPECT_EQ(eventsOf(&CPC_KESTRIN_GET::GeomFileParse, session.m_sGeomFilePath), 3U);  // with the two before
+  EXPECT_EQ(eventsOf(&CPC_KESTRIN_GET::GeomFileParse, session.m_sGeomFilePath),
+            3U);  // including the two above
   EXPECT_EQ(eventsOf(&CPC_KESTRIN_GET::TraceFileParse, session.m_sTraceFilePath), 1U);
   EXPECT_EQ(session.GetReport().Of(ImportFile::kGeometry).Imported(), 2);
 }
@@ -148,7 +149,7 @@ TEST_F(ImportSession, AFileThatCannotBeOpenedLeavesAnEmptyRoot) {
   EXPECT_EQ(session.GetReport().Of(ImportFile::kNeutral).end, ReadingEnd::kNotOpened);
 }
 
-TEST_F(ImportSession, TheReportTellsOfTheBoardThatWasBeingRead) {
+TEST_F(ImportSession, TheReportHasTheSelectionOfTheImportThatStopped) {
   struct ThrowingDialog : CWnd {
     BOOL UpdateData(BOOL) override { throw CInvalidArgException(); }
   };
@@ -178,7 +179,7 @@ TEST_F(ImportSession, ATracesLineThatIsTooShortEndsTheImportAndKeepsWhatWasRead)
   EXPECT_EQ(session.GetReport().Of(ImportFile::kTraces).linesRead, 2);
 }
 
-TEST_F(ImportSession, CopiesShareRootsAndARootLivesAsLongAsASharer) {
+TEST_F(ImportSession, CopiesShareRootsAndKeepThemAlive) {
   auto session = std::make_unique<CPC_KESTRIN_GET>();
   SetPaths(*session);
   session->vParse();

@@ -16,7 +16,7 @@ namespace {
 using test::Events;
 using test::RecordingDialog;
 
-/// Does what the test says with every line.
+/// A reader that calls the test's function for every line.
 struct ScriptedReader {
   LineOutcome ReadLine(std::string_view line) { return script(line); }
   std::function<LineOutcome(std::string_view)> script = [](std::string_view) {
@@ -45,7 +45,7 @@ TEST(ReaderLoop, MovesTheBarByWholePercentages) {
   EXPECT_EQ(host.events, expected);
 }
 
-TEST(ReaderLoop, PositionsAreTruncatedPercentagesOfOneMoreThanTheLineFeeds) {
+TEST(ReaderLoop, PositionsAreTruncatedPercentagesOfTheLineFeedsPlusOne) {
   const test::TemporaryFolder folder;
   struct Case {
     std::string text;
@@ -78,7 +78,7 @@ TEST(ReaderLoop, ABarStopsAtTheGreatestPositionWhenAFileGrows) {
   EXPECT_EQ(host.events, (Events{"neutral bar: position 2147483647", "dialog: refresh"}));
 }
 
-TEST(ReaderLoop, DisablesTheBarAndPumpsMessagesAsTold) {
+TEST(ReaderLoop, DisablesTheBarAndPumpsMessagesIfAsked) {
   const test::TemporaryFolder folder;
   const std::string path = folder.File("text", "a\nb");
   RecordingDialog host;
@@ -109,7 +109,7 @@ TEST(ReaderLoop, WithoutADialogThereIsNoProgress) {
   EXPECT_EQ(report.linesRead, 2);
 }
 
-TEST(ReaderLoop, ReportsWhatBecameOfEveryLine) {
+TEST(ReaderLoop, ReportsTheOutcomeOfEveryLine) {
   const test::TemporaryFolder folder;
   const std::string path = folder.File("text", "i\n\n" + std::string(300, 'x') + "\n" + Lines(150) + "i");
   ScriptedReader reader{[](std::string_view line) {
@@ -133,7 +133,7 @@ TEST(ReaderLoop, ReportsWhatBecameOfEveryLine) {
   EXPECT_EQ(skipped.first[99].number, 102);
 }
 
-TEST(ReaderLoop, LetsExceptionsThroughAndSaysWhereItStopped) {
+TEST(ReaderLoop, PassesExceptionsOnAndReportsWhereItStopped) {
   const test::TemporaryFolder folder;
   ScriptedReader reader{[](std::string_view line) {
     if (line == "bad") AfxThrowInvalidArgException();

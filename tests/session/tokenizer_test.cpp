@@ -15,7 +15,7 @@ using test::ExpectCuts;
 using test::Strings;
 using Tokens = std::vector<std::string>;
 
-TEST(Tokenizer, ReturnsTokensOneByOneAndTheTail) {
+TEST(Tokenizer, ReturnsTokensOneByOneAndTheRest) {
   CTokenizer tokenizer(";a;;b c;", ";");
   CString token;
   ASSERT_TRUE(tokenizer.Next(token));

@@ -10,13 +10,13 @@
 
 namespace kestrin::test {
 
-/// A line, and the texts that it is cut into.
+/// A line and its fields.
 struct Cut {
   std::string line;
   std::vector<std::string> fields;
 };
 
-/// Expects that the function appends the fields of each line to an array.
+/// Expects the function to append the fields of each line to an array.
 template <class Function>
 void ExpectCuts(const std::vector<Cut>& cuts, Function cutLine) {
   for (const Cut& cut : cuts) {

@@ -8,7 +8,7 @@
 
 namespace kestrin::test {
 
-/// Feeds every line of a text to a reader and returns what became of them.
+/// Feeds every line of a text to a reader and returns the outcomes.
 template <class READER>
 std::vector<LineOutcome> Feed(READER& reader, const std::string& text) {
   std::vector<LineOutcome> outcomes;

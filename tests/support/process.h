@@ -18,7 +18,7 @@ struct ProcessResult {
   std::string err;
 };
 
-/// Runs the tool with arguments as a shell takes them.
+/// Runs the tool. The arguments are parsed by the shell.
 inline ProcessResult RunTool(const std::string& arguments) {
   const TemporaryFolder folder;
   const auto content = [&](const char* name) {

@@ -12,7 +12,7 @@ namespace kestrin::test {
 
 using Events = std::vector<std::string>;
 
-/// A window that writes down what happens to it. UpdateData(FALSE) is written as "<name> refresh".
+/// A window that logs what happens to it. UpdateData(FALSE) is logged as "<name> refresh".
 template <class WINDOW>
 class Recording : public WINDOW {
  public:
@@ -39,9 +39,9 @@ class Recording : public WINDOW {
   std::string name_;
 };
 
-/// A host's dialog that writes down all that an import does to it.
+/// A host's dialog that logs everything that an import does to it.
 struct RecordingDialog {
-  /// Bars that are not wanted are not handed to the session.
+  /// Only the wanted bars are passed to the session.
   void Attach(CPC_KESTRIN_GET& session, bool withTech = true, bool withNeutral = true,
               bool withGeometry = true, bool withTraces = true) {
     session.m_pStatusWnd = &status;
@@ -58,7 +58,7 @@ struct RecordingDialog {
   Recording<CProgressCtrl> tracesBar{events, "traces bar", &dialog};
 };
 
-/// Writes down message boxes while it lives.
+/// Logs message boxes as long as it exists.
 class RecordingMessageBoxes {
  public:
   RecordingMessageBoxes()

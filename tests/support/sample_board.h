@@ -18,7 +18,7 @@ inline void ImportBoard(CPC_KESTRIN_GET& session) {
   session.vParse();
 }
 
-/// All that a session has read.
+/// A description of everything that a session has read.
 inline std::string DescribedModels(const CPC_KESTRIN_GET& session) {
   std::string text;
   const auto add = [&text](const char* kind, const auto* model) {

@@ -16,7 +16,7 @@ using test::Described;
 using test::Feed;
 using test::Strings;
 
-TEST(TechReader, TurnsEveryLineIntoItsRecord) {
+TEST(TechReader, MakesARecordOfEveryLine) {
   struct Case {
     const char* line;
     const char* model;
@@ -56,7 +56,7 @@ TEST(TechReader, TurnsEveryLineIntoItsRecord) {
   }
 }
 
-TEST(TechReader, KeepsOrderAndTellsWhatBecameOfALine) {
+TEST(TechReader, KeepsOrderAndReportsTheOutcomeOfALine) {
   CMTech tech;
   TechReader reader(tech);
   const auto outcomes = Feed(reader,
@@ -73,7 +73,7 @@ TEST(TechReader, KeepsOrderAndTellsWhatBecameOfALine) {
   EXPECT_EQ(Described(tech), "via{V2} via{V1}");
 }
 
-TEST(TechModel, LooksUpTheFirstLayerOfExactlyThisName) {
+TEST(TechModel, FindsTheFirstLayerWithExactlyThisName) {
   CMTech tech;
   TechReader reader(tech);
   Feed(reader,

@@ -7,10 +7,10 @@
 namespace kestrin {
 namespace {
 
-TEST(ValueCount, AcceptsTheNumbersThatItsWordsSay) {
+TEST(ValueCount, AcceptsTheNumbersThatItsTextNames) {
   struct Case {
     ValueCount count;
-    std::string accepted;  // of the numbers 0 to 9
+    std::string accepted;  // those of the numbers 0 to 9
     std::string text;
   };
   const Case cases[] = {

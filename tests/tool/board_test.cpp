@@ -15,14 +15,14 @@ using test::TemporaryFolder;
 
 const std::string kBoard = KESTRIN_EXAMPLES "/board";
 
-/// Without the blanks and line ends that make it readable.
+/// The JSON without the blanks and line ends that make it readable.
 std::string Tight(std::string json) {
   json.erase(std::remove_if(json.begin(), json.end(), [](char c) { return c == ' ' || c == '\n'; }),
              json.end());
   return json;
 }
 
-TEST(ToolBoard, PrintsAllThatItReads) {
+TEST(ToolBoard, PrintsEverythingItReads) {
   const TemporaryFolder folder;
   static_cast<void>(folder.File(
       "a.tech", "$$define_physical_layer(2, BOTTOM, SIGNAL_2)\n$$define_physical_layer(1, TOP, SIGNAL_1)\n"));
@@ -63,7 +63,7 @@ TEST(ToolBoard, PrintsAllThatItReads) {
       R"("open":[[[0.1,0.2],[0.3,0.4]]]}]})");
 }
 
-TEST(ToolBoard, OfAFileAloneHasWhatItSays) {
+TEST(ToolBoard, OfASingleFileHasItsContents) {
   const TemporaryFolder folder;
   const auto tech = RunTool("board --tech " + folder.File("a.tech", "\n"));
   EXPECT_EQ(tech.status, 0);

@@ -1,5 +1,5 @@
 #!/bin/bash
-# Has the tool read the sample lines of docs/file-formats.md, file by file: none may be skipped.
+# Runs the tool on the sample lines of docs/file-formats.md, file by file. No line may be skipped.
 # Arguments: the tool.
 set -euo pipefail
 document=$(dirname "$0")/../../docs/file-formats.md

@@ -1,5 +1,5 @@
 #!/bin/sh
-# Runs the tool on the sample board under memcheck: no wrong access, no use of what was never set, nothing lost.
+# Runs the tool on the sample board under memcheck: no invalid access, no uninitialized value, no leak.
 # Arguments: the tool, the folder of the sample board.
 set -eu
 tool=$1 board=$2

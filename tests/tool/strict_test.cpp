@@ -54,7 +54,7 @@ TEST(ToolStrict, ListsSyntaxErrorsBesideSkippedLines) {
   EXPECT_EQ(RunTool("dump --strict --traces " + file).status, 0);
 }
 
-TEST(ToolStrict, ShowsTheModelSoFarWhereTheParserGivesUp) {
+TEST(ToolStrict, ShowsTheModelSoFarIfTheParserGivesUp) {
   const TemporaryFolder folder;
   const std::string file = folder.File("a.traces", kBegin + "TTT \xE9'\n");
   const auto dump = RunTool("dump --strict --traces " + file);

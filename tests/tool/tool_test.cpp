@@ -19,7 +19,7 @@ bool IsOneLine(const std::string& text) {
   return std::count(text.begin(), text.end(), '\n') == 1 && text.back() == '\n';
 }
 
-TEST(Tool, WrongUsageAndUnreadableFilesGiveOneLineAndStatus2) {
+TEST(Tool, WrongUsageAndUnreadableFilesPrintOneLineAndReturn2) {
   const TemporaryFolder folder;
   const std::string file = folder.File("a.tech", "");
   static_cast<void>(folder.File("b.tech", ""));
@@ -59,7 +59,7 @@ TEST(Tool, WrongUsageAndUnreadableFilesGiveOneLineAndStatus2) {
   }
 }
 
-TEST(Tool, ExplainsItselfOnEveryLevel) {
+TEST(Tool, HasHelpOnEveryLevel) {
   for (const char* arguments : {"--help", "summary --help", "dump --help", "check --help", "board --help"}) {
     const auto result = RunTool(arguments);
     EXPECT_EQ(result.status, 0);
@@ -162,7 +162,7 @@ TEST(Tool, ChecksWhatAnImportSkips) {
   EXPECT_STREQ(report["codes"][0]["lines"][0]["text"].GetString(), "what\x07 is é this");
 }
 
-TEST(Tool, SaysThatItsOutputCannotBeWrittenOrAFileNotRead) {
+TEST(Tool, ReportsThatItsOutputCannotBeWrittenOrAFileNotRead) {
   const std::string ofTheBoard = " --tech " + kBoard + "/board.tech";
   for (const std::string command : {"summary", "dump", "board", "check", "check --format json"}) {
     const auto unwritten = RunTool(command + ofTheBoard + " 2>&1 >/dev/full | cat");
@@ -226,7 +226,7 @@ TEST(Tool, SummarizesTheSampleBoardAndFindsNothingSkipped) {
   EXPECT_EQ(check.status, 0) << check.out;
 }
 
-TEST(Tool, ShowsProgressOnATerminalOnlyAndWipesItOff) {
+TEST(Tool, ShowsProgressOnATerminalOnlyAndErasesIt) {
   const TemporaryFolder folder;
   const std::string command = "script -qec '" KESTRIN_TOOL " dump --tech " + kBoard + "/board.tech >" +
                               folder.Path("out") + "' " + folder.Path("terminal") + " >/dev/null";

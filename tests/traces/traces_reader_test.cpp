@@ -66,7 +66,7 @@ TEST(TracesReader, ReadsTheRecordsOfANet) {
   });
 }
 
-TEST(TracesReader, ReadsSegmentsAsFarAsTheirLineGoes) {
+TEST(TracesReader, ReadsAsManySegmentValuesAsTheLineHas) {
   const auto segment = [](const std::string& values, const std::string& record) {
     return Case{"# NET A\nWIR 1 2 3 4 5\nSEG " + values, "net{name=A wir{1 2 3 4 5 seg{" + record + "}}}"};
   };
@@ -101,7 +101,7 @@ TEST(TracesReader, ReadsTheRecordsOfAFill) {
   });
 }
 
-/// "code 1 2 3 …" with a number of values.
+/// A line with a number of values: "code 1 2 3 …".
 std::string Counted(const std::string& code, int count) {
   std::string line = code;
   for (int i = 1; i <= count; ++i) line += " " + std::to_string(i);
@@ -175,7 +175,7 @@ TEST(TracesReader, ALineTooShortForItsRecordRaisesAndChangesNothing) {
     Feed(complete, before + "SEG 1 2\nVER 1 2\nISL 1");
     CMTraces traces;
     TracesReader reader(traces);
-    EXPECT_THROW(reader.ReadLine(line), CInvalidArgException) << line;  // without an owner as well
+    EXPECT_THROW(reader.ReadLine(line), CInvalidArgException) << line;  // even without an owner
     Feed(reader, before);
     EXPECT_THROW(reader.ReadLine(line), CInvalidArgException) << line;
     Feed(reader, "SEG 1 2\nVER 1 2\nISL 1");
@@ -187,7 +187,7 @@ std::string OpenedBy(int line) {
   return "the line begins inside the apostrophe opened on line " + std::to_string(line);
 }
 
-TEST(TracesReader, TellsWhatBecameOfALine) {
+TEST(TracesReader, ReportsTheOutcomeOfALine) {
   const std::string unknown(TextOf(SkipCode::kUnknownRecord).text);
   const Case cases[] = {
       {"UNITS MM", "imported"},

@@ -34,7 +34,7 @@ TEST(Messages, WaitInOrderUntilTakenAndDispatched) {
   EXPECT_EQ(events, (Events{"a: message 1024 1", "a: message 1024 3"}));
 }
 
-TEST(Messages, AWindowThatIsGoneReceivesNothing) {
+TEST(Messages, ADestroyedWindowReceivesNothing) {
   Events events;
   auto parent = std::make_unique<Recording<CWnd>>(events, "parent");
   auto child = std::make_unique<Recording<CProgressCtrl>>(events, "child", parent.get());

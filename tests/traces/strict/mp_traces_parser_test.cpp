@@ -73,7 +73,7 @@ TEST_F(MPTracesParserTest, SharesItsStateAndKeepsTheModelOfAnEarlierParse) {
   const std::unique_ptr<CMTraces> traces(first.GetTraces());
   testing::internal::CaptureStderr();
   MPTracesParser second;
-  EXPECT_EQ(second.Parse(), 1);  // the same file, at its end
+  EXPECT_EQ(second.Parse(), 1);  // both use the same file, which is at its end
   EXPECT_EQ(second.GetTraces(), traces.get());
   EXPECT_EQ(first.GetError(), "Traces File Error: parse error - ErrorLine : 0");
   second.SetFile(Path(kBegin + "# NET 'broken").data());
@@ -85,20 +85,20 @@ TEST_F(MPTracesParserTest, SharesItsStateAndKeepsTheModelOfAnEarlierParse) {
   EXPECT_EQ(second.GetTraces(), broken.get());
   second = first;
   second.SetFile(Path(kBegin + kEnd).data());
-  EXPECT_EQ(second.Parse(), 0);  // nothing is left of the parses before
+  EXPECT_EQ(second.Parse(), 0);  // earlier parses have no effect
   const std::unique_ptr<CMTraces> last(second.GetTraces());
   EXPECT_EQ(Described(*last), kModel);
   testing::internal::GetCapturedStderr();
   first.Close();
 }
 
-/// Makes a file the standard input.
+/// Redirects standard input to a file.
 void ReadFromStandardInput(const std::string& path) {
   // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): standard input stays the process's
   ASSERT_NE(std::freopen(path.c_str(), "r", stdin), nullptr);
 }
 
-TEST_F(MPTracesParserTest, ReadsStandardInputWhereNoFileIsOpen) {
+TEST_F(MPTracesParserTest, ReadsStandardInputIfNoFileIsOpen) {
   const std::string path = Path(kBegin + kEnd);
   const std::string missing = path + ".missing";
   ReadFromStandardInput(path);
@@ -167,7 +167,7 @@ TEST_F(MPTracesParserTest, ReadsOnAfterTheTokenThatEndedAParse) {
   }
 }
 
-/// Makes a pipe the standard input, which others write to while it is read.
+/// Redirects standard input to a pipe that is written to while it is read.
 class StandardInputPipe {
  public:
   StandardInputPipe() : saved_(dup(STDIN_FILENO)) {
@@ -193,12 +193,12 @@ class StandardInputPipe {
   int saved_;
 };
 
-TEST_F(MPTracesParserTest, ReadsNoMoreOfStandardInputThanThereIs) {
+TEST_F(MPTracesParserTest, ReadsNoMoreStandardInputThanIsAvailable) {
   const StandardInputPipe input;
   MPTracesParser parser;
   testing::internal::CaptureStderr();
   input.Write("X\n");
-  EXPECT_EQ(parser.Parse(), 1);  // and does not wait for more
+  EXPECT_EQ(parser.Parse(), 1);  // without waiting for more input
   input.Write(kBegin + kEnd);
   input.Finish();
   EXPECT_EQ(parser.Parse(), 0);

@@ -25,7 +25,7 @@ std::string NameOf(int token) {
   return std::string(index < std::size(kNames) ? kNames[index] : "?");
 }
 
-/// A token with the value that it hands on.
+/// A token with its value.
 std::string Described(int token, const TracesGrammar::value_type& value) {
   switch (token) {
     case Token::T_INTEGER: return "INTEGER=" + std::to_string(value.whole);
@@ -45,7 +45,7 @@ std::string Described(int token, const TracesGrammar::value_type& value) {
   }
 }
 
-/// The tokens of a text, with "/" where a line has ended.
+/// The tokens of a text, with "/" for each end of a line.
 std::string Tokens(const std::string& text, std::size_t piece = 1000) {
   TracesScanner scanner(test::SourceOf(text, piece));
   std::string tokens;
@@ -69,11 +69,11 @@ struct Case {
 void Expect(std::initializer_list<Case> cases) {
   for (const Case& c : cases) {
     EXPECT_EQ(Tokens(c.text), c.tokens) << c.text;
-    EXPECT_EQ(Tokens(c.text, 1), c.tokens) << c.text;  // nothing depends on where a block ends
+    EXPECT_EQ(Tokens(c.text, 1), c.tokens) << c.text;  // the ends of blocks make no difference
   }
 }
 
-TEST(TracesScanner, KnowsKeywordsInEveryConditionUnlessMoreMatches) {
+TEST(TracesScanner, RecognizesKeywordsInEveryStateUnlessALongerTokenMatches) {
   Expect({
       {"ANT ARS CHG GUI INC ISL ST TET", "ANT ARS CHG GUI INC ISL ST TET"},
       {"TTI TTT VER WIR XRF ISS SEG", "TTI TTT VER WIR XRF ISS SEG"},
@@ -102,7 +102,7 @@ TEST(TracesScanner, CutsWordsNumbersAndQuotedTexts) {
   });
 }
 
-TEST(TracesScanner, PassesOverCommentsPropertiesAndNotes) {
+TEST(TracesScanner, SkipsCommentsPropertiesAndNotes) {
   Expect({
       {"# BOARD B 1\n#\tdate 1\n#STI 1\nPRP 1\n1", "/ / / / INTEGER=1"},
       {"# A 1\n#BOAR 1\nPRP\nPRPX 1", "WORD=A INTEGER=1 / WORD=BOAR INTEGER=1 / WORD=PRP /"},
@@ -117,7 +117,7 @@ TEST(TracesScanner, PassesOverCommentsPropertiesAndNotes) {
   });
 }
 
-TEST(TracesScanner, EntersAndLeavesItsConditions) {
+TEST(TracesScanner, EntersAndLeavesItsStates) {
   Expect({
       {"# NET 'GND'\nWIR", "NET_HEADER NETNAME=GND ' / WIR"},
       {"#  NET 'GND'", "WORD=NET QSTRING='GND'"},
@@ -146,7 +146,7 @@ TEST(TracesScanner, ReadsTextWhateverItsSizeAndLineEnds) {
   EXPECT_EQ(Tokens(longText + " 1"), "WORD=" + longText.substr(0, 255) + " INTEGER=1");
   EXPECT_EQ(Tokens("(" + longText + ") 1"), "INTEGER=1");
   EXPECT_EQ(Tokens(std::string(300'000, '0') + "7"), "INTEGER=7");
-  std::string openNotes;  // each of which would be looked for up to the end of the line
+  std::string openNotes;  // searching for the end of each would take quadratic time
   for (int i = 0; i < 300'000; ++i) openNotes += "(a ";
   EXPECT_EQ(Tokens(openNotes + "SEG " + openNotes + "\n1").substr(0, 18), "SEG SEGFIELD=(a SE");
 }
@@ -163,13 +163,13 @@ TEST(TracesScanner, KeepsZeroBytesAndTheirEscapesApart) {
   });
   const std::string ones(300, '\x01');
   EXPECT_EQ(Tokens("SEG " + ones + " \0"s + ones), "SEG SEGFIELD=" + ones.substr(0, 255) + " SEGFIELD=");
-  std::string zeros = "# NET 'A";  // over each of which the automaton would go back to the beginning
+  std::string zeros = "# NET 'A";  // backtracking at each would take quadratic time
   for (int i = 0; i < 1'000'000; ++i) zeros += "\0\x01 "s;
   EXPECT_EQ(Tokens(zeros + "'", 100'000), "NET_HEADER NETNAME=A '");
 }
 
-/// The tokens of a file that ends more than once, as one that is typed may.
-TEST(TracesScanner, GoesOnAfterTheEndOfTheFileInTheSameCondition) {
+/// The tokens of a file that ends more than once, as terminal input may.
+TEST(TracesScanner, ContinuesAfterTheEndOfTheFileInTheSameState) {
   struct Ended {
     std::string before;
     std::string after;

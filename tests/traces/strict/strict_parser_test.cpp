@@ -36,7 +36,7 @@ void ExpectAccepted(const std::string& text, const std::string& model) {
   EXPECT_EQ(Described(*parse.traces), model) << text;
 }
 
-/// Records behind the beginning of a file.
+/// Records after the start of a file.
 void ExpectRecords(const std::vector<Case>& cases) {
   for (const Case& c : cases) ExpectAccepted(kBegin + c.text, kBeginModel + c.model);
 }
@@ -140,7 +140,7 @@ TEST(StrictParser, AcceptsTheRecordsOfAFill) {
   });
 }
 
-TEST(StrictParser, FillsGoByTheNamesOfTheirAreas) {
+TEST(StrictParser, FillsAreMatchedByTheNamesOfTheirAreas) {
   const auto area = [](const std::string& code, const std::string& name) {
     return code + " '" + name + "' 'L' S 4 5 6 VER 1 2\n";
   };

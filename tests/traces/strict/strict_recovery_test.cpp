@@ -19,7 +19,7 @@ const std::string kWith = "# Application x\n" + kWithout;
 const std::string kModel = "units=MM st=(1 2 3 4) xrf{1 U_1 U_1}";
 const std::string kEnd = "ST 1 2 3 4\n";
 
-/// What a parse left: result, the lines of the errors reported, and the model.
+/// The outcome of a parse: result, lines of the reported errors, and model.
 std::string Outcome(const std::string& text) {
   const StrictParse parse = ParseStrictly(SourceOf(text));
   std::string outcome = std::to_string(static_cast<int>(parse.result));
@@ -75,7 +75,7 @@ TEST(StrictRecovery, AnErrorAtATokenThatStartsARecordResumesThere) {
   });
 }
 
-TEST(StrictRecovery, AnErrorBehindACompleteNetKeepsIt) {
+TEST(StrictRecovery, AnErrorAfterACompleteNetKeepsIt) {
   Expect({
       {kWithout + "# NET 'A'\nXRF 2 U_2\n# NET 'B'\n" + kEnd, "0 @4 net{name=A} net{name=B}"},
       {kWith + "# NET 'A'\nXRF 2 U_2\n# NET 'B'\n", "1 @5 net{name=A}"},
@@ -83,7 +83,7 @@ TEST(StrictRecovery, AnErrorBehindACompleteNetKeepsIt) {
   });
 }
 
-TEST(StrictRecovery, AnErrorInsideAFillDropsItButNoFillThatWasComplete) {
+TEST(StrictRecovery, AnErrorInsideAFillDropsItButKeepsCompleteFills) {
   const std::string fill = "FIL 'A' 'L' S 4 5 6 7 8 9 10 11 12 T A B C\nVER 1 2\n";
   const std::string other = "ARE 'B' 'L' S 4 5 6\nVER 1 2\n";
   const std::string first = "fil{name=(A L) 3=(S 4 5 6 7 8 9 10 11 12) tail=(A B C) ver{x=1 y=2}";
@@ -101,7 +101,7 @@ TEST(StrictRecovery, AnErrorInsideAFillDropsItButNoFillThatWasComplete) {
   });
 }
 
-TEST(StrictRecovery, AnErrorLessThanThreeTokensBehindAnotherIsNotReported) {
+TEST(StrictRecovery, AnErrorLessThanThreeTokensAfterAnotherIsNotReported) {
   const std::string good = "TTT 1 2 3 4 5\n" + kEnd;
   Expect({
       {kWithout + "TTT X\nTTT X\nTTT 1 X\n" + good, "0 @3 ttt{1 2 3 4 5}"},
@@ -122,7 +122,7 @@ TEST(StrictRecovery, TheEndOfTheFileEndsARecovery) {
   });
 }
 
-TEST(StrictRecovery, SaysWhatItFoundAndWhatItExpected) {
+TEST(StrictRecovery, ReportsWhatItFoundAndExpected) {
   using std::string_literals::operator""s;
   const StrictParse parse =
       ParseStrictly(SourceOf(kWith + "GUI 1\nTTT 1 2 3.5\nTTT 1 2 3\n# NET 'A'\nGUI\n"));

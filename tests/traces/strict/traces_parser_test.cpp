@@ -18,7 +18,7 @@ const std::string kBegin = "UNITS MM\nST 1 2 3 4\nXRF 1 U_1\n";
 const std::string kEnd = "ST 1 2 3 4\n";
 const std::string kModel = "units=MM st=(1 2 3 4) xrf{1 U_1 U_1}";
 
-/// A source that does one of these things each time it is asked, and has then ended.
+/// A source that performs one of these actions for each read, and then ends.
 using Step = std::function<std::string()>;
 ByteSource SourceThat(std::vector<Step> steps) {
   return [steps = std::move(steps), next = std::size_t{0}](char* bytes, std::size_t size) mutable {
@@ -35,7 +35,7 @@ std::string Raise() {
   throw EXCEPTION("raised");
 }
 
-TEST(TracesParser, TellsOfAnErrorBeforeItReadsOn) {
+TEST(TracesParser, ReportsAnErrorBeforeItReadsOn) {
   std::vector<std::int64_t> lines;
   const auto hasHeardOf = [&lines](std::size_t count, std::string text) -> Step {
     return [&lines, count, text = std::move(text)] {
@@ -51,7 +51,7 @@ TEST(TracesParser, TellsOfAnErrorBeforeItReadsOn) {
   EXPECT_EQ(parse.errors.size(), 2U);
 }
 
-TEST(TracesParser, BeginsAnewAfterAnExceptionOfTheSource) {
+TEST(TracesParser, StartsOverAfterAnExceptionOfTheSource) {
   const std::string open = "# Application x\n" + kBegin + "# NET 'A'\n";
   TracesParser parser(SourceThat({Gives(open), Raise<std::runtime_error>, Gives(open),
                                   []() -> std::string { throw std::bad_alloc(); }, Gives(kBegin + kEnd)}));
