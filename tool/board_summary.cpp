@@ -59,17 +59,18 @@ std::vector<std::string> RowOf(std::string name, const Totals& totals) {
 const char* NameOf(Sense sense) { return sense == Sense::kClockwise ? "clockwise" : "counter-clockwise"; }
 
 void PrintReading(const Reading& reading) {
-  std::printf("  components turn %s on the top, %s on the bottom%s: ", NameOf(reading.rotation),
-              NameOf(reading.bottom), reading.bottomTurn == 180 ? " and by 180 degrees more" : "");
+  std::printf("  rotation of components: %s on the top, %s on the bottom%s; ", NameOf(reading.rotation),
+              NameOf(reading.bottom), reading.bottomTurn == 180 ? " plus 180 degrees" : "");
   std::puts(reading.isConfirmed ? "confirmed by the copper"
-            : reading.isFitted  ? "fits best, but the copper does not confirm it"
-                                : "assumed, as no pin tells");
+            : reading.isFitted  ? "the best fit, but not confirmed by the copper"
+                                : "not confirmed by the copper");
   std::printf("  pins that touch copper of their net: %zu of %zu\n", reading.pinsTouching,
               reading.pinsCounted);
   if (reading.widthStep) {
-    std::printf("  track widths in digits count %g of the Traces file's unit\n", *reading.widthStep);
+    std::printf("  unit of track widths written with digits only: %g of the Traces file's unit\n",
+                *reading.widthStep);
   } else {
-    std::puts("  what track widths in digits count is not known");
+    std::puts("  unit of track widths written with digits only: unknown");
   }
 }
 

@@ -26,15 +26,15 @@ void PrintPanel(const CMComps& components) {
 }
 
 void PrintSelection(const CMComps& components, const BoardSelection& selection) {
-  std::printf("Selected: nets section %" PRId64 " of %" PRId64 ", component section %" PRId64 " of %" PRId64
+  std::printf("Imported: nets section %" PRId64 " of %" PRId64 ", component section %" PRId64 " of %" PRId64
               ", ",
               selection.ordinal, selection.netsSections, selection.ordinal, selection.componentSections);
   if (selection.placement < 0) {
-    std::puts("as no placement chooses another");
+    std::puts("by default: no placement selects another");
     return;
   }
   const CMCompsPanel& chosen = *components.m_pPanels->GetAt(selection.placement);
-  std::printf("chosen by placement %" PRId64 " (%s, value 6 is %d)\n", selection.placement + 1,
+  std::printf("selected by placement %" PRId64 " (%s, value 6 is %d)\n", selection.placement + 1,
               ToTerminal(chosen.m_sBoardName.View()).c_str(), chosen.m_nValue6);
 }
 

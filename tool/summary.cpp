@@ -48,7 +48,7 @@ void PrintFiles(const Imported& imported) {
   }
   table.Print();
   if (imported.strictTraces) {
-    std::printf("\nStrict reading of the Traces file: %s\n", Verdict(imported.strictTraces->parse).c_str());
+    std::printf("\nStrict parse of the Traces file: %s\n", Verdict(imported.strictTraces->parse).c_str());
   }
 }
 

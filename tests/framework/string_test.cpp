@@ -170,7 +170,7 @@ TEST(String, FormatsStringsOfAnyLength) {
 }
 
 TEST(String, KeepsItsLengthWhileItsBufferIsLent) {
-  for (const std::string original : {"", "short", "fifteen bytes..", "longer than what stands in place"}) {
+  for (const std::string original : {"", "short", "fifteen bytes..", "longer than what fits in the object"}) {
     for (const std::size_t room : {0U, 14U, 15U, 16U, 100U}) {
       CString text(original);
       const CString copy(text);

@@ -198,7 +198,7 @@ TEST(Tool, SummarizesTheSampleBoardAndFindsNothingSkipped) {
                            "Via rules: 4",
                            "Unit of the Neutral file: MM",
                            "3  SENSOR_NODE",
-                           "Selected: nets section 2 of 2, component section 2 of 2, chosen by placement 3",
+                           "Imported: nets section 2 of 2, component section 2 of 2, selected by placement 3",
                            " by placement 3 (SENSOR_NODE, value 6 is 1)",
                            "7  CHIP_0805",
                            "Nets: 15 with 55 pins",
@@ -206,10 +206,10 @@ TEST(Tool, SummarizesTheSampleBoardAndFindsNothingSkipped) {
                            "Traces: units MM",
                            "segments                  103",
                            "islands                    29",
-                           "components turn counter-clockwise on the top, counter-clockwise on the bottom: "
-                           "confirmed by the copper",
+                           "rotation of components: counter-clockwise on the top, counter-clockwise on the "
+                           "bottom; confirmed by the copper",
                            "pins that touch copper of their net: 53 of 53",
-                           "count 0.01 of the Traces file's unit",
+                           "digits only: 0.01 of the Traces file's unit",
                            "components: 16, 14 on the top and 2 on the bottom",
                            "4  BOTTOM    29.003",
                            "GND         14.164    14      11    11      2     0",
