@@ -11,9 +11,9 @@
 namespace kestrin {
 
 std::string_view ComparedName(std::string_view name) {
-  const auto isAround = [](char c) { return c == ' ' || c == '\''; };
-  while (!name.empty() && isAround(name.front())) name.remove_prefix(1);
-  while (!name.empty() && isAround(name.back())) name.remove_suffix(1);
+  const auto isPadding = [](char c) { return c == ' ' || c == '\''; };
+  while (!name.empty() && isPadding(name.front())) name.remove_prefix(1);
+  while (!name.empty() && isPadding(name.back())) name.remove_suffix(1);
   return name;
 }
 

@@ -18,7 +18,7 @@ namespace kestrin {
 ///
 /// Most texts of an export file are short, and a model holds millions of them. So texts of up to 15 bytes are
 /// inside the object. Longer texts are in a heap block with a reference count; copies share it until one of
-/// them changes. A long name that appears in a million records is in memory once.
+/// them changes. A long name that is copied into a million records is in memory once.
 class KESTRIN_EXPORT StringStorage {
  public:
   StringStorage() noexcept = default;

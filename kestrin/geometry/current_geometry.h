@@ -34,7 +34,7 @@ class CurrentGeometry {
   void CreateStackup(std::string_view name);
   /// Opens a probe or test fixture, which is not in the model. Drawing objects, texts and adds still belong
   /// to the geometry before it.
-  void CreateUnkept() { open_ = Unkept(); }
+  void CreateIgnored() { open_ = IgnoredGeometry(); }
   /// Starts a geometry of an unknown kind. Its texts and adds are dropped; drawing objects still belong to
   /// the geometry before it. Closes an open drawing.
   void CreateUnknown();
@@ -46,7 +46,7 @@ class CurrentGeometry {
     return geometry == nullptr ? nullptr : *geometry;
   }
   /// Whether the open geometry is one that is not in the model.
-  [[nodiscard]] bool IsUnkept() const { return std::holds_alternative<Unkept>(open_); }
+  [[nodiscard]] bool IsIgnored() const { return std::holds_alternative<IgnoredGeometry>(open_); }
 
   /// The board once it is bound, and the last component that was opened; null if there is none.
   [[nodiscard]] CMGeomBoard* BoundBoard() const { return board_; }
@@ -59,7 +59,7 @@ class CurrentGeometry {
 
  private:
   struct Nothing {};
-  struct Unkept {};
+  struct IgnoredGeometry {};
 
   template <class Geometry>
   Geometry* AppendNew(RecordArray<Geometry>& list);
@@ -68,7 +68,7 @@ class CurrentGeometry {
 
   CMGeom& model_;
   RecordPool& records_;
-  std::variant<Nothing, Unkept, CMGeomPanel*, CMGeomBoard*, CMGeomComponent*, CMGeomDrawing*,
+  std::variant<Nothing, IgnoredGeometry, CMGeomPanel*, CMGeomBoard*, CMGeomComponent*, CMGeomDrawing*,
                CMGeomGenericPart*, CMGeomPin*, CMGeomStackup*, CMGeomVia*>
       open_;
   CMGeomBoard* board_ = nullptr;

@@ -24,8 +24,8 @@ LineOutcome BindBoard(ReaderState& state) {
   return LineOutcome::Imported();
 }
 
-LineOutcome CreateUnkept(ReaderState& state) {
-  state.geometry.CreateUnkept();
+LineOutcome CreateIgnored(ReaderState& state) {
+  state.geometry.CreateIgnored();
   return LineOutcome::Ignored();
 }
 

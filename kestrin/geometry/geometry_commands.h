@@ -18,7 +18,7 @@ LineOutcome CreateNamed(ReaderState& state) {
 }
 
 /// Opens a geometry that is not in the model.
-LineOutcome CreateUnkept(ReaderState& state);
+LineOutcome CreateIgnored(ReaderState& state);
 
 LineOutcome SetUnit(ReaderState& state, CString& unit);
 

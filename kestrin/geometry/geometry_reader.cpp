@@ -14,9 +14,9 @@ namespace {
 
 using enum Commas;
 using enum Ownerless;
-using DrawObjs = OfTaker<&CurrentGeometry::DrawObjs>;
-using Texts = OfTaker<&CurrentGeometry::Texts>;
-using Adds = OfTaker<&CurrentGeometry::Adds>;
+using DrawObjs = OfCurrentList<&CurrentGeometry::DrawObjs>;
+using Texts = OfCurrentList<&CurrentGeometry::Texts>;
+using Adds = OfCurrentList<&CurrentGeometry::Adds>;
 
 constexpr GeometryRow kRows[] = {
     {"$$lock_windows", kEvery, Any(), kNobody, BindBoard},
@@ -27,9 +27,9 @@ constexpr GeometryRow kRows[] = {
     {"$$create_stackup", kEvery, Any(), kNobody, CreateNamed<&CurrentGeometry::CreateStackup>},
     {"$$create_pin", kEvery, Any(), kNobody, CreateNamed<&CurrentGeometry::CreatePin>},
     {"$$create_via", kEvery, Any(), kNobody, CreateNamed<&CurrentGeometry::CreateVia>},
-    {"$$create_probe", kEvery, Any(), kNobody, CreateUnkept},
+    {"$$create_probe", kEvery, Any(), kNobody, CreateIgnored},
     {"$$create_drawing", kEvery, Any(), kNobody, CreateNamed<&CurrentGeometry::CreateDrawing>},
-    {"$$create_test_fixture", kEvery, Any(), kNobody, CreateUnkept},
+    {"$$create_test_fixture", kEvery, Any(), kNobody, CreateIgnored},
     {"$$page", kEvery, Any(), To<UnitOfOpen, SetUnit>()},
     {"$$initial", kEvery, Any(), kNobody, BeginPoints},
     {"$$terminal", kEvery, Any(), kNobody, ContinuePoints},

@@ -23,12 +23,12 @@ struct OwnerAndHandler {
 };
 
 /// Combines an owner and a handler. The owner passes the field to fill to the handler.
-template <class TheOwner, auto Handler>
+template <class OwnerType, auto Handler>
 [[nodiscard]] constexpr OwnerAndHandler To() {
-  return {{TheOwner::kDemand, [](const ReaderState& state) { return TheOwner::Find(state.geometry); }},
+  return {{OwnerType::kRequirement, [](const ReaderState& state) { return OwnerType::Find(state.geometry); }},
           [](ReaderState& state) {
             LineOutcome outcome = LineOutcome::Ignored();
-            TheOwner::Lend(state.geometry, [&](auto& member) { outcome = Handler(state, member); });
+            OwnerType::Lend(state.geometry, [&](auto& member) { outcome = Handler(state, member); });
             return outcome;
           }};
 }
@@ -39,18 +39,18 @@ enum class Ownerless : std::uint8_t { kKeepsPoints, kConsumesPoints };
 /// A command or an attribute. The first value of an attribute is its name.
 struct GeometryRow : Record<ReaderState, GeometryHandler> {
   constexpr GeometryRow(std::string_view itsName, Commas itsCommas, ValueCount itsValues,
-                        OwnerAndHandler parts, std::string_view otherDemand)
-      : GeometryRow(itsName, itsCommas, itsValues, parts, Ownerless::kKeepsPoints, otherDemand) {}
+                        OwnerAndHandler parts, std::string_view otherRequirement)
+      : GeometryRow(itsName, itsCommas, itsValues, parts, Ownerless::kKeepsPoints, otherRequirement) {}
   constexpr GeometryRow(std::string_view itsName, Commas itsCommas, ValueCount itsValues,
                         OwnerAndHandler parts, Ownerless itsOwnerless = Ownerless::kKeepsPoints,
-                        std::string_view otherDemand = {})
-      : Record(itsName, itsValues, parts.owner, parts.read, otherDemand),
+                        std::string_view otherRequirement = {})
+      : Record(itsName, itsValues, parts.owner, parts.read, otherRequirement),
         commas(itsCommas),
         ownerless(itsOwnerless) {}
   /// A row without an owner.
   constexpr GeometryRow(std::string_view itsName, Commas itsCommas, ValueCount itsValues, Nobody itsOwner,
-                        GeometryHandler handler, std::string_view otherDemand = {})
-      : Record(itsName, itsValues, itsOwner, handler, otherDemand), commas(itsCommas) {}
+                        GeometryHandler handler, std::string_view otherRequirement = {})
+      : Record(itsName, itsValues, itsOwner, handler, otherRequirement), commas(itsCommas) {}
   /// A row whose lines are ignored.
   constexpr explicit GeometryRow(std::string_view itsName) : Record(itsName) {}
 

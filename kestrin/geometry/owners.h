@@ -42,7 +42,7 @@ template <auto Member>
 /// The open geometry, which must be of the class of one of the members.
 template <auto... Members>
 struct OfOpen {
-  static constexpr std::string_view kDemand = kBefore<ClassOf<Members>...>.Text();
+  static constexpr std::string_view kRequirement = kBefore<ClassOf<Members>...>.Text();
 
   static OwnerState Find(const CurrentGeometry& geometry) {
     const bool isOpen = ((geometry.Open<ClassOf<Members>>() != nullptr) || ...);
@@ -65,7 +65,7 @@ struct OfOpen {
 /// The board once it is bound, whatever geometry is open.
 template <auto Member>
 struct OfBoundBoard {
-  static constexpr std::string_view kDemand = "$$lock_windows or $$create_board before it";
+  static constexpr std::string_view kRequirement = "$$lock_windows or $$create_board before it";
   static OwnerState Find(const CurrentGeometry& geometry) { return StateOf(geometry.BoundBoard()); }
   template <class Fill>
   static void Lend(const CurrentGeometry& geometry, Fill fill) {
@@ -76,7 +76,7 @@ struct OfBoundBoard {
 /// The last component, whatever geometry is open.
 template <auto Member>
 struct OfLastComponent {
-  static constexpr std::string_view kDemand = kBefore<CMGeomComponent>.Text();
+  static constexpr std::string_view kRequirement = kBefore<CMGeomComponent>.Text();
   static OwnerState Find(const CurrentGeometry& geometry) { return StateOf(geometry.LastComponent()); }
   template <class Fill>
   static void Lend(const CurrentGeometry& geometry, Fill fill) {
@@ -86,8 +86,8 @@ struct OfLastComponent {
 
 /// The list for drawing objects, texts or adds. Its geometry is not always the open one.
 template <auto List>
-struct OfTaker {
-  static constexpr std::string_view kDemand = "a geometry before it";
+struct OfCurrentList {
+  static constexpr std::string_view kRequirement = "a geometry before it";
   static OwnerState Find(const CurrentGeometry& geometry) { return StateOf((geometry.*List)()); }
   template <class Fill>
   static void Lend(const CurrentGeometry& geometry, Fill fill) {
@@ -99,9 +99,9 @@ struct OfTaker {
 struct UnitOfOpen : OfOpen<&CMGeomPanel::m_sUnits, &CMGeomBoard::m_sUnits, &CMGeomComponent::m_sUnits,
                            &CMGeomDrawing::m_sUnits, &CMGeomGenericPart::m_sUnits, &CMGeomPin::m_sUnits,
                            &CMGeomStackup::m_sUnits, &CMGeomVia::m_sUnits> {
-  static constexpr std::string_view kDemand = "a geometry before it";
+  static constexpr std::string_view kRequirement = "a geometry before it";
   static OwnerState Find(const CurrentGeometry& geometry) {
-    return geometry.IsUnkept() ? OwnerState::kElsewhere : OfOpen::Find(geometry);
+    return geometry.IsIgnored() ? OwnerState::kElsewhere : OfOpen::Find(geometry);
   }
 };
 

@@ -18,8 +18,8 @@ namespace kestrin {
 struct RecordRule {
   std::string_view name;  ///< the keyword
   ValueCount values;
-  std::string_view owner;   ///< the record that it belongs to: "a NET before it"; empty if it needs none
-  std::string_view demand;  ///< what else it needs: "a number in square brackets"
+  std::string_view owner;        ///< the record that it belongs to: "a NET before it"; empty if it needs none
+  std::string_view requirement;  ///< what else it needs: "a number in square brackets"
 };
 
 /// Whether the record that a line belongs to is there.
@@ -32,7 +32,7 @@ enum class OwnerState : std::uint8_t {
 /// The record that other records belong to, such as the net of a pin.
 template <class Reader>
 struct Owner {
-  std::string_view demand;
+  std::string_view requirement;
   OwnerState (*find)(const Reader& reader);  ///< null if the owner is always there
 };
 
@@ -49,8 +49,8 @@ inline constexpr Nobody kNobody;
 template <class Reader, class Handler>
 struct Record : RecordRule {
   constexpr Record(std::string_view itsName, ValueCount itsValues, Owner<Reader> itsOwner, Handler handler,
-                   std::string_view otherDemand = {})
-      : RecordRule{itsName, itsValues, itsOwner.demand, otherDemand},
+                   std::string_view otherRequirement = {})
+      : RecordRule{itsName, itsValues, itsOwner.requirement, otherRequirement},
         read(handler),
         findOwner_(itsOwner.find) {}
   /// A record that has nothing for the model. Its lines are ignored.

@@ -23,7 +23,7 @@ bool IsMissedNetHeader(std::string_view comment) {
 
 /// Whether a line without a known code may be ignored: blank lines, properties, notes in parentheses and
 /// comments.
-bool CarriesNothing(std::string_view line) {
+bool IsIgnorable(std::string_view line) {
   const std::string_view text = Trimmed(line);
   if (text.empty() || text.starts_with("PRP ")) return true;
   if (text.front() == '#') return !IsMissedNetHeader(text);
@@ -76,7 +76,7 @@ LineOutcome TracesReader::ReadRecord(std::string_view line) {
   if (code == Keyword("#") && values_.Has(1) && values_.Text(1) == "NET") return AddNet();
   const Row* row = Find(code);
   if (row == nullptr) {
-    return CarriesNothing(line) ? LineOutcome::Ignored() : LineOutcome::Skipped(SkipCode::kUnknownRecord);
+    return IsIgnorable(line) ? LineOutcome::Ignored() : LineOutcome::Skipped(SkipCode::kUnknownRecord);
   }
   // Where a row says AtLeast, a line with too few values is not skipped: reading the missing value raises. A
   // line without any values is skipped.

@@ -11,7 +11,7 @@ namespace {
 using test::BoardOf;
 using test::Texts;
 
-std::string Told(const Reading& reading) {
+std::string DescriptionOf(const Reading& reading) {
   std::string text = reading.rotation == Sense::kClockwise ? "cw" : "ccw";
   text += reading.bottom == Sense::kClockwise ? " cw " : " ccw ";
   text += std::to_string(reading.bottomTurn);
@@ -42,7 +42,7 @@ struct Placed {
 };
 
 /// A board whose components were placed by a convention. Each pin has its own track.
-Texts MadeUnder(const Convention& convention, const std::vector<Placed>& components) {
+Texts PlacedBy(const Convention& convention, const std::vector<Placed>& components) {
   Texts texts{
       .tech = {},
       .neutral = "B_UNITS MM\n###Component\n",
@@ -79,15 +79,15 @@ Texts MadeUnder(const Convention& convention, const std::vector<Placed>& compone
 
 TEST(BoardFit, FindsTheConventionThatABoardWasMadeUnder) {
   for (const Convention& made : kConventions) {
-    const Board board = BoardOf(MadeUnder(made, {{1, 90}, {1, 30}, {2, 90}, {2, 45}, {2, 0}, {1, 180}}));
-    EXPECT_EQ(Told(board.reading), Told({.rotation = made.rotation,
-                                         .bottom = made.bottom,
-                                         .bottomTurn = made.bottomTurn,
-                                         .widthStep = {},
-                                         .isFitted = true,
-                                         .isConfirmed = true,
-                                         .pinsTouching = 12,
-                                         .pinsCounted = 12}));
+    const Board board = BoardOf(PlacedBy(made, {{1, 90}, {1, 30}, {2, 90}, {2, 45}, {2, 0}, {1, 180}}));
+    EXPECT_EQ(DescriptionOf(board.reading), DescriptionOf({.rotation = made.rotation,
+                                                           .bottom = made.bottom,
+                                                           .bottomTurn = made.bottomTurn,
+                                                           .widthStep = {},
+                                                           .isFitted = true,
+                                                           .isConfirmed = true,
+                                                           .pinsTouching = 12,
+                                                           .pinsCounted = 12}));
   }
 }
 
@@ -140,17 +140,17 @@ TEST(BoardFit, LeavesWhatTheDataDoesNotDecideUnconfirmed) {
        "cw cw 180 0/0"},
   };
   for (const Case& c : cases) {
-    EXPECT_EQ(Told(BoardOf(MadeUnder(c.made, c.components), c.options).reading), c.reading) << c.why;
+    EXPECT_EQ(DescriptionOf(BoardOf(PlacedBy(c.made, c.components), c.options).reading), c.reading) << c.why;
   }
 }
 
 /// Half of the pins is enough. A second reading that fits as well prevents confirmation.
 TEST(BoardFit, ConfirmsIfHalfOfThePinsTouchAndNoOtherReadingFitsAsWell) {
-  const Texts half = MadeUnder({kCcw, kCcw, 0}, {{1, 90}, {1, 45}});
+  const Texts half = PlacedBy({kCcw, kCcw, 0}, {{1, 90}, {1, 45}});
   Texts texts = half;
-  const std::string more = MadeUnder({kCw, kCcw, 0}, {{1, 90}, {1, 45}}).traces;
+  const std::string more = PlacedBy({kCw, kCcw, 0}, {{1, 90}, {1, 45}}).traces;
   texts.traces += more;  // nets with the same names: the pins touch with both senses
-  EXPECT_EQ(Told(BoardOf(texts).reading), "ccw ccw 0 fitted 4/4");
+  EXPECT_EQ(DescriptionOf(BoardOf(texts).reading), "ccw ccw 0 fitted 4/4");
 
   for (const auto& [others, reading] :
        {std::pair{4, "ccw ccw 0 fitted confirmed 4/8"}, {5, "ccw ccw 0 fitted 4/9"}}) {
@@ -165,7 +165,7 @@ TEST(BoardFit, ConfirmsIfHalfOfThePinsTouchAndNoOtherReadingFitsAsWell) {
     std::string components;
     for (int i = 0; i < others; ++i) components += "COMP X" + std::to_string(i) + " p s H 0 0 1 0\n";
     texts.neutral.insert(texts.neutral.find("###Nets"), components);
-    EXPECT_EQ(Told(BoardOf(texts).reading), reading);
+    EXPECT_EQ(DescriptionOf(BoardOf(texts).reading), reading);
   }
 }
 

@@ -281,7 +281,7 @@ TEST(GeometryAttributes, ReportTheOutcomeOfALine) {
   CMGeom geom;
   GeometryReader reader(geom);
   for (const Line& line : lines) {
-    EXPECT_EQ(test::Told(reader.ReadLine(line.line)), line.outcome) << line.line;
+    EXPECT_EQ(test::DescriptionOf(reader.ReadLine(line.line)), line.outcome) << line.line;
   }
 }
 

@@ -225,7 +225,7 @@ TEST(GeometryCommands, ReportTheOutcomeOfALine) {
   CMGeom geom;
   GeometryReader reader(geom);
   for (const Line& line : lines) {
-    EXPECT_EQ(test::Told(reader.ReadLine(line.text)), line.outcome) << line.text;
+    EXPECT_EQ(test::DescriptionOf(reader.ReadLine(line.text)), line.outcome) << line.text;
   }
 }
 

@@ -18,7 +18,7 @@ std::vector<LineOutcome> Feed(READER& reader, const std::string& text) {
 }
 
 /// An outcome in words.
-inline std::string Told(LineOutcome outcome) {
+inline std::string DescriptionOf(LineOutcome outcome) {
   if (outcome == LineOutcome::Imported()) return "imported";
   return outcome == LineOutcome::Ignored() ? "ignored" : outcome.Reason();
 }

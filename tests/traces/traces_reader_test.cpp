@@ -229,7 +229,7 @@ TEST(TracesReader, ReportsTheOutcomeOfALine) {
     CMTraces traces;
     TracesReader reader(traces);
     const LineOutcome outcome = Feed(reader, c.text + "\n").back();
-    EXPECT_EQ(test::Told(outcome), c.model) << c.text;
+    EXPECT_EQ(test::DescriptionOf(outcome), c.model) << c.text;
   }
 }
 
