@@ -64,6 +64,7 @@ TEST(Tool, HasHelpOnEveryLevel) {
     const auto result = RunTool(arguments);
     EXPECT_EQ(result.status, 0);
     EXPECT_NE(result.out.find("Example:"), std::string::npos) << arguments;
+    EXPECT_EQ(result.out.find("TEXT"), std::string::npos) << arguments;  // what CLI11 calls a value
   }
   EXPECT_EQ(RunTool("--version").out, "kestrin " KESTRIN_VERSION "\n");
 }
@@ -153,6 +154,7 @@ TEST(Tool, ChecksWhatAnImportSkips) {
 
   const auto json = RunTool("check --format json --tech " + file);
   EXPECT_EQ(json.status, 1);
+  EXPECT_TRUE(json.out.ends_with("}\n"));
   rapidjson::Document document;
   ASSERT_FALSE(document.Parse(json.out.c_str()).HasParseError());
   const auto& report = document["files"][0];
@@ -203,6 +205,7 @@ TEST(Tool, SummarizesTheSampleBoardAndFindsNothingSkipped) {
                            "7  CHIP_0805",
                            "Nets: 15 with 55 pins",
                            "14  GND",
+                           "  and 5 more\n",
                            "Traces: units MM",
                            "segments                  103",
                            "islands                    29",

@@ -112,31 +112,32 @@ TEST(StrictParser, AcceptsFillHeaders) {
   }
 }
 
-TEST(StrictParser, AcceptsTheRecordsOfAFill) {
-  const std::string fill = "FIL 'A' 'B' S 4 5 6 7 8 9 10 11 12 T A B C\nVER 1 2\n";
-  const std::string fillModel = " fil{name=(A B) 3=(S 4 5 6 7 8 9 10 11 12) tail=(A B C) ver{x=1 y=2}";
-  const Case tails[] = {
-      {"5 6", "5 6)"},
-      {"5.5 6", "5.5 6)"},
-      {"5 6 W 8", "5 6) lastValue=8"},
-      {"5.5 6 W 8", "5.5 6) lastValue=8"},
-      {"5 6 W 8 9 10 11 X 13", "5 6) lastValue=13 8=(8 9 10 11)"},
-      {"5.5 6 W 8.9 -9.9 10.5 11.5 X 13", "5.5 6) lastValue=13 8=(8 -9 10.5 11.5)"},
-  };
-  for (const Case& tail : tails) {
-    const std::string area = " A 'B' S 4 " + tail.text + "\nVER 1 2\n";
-    const std::string areaModel = "{name=(A B) 3=(S 4 " + tail.model + " ver{x=1 y=2}}";
-    ExpectRecords({
-        {"ARE" + area, " fil{name=(A B) are" + areaModel + "}"},
-        {fill + "ARE" + area, fillModel + " are" + areaModel + "}"},
-        {fill + "ARS" + area, fillModel + " ars" + areaModel + "}"},
-    });
-  }
+const std::string kFill = "FIL 'A' 'B' S 4 5 6 7 8 9 10 11 12 T A B C\nVER 1 2\n";
+const std::string kFillModel = " fil{name=(A B) 3=(S 4 5 6 7 8 9 10 11 12) tail=(A B C) ver{x=1 y=2}";
+
+/// An area of these values from the fifth on, before and in a fill.
+void ExpectAreas(const Case& values) {
+  const std::string area = " A 'B' S 4 " + values.text + "\nVER 1 2\n";
+  const std::string areaModel = "{name=(A B) 3=(S 4 " + values.model + " ver{x=1 y=2}}";
   ExpectRecords({
-      {fill + "ISL 1 VER 1 2 ISS 2 VER 1 2 ISL 3 VER 1 2",
-       fillModel + " isl{1 ver{x=1 y=2}} isl{3 ver{x=1 y=2}} iss{2 ver{x=1 y=2}}}"},
-      {fill + "TTI 1 2 W\nTTI 1.5 2.5 W\nTTI 1 2 -3 4 5 6 7\nTTI 1.5 2.5 003 4 5.5 6.5 7",
-       fillModel + " tti{1 2 W} tti{1.5 2.5 W} tti{1 2 -3 4 5 6 7} tti{1.5 2.5 3 4 5.5 6.5 7}}"},
+      {"ARE" + area, " fil{name=(A B) are" + areaModel + "}"},
+      {kFill + "ARE" + area, kFillModel + " are" + areaModel + "}"},
+      {kFill + "ARS" + area, kFillModel + " ars" + areaModel + "}"},
+  });
+}
+
+TEST(StrictParser, AcceptsTheRecordsOfAFill) {
+  ExpectAreas({"5 6", "5 6)"});
+  ExpectAreas({"5.5 6", "5.5 6)"});
+  ExpectAreas({"5 6 W 8", "5 6) lastValue=8"});
+  ExpectAreas({"5.5 6 W 8", "5.5 6) lastValue=8"});
+  ExpectAreas({"5 6 W 8 9 10 11 X 13", "5 6) lastValue=13 8=(8 9 10 11)"});
+  ExpectAreas({"5.5 6 W 8.9 -9.9 10.5 11.5 X 13", "5.5 6) lastValue=13 8=(8 -9 10.5 11.5)"});
+  ExpectRecords({
+      {kFill + "ISL 1 VER 1 2 ISS 2 VER 1 2 ISL 3 VER 1 2",
+       kFillModel + " isl{1 ver{x=1 y=2}} isl{3 ver{x=1 y=2}} iss{2 ver{x=1 y=2}}}"},
+      {kFill + "TTI 1 2 W\nTTI 1.5 2.5 W\nTTI 1 2 -3 4 5 6 7\nTTI 1.5 2.5 003 4 5.5 6.5 7",
+       kFillModel + " tti{1 2 W} tti{1.5 2.5 W} tti{1 2 -3 4 5 6 7} tti{1.5 2.5 3 4 5.5 6.5 7}}"},
   });
 }
 
