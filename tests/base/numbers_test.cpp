@@ -70,6 +70,7 @@ TEST(Numbers, DoubleReadsTheLongestDecimalPrefix) {
   EXPECT_EQ(ToDouble(zeros + "1e401"), 1.0);
   EXPECT_EQ(ToDouble(zeros + "1e300"), 1e-101);
   EXPECT_EQ(ToDouble(zeros + "1e800"), kInfinity);
+  EXPECT_EQ(ToDouble("0." + std::string(500, '9') + "e-400"), 0.0);
   EXPECT_EQ(ToDouble(zeros + "1.5e800"), 0.0);  // the number ends before the second point
   EXPECT_EQ(ToDouble(std::string(400, '9')), kInfinity);
   EXPECT_EQ(ToDouble(std::string(400, '9') + "e-395"), 100000.0);

@@ -153,8 +153,7 @@ TEST_F(MPTracesParserTest, ReadsOnAfterTheTokenThatEndedAParse) {
       {"SEG UNITS\n" + kBegin + kEnd, "@0 @0 5 " + kModel},  // still in the SEG line
       {"X (A\n" + kBegin + kEnd, "@0 @0 5 " + kModel},
       {"UNITS ST X\n1 " + application, "@0 @0 @1 4 " + kModel},
-      {application + "# NET 'A'\nXRF\n" + application, "@5 5 " + kModel},  // with a model of its own
-      {"FIL\n" + application + "ARE 'A' 'L' S 4 5 6 VER 1 2\n",            // the first FIL of another parse
+      {"FIL\n" + application + "ARE 'A' 'L' S 4 5 6 VER 1 2\n",  // the first FIL of another parse
        "@0 6 " + kModel + " fil{name=(A L) are{name=(A L) 3=(S 4 5 6) ver{x=1 y=2}}}"},
   };
   for (const Case& c : cases) {
@@ -165,6 +164,20 @@ TEST_F(MPTracesParserTest, ReadsOnAfterTheTokenThatEndedAParse) {
     ReadFromStandardInput(path);
     EXPECT_EQ(Parses(parser), c.parses) << c.text.substr(0, 200);
   }
+}
+
+TEST_F(MPTracesParserTest, MakesAModelOfItsOwnWithEveryParse) {
+  const std::string begin = "# Application x\n" + kBegin;
+  MPTracesParser parser(Path(begin + "# NET 'A'\nXRF\n" + begin + "TTT 1 2 3 4 5\n").data());
+  testing::internal::CaptureStderr();
+  EXPECT_EQ(parser.Parse(), 1);
+  testing::internal::GetCapturedStderr();
+  const std::unique_ptr<CMTraces> rejected(parser.GetTraces());
+  EXPECT_EQ(parser.Parse(), 0);
+  const std::unique_ptr<CMTraces> accepted(parser.GetTraces());
+  EXPECT_EQ(Described(*accepted), kModel + " ttt{1 2 3 4 5}");
+  EXPECT_EQ(Described(*rejected), kModel + " net{name=A}");
+  parser.Close();
 }
 
 /// Redirects standard input to a pipe that is written to while it is read.
