@@ -5,6 +5,7 @@
 
 #include <array>
 
+#include "fuzz/four_files.h"
 #include "fuzz/subjects.h"
 #include "kestrin/session/import_session.h"
 #include "kestrin/windowing/messages.h"
@@ -12,9 +13,6 @@
 
 namespace kestrin::fuzz {
 namespace {
-
-/// Separates the files of an input.
-constexpr char kFileSeparator = '\x1c';
 
 /// A file in memory, with a path.
 class MemoryFile {
@@ -50,18 +48,6 @@ class BusyDialog : public CWnd {
   int budget_ = 200;
 };
 
-struct Files {
-  std::array<std::string_view, kImportFileCount> texts;
-
-  explicit Files(std::string_view input) {
-    for (std::string_view& text : texts) {
-      const std::size_t end = input.find(kFileSeparator);
-      text = input.substr(0, end);
-      input.remove_prefix(end == std::string_view::npos ? input.size() : end + 1);
-    }
-  }
-};
-
 struct Import {
   std::array<std::string, kImportFileCount> models;
   std::size_t tracesLines = 0;
@@ -75,7 +61,7 @@ std::string_view FirstLines(std::string_view text, std::size_t count) {
                               : text;
 }
 
-Import Run(const Files& files, bool withDialog) {
+Import Run(const FourFiles& files, bool withDialog) {
   const std::array<MemoryFile, kImportFileCount> stored{
       MemoryFile(files.texts[0]), MemoryFile(files.texts[1]), MemoryFile(files.texts[2]),
       MemoryFile(files.texts[3])};
@@ -116,7 +102,7 @@ Import Run(const Files& files, bool withDialog) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
   using namespace kestrin::fuzz;
-  const Files files(TextOf(bytes, size));
+  const FourFiles files(TextOf(bytes, size));
   const Import busy = Run(files, true);
   const Import quiet = Run(files, false);
   Require(busy.raised == quiet.raised && busy.models == quiet.models,
