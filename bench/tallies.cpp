@@ -1,6 +1,7 @@
 #include "bench/tallies.h"
 
 #include "kestrin/geometry/geometry_fields.h"
+#include "kestrin/records/fields.h"
 #include "kestrin/traces/traces_fields.h"
 
 namespace kestrin::bench {
@@ -23,10 +24,7 @@ struct ModelTally : Tally {
   void Add(const Value* value) {
     Add(*value);
   }
-  template <class Record>
-  requires requires(const Record& record) {
-    ForEachField(record, [](const char*, const auto&) {});
-  }
+  template <HasFields Record>
   void Add(const Record& record) {
     AddRecord({});
     ForEachField(record, [this](const char* /*name*/, const auto& value) { this->Add(value); });

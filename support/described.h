@@ -18,15 +18,11 @@
 
 #include "kestrin/geometry/geometry_fields.h"
 #include "kestrin/neutral/neutral_fields.h"
+#include "kestrin/records/fields.h"
 #include "kestrin/tech/tech_fields.h"
 #include "kestrin/traces/traces_fields.h"
 
 namespace kestrin::test {
-
-template <class Record>
-concept HasFields = requires(const Record& record) {
-  ForEachField(record, [](const char*, const auto&) {});
-};
 
 /// "drillSize" for "m_dDrillSize".
 [[nodiscard]] std::string ShortName(std::string_view member);

@@ -142,7 +142,7 @@ int Check(const ExportSet& files, CheckFormat format) {
     if (strictTraces != nullptr) PrintErrors(*strictTraces);
     for (const FileReport* file : reports) PrintCounts(*file);
     if (strictTraces != nullptr) {
-      std::printf("%s: strict parser: %s read, %s\n", PathToTerminal(strictTraces->path).c_str(),
+      std::printf("%s: strict reader: %s read, %s\n", PathToTerminal(strictTraces->path).c_str(),
                   CountOfLines(strictTraces->parse.line).c_str(), Verdict(strictTraces->parse).c_str());
     }
   }

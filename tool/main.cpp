@@ -23,7 +23,7 @@ struct Arguments {
 };
 
 constexpr char kExitStatuses[] =
-    "Exit status: 0 on success; 1 if a reader stopped early, the strict parser gave up, or "
+    "Exit status: 0 on success; 1 if a reader stopped early, the strict reader gave up, or "
     "check found skipped lines or syntax errors; 2 if the command line is wrong or a file cannot be read.";
 
 void AddFileOptions(CLI::App& command, Arguments& arguments) {

@@ -5,16 +5,12 @@
 
 #include "kestrin/geometry/geometry_fields.h"
 #include "kestrin/neutral/neutral_fields.h"
+#include "kestrin/records/fields.h"
 #include "kestrin/tech/tech_fields.h"
 #include "kestrin/traces/traces_fields.h"
 #include "tool/json_writer.h"
 
 namespace kestrin::tool {
-
-template <class Record>
-concept HasFields = requires(const Record& record) {
-  ForEachField(record, [](const char*, const auto&) {});
-};
 
 template <HasFields Record>
 void WriteJson(JsonWriter& json, const Record& record) {

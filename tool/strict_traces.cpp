@@ -11,14 +11,14 @@ namespace {
 
 std::string WhyStopped(const std::string& path, const StrictParse& parse, const std::string& readError) {
   const auto at = [&](std::int64_t line) { return path + ":" + std::to_string(line) + ": "; };
-  if (!readError.empty()) return at(parse.line) + "strict parser stopped: " + readError;
+  if (!readError.empty()) return at(parse.line) + "strict reader stopped: " + readError;
   switch (parse.result) {
     case ParseResult::kAccepted: return {};
-    case ParseResult::kExhausted: return at(parse.line + 1) + "strict parser gave up: " + parse.error;
+    case ParseResult::kExhausted: return at(parse.line + 1) + "strict reader gave up: " + parse.error;
     case ParseResult::kRejected: break;
   }
   const SyntaxError& last = parse.errors.back();
-  return at(LineOf(last)) + "strict parser gave up: " + ToTerminal(last.Describe());
+  return at(LineOf(last)) + "strict reader gave up: " + ToTerminal(last.Describe());
 }
 
 }  // namespace

@@ -6,7 +6,7 @@
 #include "tool/board.h"
 #include "tool/board_summary.h"
 #include "tool/exit_status.h"
-#include "tool/geom_summary.h"
+#include "tool/geometry_summary.h"
 #include "tool/import.h"
 #include "tool/neutral_summary.h"
 #include "tool/output.h"

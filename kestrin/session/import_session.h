@@ -51,7 +51,8 @@ class CMTraces;
 /// messages of your windows are dispatched on the calling thread: their handlers must not use the session or
 /// its models until vParse returns.
 class KESTRIN_EXPORT CPC_KESTRIN_GET {
-  // The owners of the roots, which copies share. Destroyed from last to first.
+  // The owners of the roots, which copies share. Members are destroyed from last to first, and hosts expect
+  // the roots to be deleted in the order Geometry, components, nets, Traces, Tech.
   std::shared_ptr<CMTech> tech_;
   std::shared_ptr<CMTraces> traces_;
   std::shared_ptr<CMNetList> netList_;

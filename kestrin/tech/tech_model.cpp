@@ -5,11 +5,13 @@
 namespace kestrin {
 namespace {
 
-const CMTechStackUpOrder* FindLayer(const CMTechStackupArray& layers, const CString& name) {
-  const auto* found = std::find_if(layers.begin(), layers.end(), [&](const CMTechStackUpOrder* layer) {
+/// Null if no layer has the name, or if a host has set the pointer to the list to null.
+const CMTechStackUpOrder* FindLayer(const CMTechStackupArray* layers, const CString& name) {
+  if (layers == nullptr) return nullptr;
+  const auto* found = std::find_if(layers->begin(), layers->end(), [&](const CMTechStackUpOrder* layer) {
     return layer != nullptr && layer->m_sPhysicalLayerName == name;
   });
-  return found == layers.end() ? nullptr : *found;
+  return found == layers->end() ? nullptr : *found;
 }
 
 }  // namespace
@@ -24,12 +26,12 @@ CMTech& CMTech::operator=(const CMTech&) = default;
 CMTech::~CMTech() = default;
 
 int CMTech::GetPhysicalLayerNumber(CString physicalLayerName) const {
-  const CMTechStackUpOrder* layer = FindLayer(*m_pStackupArray, physicalLayerName);
+  const CMTechStackUpOrder* layer = FindLayer(m_pStackupArray, physicalLayerName);
   return layer == nullptr ? 0 : layer->m_nPhysicalLayerNumber;
 }
 
 void CMTech::GetLogicalLayerNamesForPhysicalLayerName(CString physicalLayerName, CStringArray& names) const {
-  const CMTechStackUpOrder* layer = FindLayer(*m_pStackupArray, physicalLayerName);
+  const CMTechStackUpOrder* layer = FindLayer(m_pStackupArray, physicalLayerName);
   if (layer != nullptr) names.Copy(layer->m_arrLogicalLayerNames);
 }
 

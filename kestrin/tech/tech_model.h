@@ -61,7 +61,8 @@ class KESTRIN_EXPORT CMTechViaArray : public CExPtrArray<CMTechVia*> {};
 ///
 /// Copies share the lists, which are destroyed with the last copy. The pointers to the lists are never null.
 class KESTRIN_EXPORT CMTech {
-  /// What copies share. Destroyed from last to first: physical layers, via rules, pins.
+  /// What copies share. Members are destroyed from last to first, and hosts expect the records to be deleted
+  /// in the order physical layers, via rules, pins.
   struct Contents {
     Owning<CMTechPinArray> pins;
     Owning<CMTechViaArray> vias;

@@ -19,6 +19,27 @@ for header in $headers; do echo "#include <$header>" >"${header//\//-}.cpp"; don
 awk '/^```/ { shown = /^```cpp/; file = "shown-" ++count ".cpp"; next } shown { print >file }' \
   "$source"/README.md "$source"/docs/integration.md
 
+# Every root, list and coordinate list is a plain pointer.
+cat >host-lines.cpp <<'END'
+#include <kestrin/kestrin.h>
+template <class T>
+long long Count(const kestrin::CArray<T*, T*>* list) {
+  return list->GetSize();
+}
+long long WalkAsHostsDo(kestrin::CPC_KESTRIN_GET& session, bool isWanted) {
+  auto* geom = session.m_pGeom;
+  auto* board = geom->m_pBoard;
+  const auto* pins = geom->m_pPins;
+  auto list = geom->m_pComponents->GetAt(0)->m_pTexts;
+  list = board->m_pTexts;
+  auto* net = session.m_pTraces->m_pNetArray->GetAt(0);
+  auto* wires = isWanted ? net->m_pWirArray : nullptr;
+  const auto* path = static_cast<kestrin::CMGeomPath*>(board->m_pDrawObjs->GetAt(0));
+  auto* xy = path->m_pCoords;
+  return Count(pins) + Count(list) + Count(wires) + Count(net->m_pWirArray) + xy->GetSize();
+}
+END
+
 # Other headers define macros with these names. They may be included before or after the library's.
 cat >host.inc <<'END'
 struct Window : kestrin::CWnd {

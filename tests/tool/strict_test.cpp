@@ -46,7 +46,7 @@ TEST(ToolStrict, ListsSyntaxErrorsBesideSkippedLines) {
                           ":4: syntax-error: found a real number (3.5), expected a whole number\n" + tech +
                           ": 1 line read, 1 skipped\n  unknown-record: 1\n" + file +
                           ": 4 lines read, 0 skipped\n" + file +
-                          ": strict parser: 6 lines read, accepted with 1 syntax error\n");
+                          ": strict reader: 6 lines read, accepted with 1 syntax error\n");
   rapidjson::Document document;
   document.Parse(RunTool("check --strict --format json --traces " + file).out.c_str());
   ASSERT_FALSE(document.HasParseError());
@@ -60,7 +60,7 @@ TEST(ToolStrict, ShowsTheModelSoFarIfTheParserGivesUp) {
   const auto dump = RunTool("dump --strict --traces " + file);
   EXPECT_EQ(dump.status, 1);
   EXPECT_EQ(dump.err, "kestrin: " + file +
-                          ":6: strict parser gave up: found an apostrophe ('), expected a whole number\n");
+                          ":6: strict reader gave up: found an apostrophe ('), expected a whole number\n");
   rapidjson::Document document;
   ASSERT_FALSE(document.Parse(dump.out.c_str()).HasParseError());
   EXPECT_EQ(document["traces"]["m_pTttArray"].Size(), 1U);

@@ -209,8 +209,8 @@ TEST(Tool, SummarizesTheSampleBoardAndFindsNothingSkipped) {
                            "Traces: units MM",
                            "segments                  103",
                            "islands                    29",
-                           "rotation of components: counter-clockwise on the top, counter-clockwise on the "
-                           "bottom; confirmed by the copper",
+                           "rotation of components: counter-clockwise on the top, ",
+                           "counter-clockwise on the bottom; confirmed by the copper",
                            "pins that touch copper of their net: 53 of 53",
                            "digits only: 0.01 of the Traces file's unit",
                            "components: 16, 14 on the top and 2 on the bottom",

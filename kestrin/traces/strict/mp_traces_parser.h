@@ -15,11 +15,11 @@ class CMTraces;
 ///
 ///     char path[] = "board.traces";
 ///     MPTracesParser parser(path);
-///     if (parser.Parse() == 0) {
-///       std::unique_ptr<CMTraces> traces(parser.GetTraces());
-///       …
-///     }
+///     const bool isAccepted = parser.Parse() == 0;
+///     std::unique_ptr<CMTraces> traces(parser.GetTraces());  // the caller's, accepted or not
 ///     parser.Close();
+///
+/// This is right for the first file of a process; see GetTraces for the next ones.
 ///
 /// All objects of the class share the same state, for the whole process: the input and the position in it,
 /// the model, the error text and the line. So only one parse may run at a time, and its results are valid

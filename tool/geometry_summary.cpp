@@ -1,4 +1,4 @@
-#include "tool/geom_summary.h"
+#include "tool/geometry_summary.h"
 
 #include <algorithm>
 #include <charconv>
@@ -8,8 +8,9 @@
 #include <cstdio>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
-#include "kestrin/geometry/geometry_model.h"
+#include "kestrin/geometry/geometry_fields.h"
 #include "tool/readable_text.h"
 #include "tool/text_table.h"
 
@@ -65,18 +66,10 @@ void CountIn(const Record& record, Counts& counts) {
   counts.drawObjs += record.m_pDrawObjs->GetSize();
   counts.texts += record.m_pTexts->GetSize();
   counts.adds += record.m_pAdds->GetSize();
-  if constexpr (requires { record.m_pDrills; }) {
-    counts.drills += record.m_pDrills->GetSize() + record.m_pUnplatedDrills->GetSize();
-  }
-  if constexpr (requires { record.m_pPlacementKeepouts; }) {
-    counts.keepouts += record.m_pPlacementKeepouts->GetSize();
-  }
-  if constexpr (requires { record.m_pRoutingKeepouts; }) {
-    counts.keepouts += record.m_pRoutingKeepouts->GetSize();
-  }
-  if constexpr (requires { record.m_pTraceKeepouts; }) {
-    counts.keepouts += record.m_pTraceKeepouts->GetSize() + record.m_pViaKeepouts->GetSize();
-  }
+  ForEachField(record, [&]<class Value>(const char* /*name*/, const Value& value) {
+    if constexpr (std::is_same_v<Value, RecordArray<CMGeomDrill>*>) counts.drills += value->GetSize();
+    if constexpr (std::is_same_v<Value, RecordArray<CMGeomKeepout>*>) counts.keepouts += value->GetSize();
+  });
 }
 
 template <class Record>
