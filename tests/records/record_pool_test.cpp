@@ -85,14 +85,14 @@ void MakeAsHostsDo() {
   const auto isAligned = [](const HostRecord& record) {
     return reinterpret_cast<std::uintptr_t>(&record) % alignof(HostRecord) == 0 && record.number == 3;
   };
-  const std::unique_ptr<HostRecord> plain(
-      new HostRecord(3));  // NOLINT(modernize-make-unique): this very operator
+  const std::unique_ptr<HostRecord> plain(new HostRecord(3));
   EXPECT_TRUE(isAligned(*plain));
   const std::unique_ptr<HostRecord> nothrow(new (std::nothrow) HostRecord(3));
   EXPECT_TRUE(isAligned(*nothrow));
   const auto shared = std::make_shared<HostRecord>(3);
   EXPECT_TRUE(isAligned(*shared));
   alignas(HostRecord) std::array<std::byte, sizeof(HostRecord)> memory;
+  // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the memory above owns it
   HostRecord* const placed = new (memory.data()) HostRecord(3);
   EXPECT_TRUE(isAligned(*placed));
   std::destroy_at(placed);
