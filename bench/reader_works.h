@@ -4,11 +4,13 @@
 /// The library's readers as works.
 
 #include <cstring>
+#include <optional>
 #include <stdexcept>
 #include <string_view>
 
 #include "bench/measuring/work.h"
 #include "bench/tallies.h"
+#include "kestrin/board/read_board.h"
 #include "kestrin/framework/stdio_file.h"
 #include "kestrin/geometry/geometry_reader.h"
 #include "kestrin/neutral/neutral_reader.h"
@@ -63,6 +65,7 @@ struct BuiltBoard final : Built {
   }
 
   CPC_KESTRIN_GET session;
+  std::optional<Board> board;
 };
 
 /// Runs a reader on text in memory.
@@ -106,7 +109,15 @@ inline std::unique_ptr<Built> ImportBoard(const Input& input) {
   return built;
 }
 
-/// The same with a dialog that shows progress.
+/// Imports the board and joins the models into one.
+inline std::unique_ptr<Built> ImportAndReadBoard(const Input& input) {
+  auto built = std::make_unique<BuiltBoard>(input.path);
+  built->session.vParse();
+  built->board = ReadBoard(ModelsOf(built->session));
+  return built;
+}
+
+/// Imports the board with a dialog that shows progress.
 inline std::unique_ptr<Built> ImportBoardWithDialog(const Input& input) {
   const CWnd dialog;
   CWnd status(&dialog);

@@ -44,6 +44,7 @@ constexpr NamedWork kWorks[] = {
     {"tech", kReaderFromMemory, &ReadFromMemory<BuiltTech>},
     {"tech", kReader, &ReadFromFile<BuiltTech>},
     {kBoard, kImport, &ImportBoard},
+    {kBoard, kImportAndBoard, &ImportAndReadBoard},
     {kBoard, kImportWithDialog, &ImportBoardWithDialog},
 };
 

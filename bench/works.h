@@ -19,6 +19,7 @@ inline constexpr std::string_view kStrictReader = "strict reader, from memory";
 inline constexpr std::string_view kReader = "reader, from the file";
 inline constexpr std::string_view kPlainC = "plain C, from the file";
 inline constexpr std::string_view kImport = "import";
+inline constexpr std::string_view kImportAndBoard = "import and ReadBoard";
 inline constexpr std::string_view kImportWithDialog = "import with progress shown";
 ///@}
 

@@ -28,7 +28,7 @@ void RequireNumber(Point point) {
   Require(!std::isnan(point.x) && !std::isnan(point.y), "no coordinate is not-a-number");
 }
 
-void RequirePoints(const std::vector<Point>& points) {
+void RequirePoints(std::span<const Point> points) {
   for (const Point& point : points) RequireNumber(point);
 }
 
@@ -36,22 +36,24 @@ void RequirePoints(const std::vector<Point>& points) {
 void RequireConsistent(const Board& board) {
   for (const Component& component : board.components) {
     RequireNumber(component.position);
-    for (const Pin& pin : component.pins) {
+    for (const Pin& pin : board.PinsOf(component)) {
       RequireNumber(pin.position);
       Require(!pin.padstack || *pin.padstack < board.padstacks.size(), "the padstack of a pin exists");
       Require(!pin.net || *pin.net < board.nets.size(), "the net of a pin exists");
     }
   }
   for (const Net& net : board.nets) {
-    for (const NetPin& pin : net.pins) {
+    for (const NetPin& pin : board.PinsOf(net)) {
       Require(!pin.component || *pin.component < board.components.size(), "the component of a pin exists");
-      Require(!pin.pin || *pin.pin < board.components[*pin.component].pins.size(), "the pin of a net exists");
+      Require(!pin.pin || *pin.pin - board.components[*pin.component].pins.first <
+                              board.components[*pin.component].pins.count,
+              "the pin of a net exists");
     }
-    for (const Track& track : net.tracks) {
-      Require(track.points.size() > 1 && track.layer != 0, "a track has legs on a layer");
-      RequirePoints(track.points);
+    for (const Track& track : board.TracksOf(net)) {
+      Require(track.points.count > 1 && track.layer != 0, "a track has legs on a layer");
+      RequirePoints(board.PointsOf(track));
     }
-    for (const Via& via : net.vias) {
+    for (const Via& via : board.ViasOf(net)) {
       RequireNumber(via.position);
       Require(via.padstack < board.viaPadstacks.size(), "the padstack of a via exists");
     }

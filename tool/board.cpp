@@ -30,13 +30,9 @@ BoardOptions OptionsOf(const ReadingWords& words) {
 }  // namespace
 
 Board BoardOf(const Imported& imported, const BoardOptions& options) {
-  const CPC_KESTRIN_GET& session = imported.session;
-  return ReadBoard({.tech = session.GetTech(),
-                    .components = session.GetComps(),
-                    .nets = session.GetNetList(),
-                    .geometry = session.GetGeom(),
-                    .traces = imported.Traces()},
-                   options);
+  BoardModels models = ModelsOf(imported.session);
+  models.traces = imported.Traces();
+  return ReadBoard(models, options);
 }
 
 int PrintBoard(const ExportSet& files, const ReadingWords& words) {

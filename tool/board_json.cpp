@@ -1,6 +1,7 @@
 #include "tool/board_json.h"
 
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "tool/board.h"
@@ -49,7 +50,7 @@ void WritePosition(JsonWriter& json, Point point) {
   WriteNumber(json, "y", point.y);
 }
 
-void WritePoints(JsonWriter& json, const char* name, const std::vector<Point>& points) {
+void WritePoints(JsonWriter& json, const char* name, std::span<const Point> points) {
   WriteList(json, name, points, [&](Point point) { WritePoint(json, point); });
 }
 
@@ -102,16 +103,16 @@ void WriteComponent(JsonWriter& json, const Board& board, const Component& compo
   json.Key("rotation");
   json.Int(component.rotation);
   WriteText(json, "side", component.side == Side::kTop ? "top" : "bottom");
-  WriteList(json, "pins", component.pins, [&](const Pin& pin) { WritePin(json, board, pin); });
+  WriteList(json, "pins", board.PinsOf(component), [&](const Pin& pin) { WritePin(json, board, pin); });
   json.EndObject();
 }
 
-void WriteTrack(JsonWriter& json, const Track& track) {
+void WriteTrack(JsonWriter& json, const Board& board, const Track& track) {
   json.StartObject();
   json.Key("layer");
   json.Int(track.layer);
   WriteNumber(json, "width", track.width);
-  WritePoints(json, "points", track.points);
+  WritePoints(json, "points", board.PointsOf(track));
   json.EndObject();
 }
 
@@ -152,10 +153,10 @@ void WriteOpen(JsonWriter& json, const OpenConnection& open) {
 void WriteNet(JsonWriter& json, const Board& board, const Net& net) {
   json.StartObject();
   WriteText(json, "name", net.name);
-  WriteList(json, "pins", net.pins, [&](const NetPin& pin) { json.String(pin.name); });
-  WriteList(json, "tracks", net.tracks, [&](const Track& track) { WriteTrack(json, track); });
+  WriteList(json, "pins", board.PinsOf(net), [&](const NetPin& pin) { json.String(pin.name); });
+  WriteList(json, "tracks", board.TracksOf(net), [&](const Track& track) { WriteTrack(json, board, track); });
   WriteList(json, "length", net.lengths, [&](const LayerLength& length) { WriteLength(json, length); });
-  WriteList(json, "vias", net.vias, [&](const Via& via) { WriteVia(json, board, via); });
+  WriteList(json, "vias", board.ViasOf(net), [&](const Via& via) { WriteVia(json, board, via); });
   WriteList(json, "areas", net.areas, [&](const Area& area) { WriteArea(json, area); });
   WriteList(json, "open", net.open, [&](const OpenConnection& open) { WriteOpen(json, open); });
   json.EndObject();

@@ -24,9 +24,9 @@ std::string Millimetres(double length) {
 /// The totals of a net or of the whole board.
 struct Totals {
   void Add(const Net& net) {
-    pins += net.pins.size();
-    tracks += net.tracks.size();
-    vias += net.vias.size();
+    pins += net.pins.count;
+    tracks += net.tracks.count;
+    vias += net.vias.count;
     areas += net.areas.size();
     open += net.open.size();
     for (const LayerLength& layer : net.lengths) length += layer.length;

@@ -38,6 +38,12 @@ inline constexpr Goal kGoals[] = {
     {"neutral", "reader ÷ fields", kReadingFromMemory, Term{kFields, kTime}, "≤ 1.00"},
     {"neutral", "destroying the model ÷ building it", {kReader, kDestroying}, kReading, "≤ 0.25"},
     {"neutral", kPeak, {kReader, kPeak}, std::nullopt, "≤ 1.50"},
+    {kBoard, "import and ReadBoard ÷ import", {kImportAndBoard, kTime}, Term{kImport, kTime}, "≤ 1.50"},
+    {kBoard,
+     "memory of import and ReadBoard ÷ that of import",
+     {kImportAndBoard, kPeak},
+     Term{kImport, kPeak},
+     "≤ 2.00"},
     {kBoard, "destroying the model ÷ building it", {kImport, kDestroying}, Term{kImport, kTime}, "≤ 0.25"},
 };
 

@@ -1,9 +1,9 @@
 #include <utility>
 
 #include "kestrin/board/copper.h"
+#include "kestrin/board/for_each_record.h"
 #include "kestrin/board/point_strips.h"
 #include "kestrin/board/polygons.h"
-#include "kestrin/board/records.h"
 #include "kestrin/traces/traces_model.h"
 
 namespace kestrin {
@@ -43,14 +43,14 @@ class HoleAssignment {
 
 struct Fill {
   const CMTracesFIL& record;
-  std::size_t index;
+  Index index;
   double unit;
 };
 
 template <class Areas, class Islands>
 void AddAreas(const Fill& fill, const Areas& areas, const Islands& islands, bool isFromArsList, Net& net) {
   const std::size_t firstArea = net.areas.size();
-  ForEachRecord(areas, [&](const CMTracesArea& record, std::size_t index) {
+  ForEachRecord(areas, [&](const CMTracesArea& record, Index index) {
     Area& area = net.areas.emplace_back();
     area.layer = ComparedName(fill.record.m_sName2.View());
     area.outline = VerticesOf(record, fill.unit);
@@ -59,14 +59,14 @@ void AddAreas(const Fill& fill, const Areas& areas, const Islands& islands, bool
     area.isFromArsList = isFromArsList;
   });
   HoleAssignment holes;
-  ForEachRecord(islands, [&](const auto& island, std::size_t) { holes.Add(VerticesOf(island, fill.unit)); });
+  ForEachRecord(islands, [&](const auto& island, Index) { holes.Add(VerticesOf(island, fill.unit)); });
   holes.Assign(net.areas, firstArea);
 }
 
 }  // namespace
 
 void ReadAreas(const CMTraces& traces, NetTable& table, Board& board) {
-  ForEachRecord(traces.m_pFilArray, [&](const CMTracesFIL& record, std::size_t index) {
+  ForEachRecord(traces.m_pFilArray, [&](const CMTracesFIL& record, Index index) {
     if (record.m_pAreArray->IsEmpty() && record.m_pArsArray->IsEmpty()) return;
     Net& net = table.Of(record.m_sName1.View());
     const Fill fill{record, index, board.units.traces};

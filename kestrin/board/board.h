@@ -4,11 +4,9 @@
 /// The board that the four models describe together: components with placed pins, nets with their copper,
 /// and layers in order, all in one unit.
 ///
-///     const auto* nets = session.GetNetList();
-///     const auto* traces = session.GetTraces();
-///     const kestrin::Board board = kestrin::ReadBoard({.nets = nets, .traces = traces});
+///     const kestrin::Board board = kestrin::ReadBoard(kestrin::ModelsOf(session));
 ///     for (const kestrin::Net& net : board.nets) {
-///       for (const kestrin::LayerLength& on : net.lengths) Print(net.name, on.layer, on.length);
+///       for (const kestrin::Track& track : board.TracksOf(net)) Draw(track.layer, board.PointsOf(track));
 ///     }
 ///
 /// ReadBoard (read_board.h) makes a board. It is plain data without pointers into the models: you may walk,
@@ -31,6 +29,7 @@
 #include <cstdint>
 #include <map>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -38,6 +37,10 @@
 #include "kestrin/base/export.h"
 
 namespace kestrin {
+
+/// An index into a list. It has 32 bits, since boards would otherwise be much larger: a list with more
+/// elements counts as one for which there is no memory.
+using Index = std::uint32_t;
 
 /// A point in the plane.
 struct Point {
@@ -53,6 +56,13 @@ struct Point {
 
 /// A closed outline: the last point joins the first, which is not repeated.
 using Polygon = std::vector<Point>;
+
+/// Consecutive elements of one of the board's lists. A board has few large lists instead of many small ones,
+/// since it would otherwise take most of its time to allocate them.
+struct Range {
+  Index first = 0;  ///< the index of the first element
+  Index count = 0;  ///< the number of elements
+};
 
 /// A side of the board.
 enum class Side : std::uint8_t { kTop, kBottom };
@@ -87,17 +97,17 @@ struct Units {
 
 /// A physical layer. Given if there is a Tech file, else convention.
 struct Layer {
-  int number = 0;                          ///< counted from the top
-  std::string name;                        ///< of the physical layer
-  std::vector<std::string> names;          ///< of the logical layers on it; none without a Tech file
-  std::optional<std::size_t> sourceIndex;  ///< in CMTech::m_pStackupArray
+  int number = 0;                    ///< counted from the top
+  std::string name;                  ///< of the physical layer
+  std::vector<std::string> names;    ///< of the logical layers on it; none without a Tech file
+  std::optional<Index> sourceIndex;  ///< in CMTech::m_pStackupArray
 };
 
 /// A padstack that pins name. Given.
 struct Padstack {
-  std::string name;                        ///< as pins name it
-  double unit = 1.0;                       ///< millimetres in a unit of its drawing
-  std::optional<std::size_t> sourceIndex;  ///< in CMGeom::m_pPins; none if no pin geometry has the name
+  std::string name;                  ///< as pins name it
+  double unit = 1.0;                 ///< millimetres in a unit of its drawing
+  std::optional<Index> sourceIndex;  ///< in CMGeom::m_pPins; none if no pin geometry has the name
 };
 
 /// A kind of via. Given.
@@ -106,8 +116,8 @@ struct ViaPadstack {
   double unit = 1.0;  ///< millimetres in a unit of its drawing
   /// The layers that it joins, as ascending indexes into Board::layers. These are the layers that its drawing
   /// objects name; empty means all layers (convention).
-  std::vector<std::size_t> layers;
-  std::optional<std::size_t> sourceIndex;  ///< in CMGeom::m_pVias; none if only a via rule has the name
+  std::vector<Index> layers;
+  std::optional<Index> sourceIndex;  ///< in CMGeom::m_pVias; none if only a via rule has the name
 };
 
 /// Maps the drawing of a geometry onto the board: scales it to millimetres, mirrors it in x, rotates it and
@@ -128,10 +138,10 @@ struct Transform {
 
 /// A pin of a component. Name and padstack are given, the position is fitted.
 struct Pin {
-  std::string name;                     ///< within its component
-  Point position;                       ///< on the board
-  std::optional<std::size_t> padstack;  ///< in Board::padstacks; none if the files name none
-  std::optional<std::size_t> net;       ///< in Board::nets; none if no net has the pin
+  std::string name;               ///< within its component
+  Point position;                 ///< on the board
+  std::optional<Index> padstack;  ///< in Board::padstacks; none if the files name none
+  std::optional<Index> net;       ///< in Board::nets; none if no net has the pin
 };
 
 /// A component. The meaning of the values of its record is convention.
@@ -143,22 +153,22 @@ struct Component {
   std::string symbol;
   std::string geometry;
   ///@}
-  Point position;                            ///< of the geometry's origin
-  int rotation = 0;                          ///< as it is in the file
-  Side side = Side::kTop;                    ///< where it is mounted
-  std::vector<Pin> pins;                     ///< in the geometry's order; empty without a geometry
-  Transform transform;                       ///< fitted
-  std::size_t sourceIndex = 0;               ///< in CMComps::m_pInfos
-  std::optional<std::size_t> geometryIndex;  ///< in CMGeom::m_pComponents; none if no geometry has the name
+  Point position;          ///< of the geometry's origin
+  int rotation = 0;        ///< as it is in the file
+  Side side = Side::kTop;  ///< where it is mounted
+  Range pins;              ///< in the geometry's order; empty without a geometry; see Board::PinsOf
+  Transform transform;     ///< fitted
+  Index sourceIndex = 0;   ///< in CMComps::m_pInfos
+  std::optional<Index> geometryIndex;  ///< in CMGeom::m_pComponents; none if no geometry has the name
 };
 
 /// A pin of a net, as the net names it. Given.
 struct NetPin {
-  std::string name;                      ///< the component's reference, "-", the pin's name
-  std::optional<std::size_t> component;  ///< in Board::components; none if no component has the reference
-  std::optional<std::size_t> pin;        ///< in Component::pins; none if the component has no such pin
-  std::size_t netRecord = 0;             ///< in CMNetList::m_pNets
-  std::size_t pinRecord = 0;             ///< in CMNetInfo::m_pPins of that net
+  std::string name;                ///< the component's reference, "-", the pin's name
+  std::optional<Index> component;  ///< in Board::components; none if no component has the reference
+  std::optional<Index> pin;        ///< in Board::pins; none if the component has no such pin
+  Index netRecord = 0;             ///< in CMNetList::m_pNets
+  Index pinRecord = 0;             ///< in CMNetInfo::m_pPins of that net
 };
 
 /// The list of a net header that a polyline is in.
@@ -170,12 +180,12 @@ enum class WireKind : std::uint8_t {
 
 /// Consecutive legs of a polyline with the same layer and width. Convention; widths may be fitted.
 struct Track {
-  std::vector<Point> points;        ///< two or more
+  Range points;                     ///< two or more; see Board::PointsOf
   std::optional<double> width;      ///< none if unknown
   int layer = 0;                    ///< number of the physical layer, whether or not the board has it
   WireKind kind = WireKind::kWire;  ///< the list with the polyline
-  std::size_t header = 0;           ///< in CMTraces::m_pNetArray
-  std::size_t polyline = 0;         ///< in the header's list
+  Index header = 0;                 ///< in CMTraces::m_pNetArray
+  Index polyline = 0;               ///< in the header's list
 };
 
 /// The length of a net's tracks on a layer.
@@ -186,8 +196,8 @@ struct LayerLength {
 
 /// A via. Convention.
 struct Via {
-  Point position;            ///< on the board
-  std::size_t padstack = 0;  ///< in Board::viaPadstacks
+  Point position;      ///< on the board
+  Index padstack = 0;  ///< in Board::viaPadstacks
 };
 
 /// A filled area. Convention.
@@ -195,8 +205,8 @@ struct Area {
   std::string layer;           ///< as the fill names it; look it up with Board::FindLayer
   Polygon outline;             ///< may have fewer than three points if the file does
   std::vector<Polygon> holes;  ///< in the file's order
-  std::size_t fill = 0;        ///< in CMTraces::m_pFilArray
-  std::size_t area = 0;        ///< in CMTracesFIL::m_pAreArray or m_pArsArray
+  Index fill = 0;              ///< in CMTraces::m_pFilArray
+  Index area = 0;              ///< in CMTracesFIL::m_pAreArray or m_pArsArray
   bool isFromArsList = false;  ///< whether that is m_pArsArray
 };
 
@@ -215,15 +225,15 @@ struct Net {
   ///@{
   /// A part of the net.
   std::string name;
-  std::vector<NetPin> pins;
-  std::vector<Track> tracks;
-  std::vector<Via> vias;
+  Range pins;    ///< in the order of the file; see Board::PinsOf
+  Range tracks;  ///< see Board::TracksOf
+  Range vias;    ///< see Board::ViasOf
   std::vector<Area> areas;
   std::vector<OpenConnection> open;
   ///@}
-  std::vector<LayerLength> lengths;     ///< of the layers with tracks, by ascending layer number
-  std::vector<std::size_t> netRecords;  ///< in CMNetList::m_pNets
-  std::vector<std::size_t> headers;     ///< in CMTraces::m_pNetArray
+  std::vector<LayerLength> lengths;  ///< of the layers with tracks, by ascending layer number
+  std::vector<Index> netRecords;     ///< in CMNetList::m_pNets
+  std::vector<Index> headers;        ///< in CMTraces::m_pNetArray
 };
 
 /// A board. Components, pins and nets are in the order of their files. Nets of the Neutral file come first.
@@ -236,7 +246,7 @@ struct Board {
   /// The indexes into layers of all logical layers, by name. Contains the names that the layers list, and the
   /// eighteen names of the two sides: "PAD_1" is the top layer and "PAD_2" the bottom layer, unless a layer
   /// lists that name (convention).
-  std::map<std::string, std::size_t, std::less<>> layersByName;
+  std::map<std::string, Index, std::less<>> layersByName;
   ///@{
   /// The logical layer "SIGNAL_n" with the lowest or highest number; empty if there is none.
   std::string firstSignalLayer;
@@ -248,10 +258,28 @@ struct Board {
   std::vector<ViaPadstack> viaPadstacks;
   std::vector<Component> components;
   std::vector<Net> nets;
+  std::vector<Pin> pins;        ///< of all components, in the order of the components
+  std::vector<NetPin> netPins;  ///< of all nets, in the order of the nets
+  std::vector<Track> tracks;    ///< of all nets, in the order of the nets
+  std::vector<Point> points;    ///< of all tracks, in the order of the tracks
+  std::vector<Via> vias;        ///< of all nets, in the order of the nets
   ///@}
   /// The number of components whose pins were left out. Files that name large geometries very often would
   /// otherwise make a board with far more pins than the files have lines.
   std::size_t componentsWithoutRoom = 0;
+
+  ///@{
+  /// The elements of a range, valid until the board changes.
+  [[nodiscard]] std::span<const Pin> PinsOf(const Component& component) const {
+    return Elements(pins, component.pins);
+  }
+  [[nodiscard]] std::span<const NetPin> PinsOf(const Net& net) const { return Elements(netPins, net.pins); }
+  [[nodiscard]] std::span<const Track> TracksOf(const Net& net) const { return Elements(tracks, net.tracks); }
+  [[nodiscard]] std::span<const Via> ViasOf(const Net& net) const { return Elements(vias, net.vias); }
+  [[nodiscard]] std::span<const Point> PointsOf(const Track& track) const {
+    return Elements(points, track.points);
+  }
+  ///@}
 
   ///@{
   /// The layer with a number, or with the logical layer of a name; null if there is none. The pointer is
@@ -265,6 +293,12 @@ struct Board {
   /// ("SILKSCREEN_1" becomes "SILKSCREEN_2" and the reverse), and so are the first and last "SIGNAL_n"; other
   /// names stay the same. Convention.
   [[nodiscard]] KESTRIN_EXPORT std::string LayerOn(Side side, std::string_view layer) const;
+
+ private:
+  template <class Element>
+  [[nodiscard]] static std::span<const Element> Elements(const std::vector<Element>& list, Range range) {
+    return std::span<const Element>(list).subspan(range.first, range.count);
+  }
 };
 
 /// The number of millimetres in a unit: MM, CM, IN, INCH, MIL, MILS, THOU or UM, in upper or lower case; none

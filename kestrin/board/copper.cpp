@@ -2,41 +2,52 @@
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
-#include <utility>
 
 #include "kestrin/base/numbers.h"
 #include "kestrin/board/millimetres.h"
-#include "kestrin/board/records.h"
+#include "kestrin/board/polylines.h"
 #include "kestrin/board/widths.h"
 #include "kestrin/traces/traces_model.h"
 
 namespace kestrin {
 namespace {
 
+constexpr double kUnknown = 0.0;  // no width of a track is 0
+
 /// The contents of a SEG record.
 struct Vertex {
   Point point;
   int layer = 0;
-  std::optional<double> width;
-  std::optional<std::size_t> via;
+  bool isVia = false;
+  double width = kUnknown;
 };
 
-/// Reads the polylines of net headers, one header at a time. It gathers all parts of a header before it moves
-/// them to the net, so that the net's lists do not grow element by element.
+/// Reads polylines into the lists of a board, net by net.
 class PolylineReader {
  public:
-  PolylineReader(const Board& board, const NameIndex& viaPadstacks)
-      : unit_(board.units.traces), widthStep_(board.reading.widthStep), viaPadstacks_(viaPadstacks) {}
+  PolylineReader(const CopperSurvey& survey, const NameIndex& viaPadstacks, Board& board)
+      : board_(board),
+        unit_(board.units.traces),
+        widthStep_(board.reading.widthStep.value_or(0.0)),
+        viaPadstacks_(viaPadstacks) {
+    // Usually a track ends only with its polyline or at a via. The next track repeats the point.
+    board.points.reserve(survey.points + survey.texts);
+    board.tracks.reserve(survey.polylines + survey.texts);
+    board.vias.reserve(survey.texts);
+  }
 
-  /// Gathers the tracks and vias of a polyline. Tracks copy their kind and indexes from origin.
+  void BeginNet(Net& net) {
+    net.tracks.first = ToIndex(board_.tracks.size());
+    net.vias.first = ToIndex(board_.vias.size());
+  }
+
+  /// Adds the tracks and vias of a polyline. Tracks copy their kind and indexes from origin.
   template <class Polyline>
   void Read(const Polyline& polyline, const Track& origin) {
     bool isFirst = true;
     Vertex begin;
-    ForEachRecord(polyline.m_pSegArray, [&](const CMTracesSEG& record, std::size_t) {
+    ForEachRecord(polyline.m_pSegArray, [&](const CMTracesSEG& record, Index) {
       const Vertex end = Read(record);
-      if (end.via) vias_.push_back({.position = end.point, .padstack = *end.via});
       if (!isFirst) AddLeg(begin, end, origin);
       isFirst = false;
       begin = end;
@@ -44,121 +55,136 @@ class PolylineReader {
     EndTrack(origin);
   }
 
-  /// Moves everything gathered to the net.
-  void MoveTo(Net& net) {
-    Move(tracks_, net.tracks);
-    Move(vias_, net.vias);
-    Move(lengths_, net.lengths);
+  void EndNet(Net& net) {
+    net.tracks.count = ToIndex(board_.tracks.size()) - net.tracks.first;
+    net.vias.count = ToIndex(board_.vias.size()) - net.vias.first;
+    SumUpLengths(net);
   }
 
  private:
-  template <class T>
-  static void Move(std::vector<T>& from, std::vector<T>& to) {
-    to.insert(to.end(), std::make_move_iterator(from.begin()), std::make_move_iterator(from.end()));
-    from.clear();
-  }
-
-  [[nodiscard]] Vertex Read(const CMTracesSEG& record) const {
-    Vertex vertex;
-    vertex.point = PointAt(record.m_dValue1, record.m_dValue2, unit_);
-    vertex.layer = record.m_nValue3;
+  [[nodiscard]] Vertex Read(const CMTracesSEG& record) {
+    Vertex vertex{.point = PointAt(record.m_dValue1, record.m_dValue2, unit_), .layer = record.m_nValue3};
     const std::string_view text = record.m_sValue4.View();
     if (text.empty()) {
-      if (widthStep_ && record.m_dValue4 > 0.0) vertex.width = Width(record.m_dValue4 * *widthStep_);
+      vertex.width = WidthOfSteps(record.m_dValue4);
     } else if (IsDecimalNumber(text)) {
       vertex.width = Width(ToDouble(text));
-    } else {
-      vertex.via = viaPadstacks_.Find(ComparedName(text));
+    } else if (const auto padstack = PadstackNamed(text)) {
+      vertex.isVia = true;
+      board_.vias.push_back({.position = vertex.point, .padstack = *padstack});
     }
     return vertex;
   }
 
-  /// The width in millimetres; none unless it is positive and finite.
-  [[nodiscard]] std::optional<double> Width(double inFile) const {
+  /// The padstack of a name. Most vias repeat the name of the last one.
+  [[nodiscard]] std::optional<Index> PadstackNamed(std::string_view name) {
+    if (name != lastName_) {
+      lastName_ = name;
+      padstackOfLastName_ = viaPadstacks_.Find(ComparedName(name));
+    }
+    return padstackOfLastName_;
+  }
+
+  /// The width of a number of steps. Most points repeat the number of the last one.
+  [[nodiscard]] double WidthOfSteps(double steps) {
+    if (steps != lastSteps_) {
+      lastSteps_ = steps;
+      widthOfLastSteps_ = Width(steps * widthStep_);
+    }
+    return widthOfLastSteps_;
+  }
+
+  /// The width in millimetres; unknown unless it is positive and finite.
+  [[nodiscard]] double Width(double inFile) const {
     const double width = Rounded(inFile * unit_);
-    return width > 0.0 && std::isfinite(width) ? std::optional(width) : std::nullopt;
+    return width > 0.0 && std::isfinite(width) ? width : kUnknown;
   }
 
   void AddLeg(const Vertex& begin, const Vertex& end, const Track& origin) {
-    const int layer = begin.via ? end.layer : begin.layer;  // at a via the layer changes
-    const std::optional<double> width = begin.width ? begin.width : end.width;
+    const int layer = begin.isVia ? end.layer : begin.layer;  // at a via the layer changes
+    const double width = begin.width != kUnknown ? begin.width : end.width;
     if (layer != layer_ || width != width_) EndTrack(origin);
     if (layer == 0) return;
-    if (points_.empty()) {
+    if (first_ == board_.points.size()) {
       layer_ = layer;
       width_ = width;
-      points_.push_back(begin.point);
+      board_.points.push_back(begin.point);
     }
-    points_.push_back(end.point);
+    board_.points.push_back(end.point);
   }
 
   void EndTrack(const Track& origin) {
-    if (points_.empty()) return;
-    Track& track = tracks_.emplace_back(origin);
-    track.points.assign(points_.begin(), points_.end());
+    const Index count = ToIndex(board_.points.size()) - first_;
+    if (count == 0) return;
+    Track& track = board_.tracks.emplace_back(origin);
+    track.points = {first_, count};
     track.layer = layer_;
-    track.width = width_;
-    AddLength();
-    points_.clear();
+    if (width_ != kUnknown) track.width = width_;
+    AddLength(board_.PointsOf(track));
+    first_ += count;
   }
 
-  void AddLength() {
+  void AddLength(std::span<const Point> points) {
     double length = 0.0;
-    for (std::size_t i = 1; i < points_.size(); ++i) length += Distance(points_[i - 1], points_[i]);
+    for (std::size_t i = 1; i < points.size(); ++i) length += Distance(points[i - 1], points[i]);
     if (lengths_.empty() || lengths_.back().layer != layer_) lengths_.push_back({.layer = layer_});
     lengths_.back().length += length;
   }
 
-  double unit_;
-  std::optional<double> widthStep_;
-  const NameIndex& viaPadstacks_;
-  std::vector<Point> points_;  // of the track that is being read
-  int layer_ = 0;              // of that track
-  std::optional<double> width_;
-  std::vector<Track> tracks_;  // of the header
-  std::vector<Via> vias_;
-  std::vector<LayerLength> lengths_;
-};
-
-/// Adds up the lengths of each layer.
-void SumUp(std::vector<LayerLength>& lengths) {
-  std::sort(lengths.begin(), lengths.end(),
-            [](const LayerLength& a, const LayerLength& b) { return a.layer < b.layer; });
-  std::size_t last = 0;
-  for (std::size_t i = 1; i < lengths.size(); ++i) {
-    if (lengths[i].layer == lengths[last].layer) {
-      lengths[last].length += lengths[i].length;
-    } else {
-      lengths[++last] = lengths[i];
+  /// Adds up the lengths of each layer of the net.
+  void SumUpLengths(Net& net) {
+    std::stable_sort(lengths_.begin(), lengths_.end(),
+                     [](const LayerLength& a, const LayerLength& b) { return a.layer < b.layer; });
+    std::size_t layers = 0;
+    for (const LayerLength& length : lengths_) {
+      if (layers == 0 || lengths_[layers - 1].layer != length.layer) {
+        lengths_[layers++] = length;
+      } else {
+        lengths_[layers - 1].length += length.length;
+      }
     }
+    net.lengths.assign(lengths_.begin(), lengths_.begin() + static_cast<std::ptrdiff_t>(layers));
+    for (LayerLength& length : net.lengths) length.length = Rounded(length.length);
+    lengths_.clear();
   }
-  if (!lengths.empty()) lengths.resize(last + 1);
-  for (LayerLength& length : lengths) length.length = Rounded(length.length);
-}
+
+  Board& board_;
+  double unit_;
+  double widthStep_;  // 0 if unknown
+  const NameIndex& viaPadstacks_;
+  std::string_view lastName_;
+  std::optional<Index> padstackOfLastName_;
+  double lastSteps_ = 0.0;
+  double widthOfLastSteps_ = kUnknown;
+  Index first_ = 0;                   // the first point of the track that is being read
+  int layer_ = 0;                     // of that track
+  double width_ = kUnknown;           // of that track
+  std::vector<LayerLength> lengths_;  // of the net
+};
 
 }  // namespace
 
-void ReadCopper(const CMTraces& traces, const NameIndex& viaPadstacks, NetTable& table, Board& board) {
-  PolylineReader reader(board, viaPadstacks);
-  ForEachRecord(traces.m_pNetArray, [&](const CMTracesNET& record, std::size_t header) {
-    Net& net = table.Of(record.m_sName.View());
-    net.headers.push_back(header);
-    const auto readAll = [&](const auto& polylines, WireKind kind) {
-      ForEachRecord(polylines, [&](const auto& polyline, std::size_t index) {
+void ReadCopper(const CMTraces& traces, const CopperSurvey& survey, const NameIndex& viaPadstacks,
+                NetTable& table, Board& board) {
+  ForEachRecord(traces.m_pNetArray, [&](const CMTracesNET& record, Index header) {
+    table.Of(record.m_sName.View()).headers.push_back(header);
+  });
+  PolylineReader reader(survey, viaPadstacks, board);
+  for (Net& net : board.nets) {
+    reader.BeginNet(net);
+    for (const Index header : net.headers) {
+      const CMTracesNET& record = *traces.m_pNetArray->GetAt(static_cast<std::int64_t>(header));
+      ForEachPolyline(record, [&](const auto& polyline, WireKind kind, Index index) {
         reader.Read(polyline, {.points = {}, .width = {}, .kind = kind, .header = header, .polyline = index});
       });
-    };
-    readAll(record.m_pWirArray, WireKind::kWire);
-    readAll(record.m_pAntWirArray, WireKind::kShortBranch);
-    readAll(record.m_pAntIncArray, WireKind::kLongBranch);
-    reader.MoveTo(net);
-    ForEachRecord(record.m_pIncArray, [&](const CMTracesINCANT& open, std::size_t) {
-      const double unit = board.units.traces;
-      net.open.push_back({.from = PointAt(open.m_dValue2, open.m_dValue3, unit),
-                          .to = PointAt(open.m_dValue5, open.m_dValue6, unit)});
-    });
-  });
-  for (Net& net : board.nets) SumUp(net.lengths);
+      ForEachRecord(record.m_pIncArray, [&](const CMTracesINCANT& open, Index) {
+        const double unit = board.units.traces;
+        net.open.push_back({.from = PointAt(open.m_dValue2, open.m_dValue3, unit),
+                            .to = PointAt(open.m_dValue5, open.m_dValue6, unit)});
+      });
+    }
+    reader.EndNet(net);
+  }
 }
 
 }  // namespace kestrin

@@ -15,14 +15,16 @@ namespace kestrin {
 
 class CMTraces;
 struct BoardModels;
+struct CopperSurvey;
 
 /// Adds the kinds of vias to the board: those of the Geometry file, then those that only via rules name.
 /// Returns an index of their names, which refers to the models.
 [[nodiscard]] NameIndex ReadViaPadstacks(const BoardModels& models, Board& board);
 
 /// Adds tracks, vias and open connections to the nets. Widths that are written with digits only count in the
-/// width step of the board's reading.
-void ReadCopper(const CMTraces& traces, const NameIndex& viaPadstacks, NetTable& table, Board& board);
+/// width step of the board's reading. The survey must be of the same records.
+void ReadCopper(const CMTraces& traces, const CopperSurvey& survey, const NameIndex& viaPadstacks,
+                NetTable& table, Board& board);
 
 /// Adds the areas of fills to their nets.
 void ReadAreas(const CMTraces& traces, NetTable& table, Board& board);

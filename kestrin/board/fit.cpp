@@ -7,249 +7,178 @@
 #include <vector>
 
 #include "kestrin/board/placement.h"
-#include "kestrin/board/point_strips.h"
+#include "kestrin/board/possible_places.h"
 #include "kestrin/board/read_board.h"
+#include "kestrin/board/touch_search.h"
 
 namespace kestrin {
 namespace {
 
-constexpr std::size_t kSides = 2;
-constexpr std::size_t kMostTurns = 4;  // of a side
+/// A reading: the index of a turn for each side.
+struct Choice {
+  std::size_t top = 0;
+  std::size_t bottom = 0;
 
-/// A set of turns of a side, as bits.
-using TurnSet = std::uint8_t;
-
-[[nodiscard]] constexpr TurnSet Bit(std::size_t turn) { return static_cast<TurnSet>(1U << turn); }
-
-/// A possible place of a pin, and the turns of its side that put it there.
-struct Place {
-  Side side;
-  TurnSet turns;
-  bool touches = false;
+  [[nodiscard]] Turns AsTurns() const { return {Bit(top), Bit(bottom)}; }
 };
 
-/// Marks the places at which pins of one net touch its copper.
-class TouchTest {
- public:
-  /// The strips are passed in to reuse their memory.
-  TouchTest(const std::vector<Point>& points, std::vector<Place>& places, const Net& net, PointStrips& strips)
-      : places_(places), net_(net), effort_(SizeOf(points, net)), strips_(strips) {
-    strips_.Assign(points);
+/// Counts for each turn of each side.
+using TurnCounts = std::array<std::array<std::int64_t, kMostTurns>, kSides>;
+
+[[nodiscard]] std::int64_t CountOf(const TurnCounts& counts, Choice choice) {
+  return counts[0][choice.top] + counts[1][choice.bottom];
+}
+
+/// Changes the counts of the turns that put a pin at a place.
+void Count(TurnCounts& counts, const Place& place, int change) {
+  for (std::size_t turn = 0; turn < kMostTurns; ++turn) {
+    if ((place.turns & Bit(turn)) != 0) counts[At(place.side)][turn] += change;
   }
-
-  void Run() {
-    for (const Track& track : net_.tracks) {
-      const double distance = std::max(track.width.value_or(0.0) / 2.0, kLeastDistance);
-      for (std::size_t i = 1; i < track.points.size(); ++i)
-        Touch(track.points[i - 1], track.points[i], distance);
-    }
-    for (const Via& via : net_.vias) Touch(via.position, via.position, kLeastDistance);
-    for (const Area& area : net_.areas) Touch(area);
-  }
-
- private:
-  static constexpr double kLeastDistance = 0.001;
-
-  [[nodiscard]] static std::size_t SizeOf(const std::vector<Point>& points, const Net& net) {
-    std::size_t size = points.size() + net.vias.size();
-    for (const Track& track : net.tracks) size += track.points.size();
-    for (const Area& area : net.areas) {
-      size += area.outline.size();
-      for (const Polygon& hole : area.holes) size += hole.size();
-    }
-    return size;
-  }
-
-  void Touch(Point from, Point to, double distance) {
-    strips_.NearLeg(from, to, distance, effort_, [&](std::uint32_t place) { places_[place].touches = true; });
-  }
-
-  void Touch(const Area& area) {
-    inArea_.clear();
-    for (const std::uint32_t place : strips_.Inside(area.outline, effort_)) {
-      if (!places_[place].touches) inArea_.push_back(place);
-    }
-    if (inArea_.empty()) return;
-    std::sort(inArea_.begin(), inArea_.end());
-    std::vector<bool> inHole(inArea_.size());
-    for (const Polygon& hole : area.holes) {
-      for (const std::uint32_t place : strips_.Inside(hole, effort_)) {
-        const auto found = std::lower_bound(inArea_.begin(), inArea_.end(), place);
-        if (found != inArea_.end() && *found == place)
-          inHole[static_cast<std::size_t>(found - inArea_.begin())] = true;
-      }
-    }
-    if (effort_.IsSpent()) return;  // a hole may have been missed
-    for (std::size_t i = 0; i < inArea_.size(); ++i) {
-      if (!inHole[i]) places_[inArea_[i]].touches = true;
-    }
-  }
-
-  std::vector<Place>& places_;
-  const Net& net_;
-  Effort effort_;
-  PointStrips& strips_;
-  std::vector<std::uint32_t> inArea_;
-};
+}
 
 [[nodiscard]] bool HasCopper(const Net& net) {
-  return !net.tracks.empty() || !net.vias.empty() ||
+  return net.tracks.count != 0 || net.vias.count != 0 ||
          std::any_of(net.areas.begin(), net.areas.end(),
                      [](const Area& area) { return area.outline.size() > 2; });
 }
 
-/// Counts the pins that touch copper, for every turn.
+/// Counts the pins that touch copper under the readings, as far as is necessary to choose one.
+///
+/// Every pin is tested where the chosen reading places it. Under the other readings, pins are only tested
+/// until none of these readings can have as many pins that touch. That takes a few nets if the files agree.
 class PlacementFit {
  public:
   PlacementFit(const Board& board, const Footprints& footprints, const BoardOptions& options)
-      : board_(board) {
-    parts_.reserve(board.components.size());
-    for (const Component& component : board.components) {
-      parts_.push_back({.place = component.transform,
-                        .footprint = component.pins.empty() ? nullptr : &footprints.Of(component),
-                        .rotation = component.rotation,
-                        .side = component.side});
-    }
-    for (const Side side : {Side::kTop, Side::kBottom}) {
-      const auto turns = TurnsOf(side);
-      for (std::size_t i = 0; i < turns.size(); ++i) {
-        if (IsOpen(side, turns[i], options)) open_[At(side)] |= Bit(i);
-      }
+      : open_(OpenTurns(options)), possible_(board, footprints, open_), search_(board) {
+    for (const Net& net : board.nets) {
+      if (net.pins.count != 0 && HasCopper(net)) nets_.push_back(&net);
     }
   }
 
   void CountPins() {
-    for (const Net& net : board_.nets) {
-      if (!net.pins.empty() && HasCopper(net)) CountPins(net);
+    constexpr std::int64_t kPinsForGuess = 1000;
+    std::size_t first = 0;
+    while (first < nets_.size() && counted_ < kPinsForGuess) {
+      Gather(*nets_[first]);
+      Test(*nets_[first++], open_);
+    }
+    const Choice leading = Best();
+    for (std::size_t i = first; i < nets_.size(); ++i) {
+      Gather(*nets_[i]);
+      Test(*nets_[i], leading.AsTurns());
+    }
+    for (std::size_t i = first; i < nets_.size() && HasRival(leading); ++i) {
+      possible_.Gather(*nets_[i], places_);
+      TestRivals(*nets_[i], leading);
     }
   }
 
-  /// The first of the best readings.
-  [[nodiscard]] Reading Best(Reading reading) const {
-    std::size_t bestTop = 0;
-    std::size_t bestBottom = 0;
-    std::optional<std::size_t> most;
-    ForEachReading([&](std::size_t top, std::size_t bottom) {
-      if (most && Touching(top, bottom) <= *most) return;
-      most = Touching(top, bottom);
-      bestTop = top;
-      bestBottom = bottom;
-    });
-    reading.rotation = TurnsOf(Side::kTop)[bestTop].sense;
-    reading.bottom = TurnsOf(Side::kBottom)[bestBottom].sense;
-    reading.bottomTurn = TurnsOf(Side::kBottom)[bestBottom].added;
-    reading.pinsTouching = Touching(bestTop, bestBottom);
-    reading.pinsCounted = counted_;
-    reading.isConfirmed = IsConfirmed(bestTop, bestBottom);
+  /// A reading completed with the best placement.
+  [[nodiscard]] Reading Complete(Reading reading) const {
+    const Choice best = Best();
+    reading.rotation = TurnsOf(Side::kTop)[best.top].sense;
+    reading.bottom = TurnsOf(Side::kBottom)[best.bottom].sense;
+    reading.bottomTurn = TurnsOf(Side::kBottom)[best.bottom].added;
+    reading.pinsTouching = static_cast<std::size_t>(CountOf(touching_, best));
+    reading.pinsCounted = static_cast<std::size_t>(counted_);
+    reading.isConfirmed = IsConfirmed(best);
     return reading;
   }
 
  private:
-  /// The data of a component that the fit needs, kept compact because nets access components in any order.
-  struct Part {
-    Transform place;             // not turned yet
-    const Footprint* footprint;  // null for a component without pins
-    int rotation;
-    Side side;
-  };
-
-  [[nodiscard]] static std::size_t At(Side side) { return static_cast<std::size_t>(side); }
-
-  [[nodiscard]] static bool IsOpen(Side side, Turn turn, const BoardOptions& options) {
-    if (side == Side::kTop) return options.rotation.value_or(turn.sense) == turn.sense;
-    const int added =
-        options.bottomTurn && *options.bottomTurn != 180 ? 0 : options.bottomTurn.value_or(turn.added);
-    return options.bottom.value_or(turn.sense) == turn.sense && added == turn.added;
-  }
-
-  void CountPins(const Net& net) {
-    points_.clear();
-    places_.clear();
-    for (const NetPin& pin : net.pins) {
-      if (pin.pin) AddPlaces(parts_[*pin.component], *pin.pin);
-    }
-    if (places_.empty()) return;
-    TouchTest(points_, places_, net, strips_).Run();
+  /// Gathers the places of a net's pins, and counts the pins.
+  void Gather(const Net& net) {
+    counted_ += static_cast<std::int64_t>(possible_.Gather(net, places_));
     for (const Place& place : places_) {
-      if (!place.touches) continue;
       for (std::size_t turn = 0; turn < kMostTurns; ++turn) {
-        if ((place.turns & Bit(turn)) != 0) ++touching_[At(place.side)][turn];
+        if ((place.turns & Bit(turn)) != 0)
+          differing_[At(place.side)][turn] |= static_cast<TurnSet>(~place.turns);
       }
     }
   }
 
-  /// Adds the places of a pin and of all pins that share its name.
-  void AddPlaces(const Part& part, std::size_t pin) {
-    const std::vector<FootprintPin>& pins = part.footprint->pins;
-    for (; pin < pins.size(); pin = pins[pin].nextOfName) AddPlaces(part, pins[pin].position);
+  /// Tests the gathered places of some turns. The others are left untested.
+  void Test(const Net& net, Turns turns) {
+    const auto untested = std::partition(places_.begin(), places_.end(), [&](const Place& place) {
+      return (place.turns & turns[At(place.side)]) != 0;
+    });
+    std::for_each(untested, places_.end(), [&](const Place& place) { Count(untested_, place, 1); });
+    places_.erase(untested, places_.end());
+    Test(net);
   }
 
-  /// Adds the places of a pin under all open turns, without duplicates.
-  void AddPlaces(const Part& part, Point onGeometry) {
-    ++counted_;
-    const auto turns = TurnsOf(part.side);
-    const std::size_t first = points_.size();
-    Transform transform = part.place;
-    for (std::size_t turn = 0; turn < turns.size(); ++turn) {
-      if ((open_[At(part.side)] & Bit(turn)) == 0) continue;
-      rotations_.Turn(transform, DegreesOf(part.rotation, turns[turn]));
-      const Point point = transform.Apply(onGeometry);
-      const auto same = static_cast<std::size_t>(
-          std::find(points_.begin() + static_cast<std::ptrdiff_t>(first), points_.end(), point) -
-          points_.begin());
-      if (same == points_.size()) {
-        points_.push_back(point);
-        places_.push_back({part.side, 0});
-      }
-      places_[same].turns |= Bit(turn);
-    }
-    for (std::size_t i = first; i < places_.size(); ++i) NoteDiffering(places_[i]);
+  /// Tests the gathered places that were left untested when those of the leading reading were tested.
+  void TestRivals(const Net& net, Choice leading) {
+    const Turns tested = leading.AsTurns();
+    std::erase_if(places_, [&](const Place& place) { return (place.turns & tested[At(place.side)]) != 0; });
+    for (const Place& place : places_) Count(untested_, place, -1);
+    Test(net);
   }
 
-  void NoteDiffering(const Place& place) {
-    for (std::size_t turn = 0; turn < kMostTurns; ++turn) {
-      if ((place.turns & Bit(turn)) != 0)
-        differing_[At(place.side)][turn] |= static_cast<TurnSet>(~place.turns);
+  /// Tests all gathered places.
+  void Test(const Net& net) {
+    points_.clear();
+    for (const Place& place : places_) points_.push_back(place.point);
+    if (points_.empty()) return;
+    const std::vector<bool>& touches = search_.Find(points_, net);
+    for (std::size_t i = 0; i < places_.size(); ++i) {
+      if (touches[i]) Count(touching_, places_[i], 1);
     }
   }
 
-  /// Calls an action with the turns of every open reading, in order.
+  /// Whether another reading may still have as many pins that touch as the leading one.
+  [[nodiscard]] bool HasRival(Choice leading) const {
+    bool hasRival = false;
+    ForEachChoice([&](Choice other) {
+      const std::int64_t untested = CountOf(untested_, other);
+      if (untested > 0 && CountOf(touching_, other) + untested >= CountOf(touching_, leading))
+        hasRival = true;
+    });
+    return hasRival;
+  }
+
+  /// Calls an action with every open reading, in order.
   template <class Action>
-  void ForEachReading(Action action) const {
-    for (std::size_t top = 0; top < TurnsOf(Side::kTop).size(); ++top) {
-      for (std::size_t bottom = 0; bottom < TurnsOf(Side::kBottom).size(); ++bottom) {
-        if ((open_[0] & Bit(top)) != 0 && (open_[1] & Bit(bottom)) != 0) action(top, bottom);
+  void ForEachChoice(Action action) const {
+    for (std::size_t top = 0; top < kMostTurns; ++top) {
+      for (std::size_t bottom = 0; bottom < kMostTurns; ++bottom) {
+        if ((open_[0] & Bit(top)) != 0 && (open_[1] & Bit(bottom)) != 0) action(Choice{top, bottom});
       }
     }
   }
 
-  [[nodiscard]] std::size_t Touching(std::size_t top, std::size_t bottom) const {
-    return touching_[0][top] + touching_[1][bottom];
+  /// The first of the readings with the most pins that touch.
+  [[nodiscard]] Choice Best() const {
+    std::optional<Choice> best;
+    ForEachChoice([&](Choice choice) {
+      if (!best || CountOf(touching_, choice) > CountOf(touching_, *best)) best = choice;
+    });
+    return best.value_or(Choice{});
   }
 
-  [[nodiscard]] bool IsConfirmed(std::size_t top, std::size_t bottom) const {
-    constexpr std::size_t kLeastPins = 4;
-    const std::size_t touching = Touching(top, bottom);
+  [[nodiscard]] bool IsConfirmed(Choice best) const {
+    constexpr std::int64_t kLeastPins = 4;
+    const std::int64_t touching = CountOf(touching_, best);
     if (touching < kLeastPins || touching < counted_ - touching) return false;
     bool isAlone = true;
-    ForEachReading([&](std::size_t otherTop, std::size_t otherBottom) {
-      const bool differs =
-          (differing_[0][top] & Bit(otherTop)) != 0 || (differing_[1][bottom] & Bit(otherBottom)) != 0;
-      if (differs && Touching(otherTop, otherBottom) >= touching) isAlone = false;
+    ForEachChoice([&](Choice other) {
+      const bool differs = (differing_[0][best.top] & Bit(other.top)) != 0 ||
+                           (differing_[1][best.bottom] & Bit(other.bottom)) != 0;
+      if (differs && CountOf(touching_, other) >= touching) isAlone = false;
     });
     return isAlone;
   }
 
-  const Board& board_;
-  std::vector<Part> parts_;
-  const Rotations rotations_;
-  std::array<TurnSet, kSides> open_{};
-  std::array<std::array<std::size_t, kMostTurns>, kSides> touching_{};
+  const Turns open_;
+  const PossiblePlaces possible_;
+  TouchSearch search_;
+  std::vector<const Net*> nets_;  // with pins and copper
+  std::int64_t counted_ = 0;
+  TurnCounts touching_{};
+  TurnCounts untested_{};
   std::array<std::array<TurnSet, kMostTurns>, kSides> differing_{};  // the turns that put a pin elsewhere
-  std::size_t counted_ = 0;
-  std::vector<Point> points_;  // of one net
-  std::vector<Place> places_;  // at the same indexes
-  PointStrips strips_;
+  std::vector<Place> places_;                                        // of one net
+  std::vector<Point> points_;                                        // of the places
 };
 
 }  // namespace
@@ -257,7 +186,7 @@ class PlacementFit {
 Reading FitPlacement(const Board& board, const Footprints& footprints, const BoardOptions& options) {
   PlacementFit fit(board, footprints, options);
   fit.CountPins();
-  Reading reading = fit.Best(board.reading);
+  Reading reading = fit.Complete(board.reading);
   const bool isOpen = !options.rotation || !options.bottom || !options.bottomTurn;
   reading.isFitted = isOpen && reading.pinsCounted > 0;
   return reading;

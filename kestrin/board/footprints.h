@@ -20,13 +20,13 @@ class CMGeomComponent;
 struct FootprintPin {
   std::string name;
   Point position;  // in the geometry's unit
-  std::optional<std::size_t> padstack;
-  std::size_t nextOfName = 0;  // the next pin of the geometry with this name; pins.size() for the last
+  std::optional<Index> padstack;
+  Index nextOfName = 0;  // the next pin of the geometry with this name; pins.size() for the last
 };
 
 /// A component geometry.
 struct Footprint {
-  std::size_t sourceIndex = 0;
+  Index sourceIndex = 0;
   double unit = 1.0;
   std::vector<FootprintPin> pins;
   NameIndex pinsByName;
@@ -50,7 +50,7 @@ class Footprints {
 
  private:
   void ReadPins(const CMGeomComponent& component, Footprint& footprint);
-  [[nodiscard]] std::optional<std::size_t> PadstackNamed(std::string_view name);
+  [[nodiscard]] std::optional<Index> PadstackNamed(std::string_view name);
 
   const CMGeom* geometry_;
   Board& board_;
@@ -58,7 +58,7 @@ class Footprints {
   NameIndex padstacks_;      // in Board::padstacks
   std::vector<Footprint> footprints_;
   NameIndex byName_;
-  std::vector<std::size_t> bySource_;  // in footprints_, by index in CMGeom::m_pComponents
+  std::vector<Index> bySource_;  // in footprints_, by index in CMGeom::m_pComponents
 };
 
 }  // namespace kestrin

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <charconv>
 
+#include "kestrin/board/for_each_record.h"
 #include "kestrin/board/read_board.h"
-#include "kestrin/board/records.h"
 #include "kestrin/geometry/geometry_model.h"
 #include "kestrin/tech/tech_model.h"
 
@@ -22,7 +22,7 @@ constexpr std::string_view kSignal = "SIGNAL_";
 constexpr int kMostLayersWithoutTech = 1000;
 
 void ReadPhysicalLayers(const CMTech& tech, std::vector<Layer>& layers) {
-  ForEachRecord(tech.m_pStackupArray, [&](const CMTechStackUpOrder& record, std::size_t index) {
+  ForEachRecord(tech.m_pStackupArray, [&](const CMTechStackUpOrder& record, Index index) {
     Layer& layer = layers.emplace_back();
     layer.number = record.m_nPhysicalLayerNumber;
     layer.name = ComparedName(record.m_sPhysicalLayerName.View());
@@ -93,7 +93,7 @@ std::string OtherSide(std::string_view layer) {
 
 void ReadLayers(const BoardModels& models, Board& board) {
   if (models.tech != nullptr) ReadPhysicalLayers(*models.tech, board.layers);
-  for (std::size_t i = 0; i < board.layers.size(); ++i) {
+  for (Index i = 0; i < board.layers.size(); ++i) {
     for (const std::string& name : board.layers[i].names) board.layersByName.emplace(name, i);
   }
   if (board.layers.empty() && models.geometry != nullptr) {

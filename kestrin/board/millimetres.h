@@ -19,9 +19,11 @@ namespace kestrin {
   if (!(std::abs(millimetres) < kMost)) {
     return std::isnan(millimetres) ? std::numeric_limits<double>::infinity() : millimetres;
   }
-  const double steps = millimetres * kSteps + (millimetres < 0.0 ? -0.5 : 0.5);
+  const double steps = millimetres * kSteps + std::copysign(0.5, millimetres);
   return static_cast<double>(static_cast<std::int64_t>(steps)) / kSteps;
 }
+
+[[nodiscard]] inline bool IsFinite(Point point) { return std::isfinite(point.x) && std::isfinite(point.y); }
 
 [[nodiscard]] inline Point PointAt(double x, double y, double unit) {
   return {Rounded(x * unit), Rounded(y * unit)};

@@ -1,86 +1,116 @@
 #include "kestrin/board/nets.h"
 
+#include <algorithm>
 #include <deque>
+#include <iterator>
 #include <utility>
 
-#include "kestrin/board/records.h"
+#include "kestrin/board/for_each_record.h"
 #include "kestrin/board/references.h"
 #include "kestrin/neutral/net_model.h"
 
 namespace kestrin {
 namespace {
 
-/// Assigns each pin to the first net that names it.
+/// Finds the pins that nets name, and assigns each to the first net that names it.
 class PinAssignment {
  public:
   PinAssignment(const Footprints& footprints, Board& board)
-      : board_(board), components_(board.components.size()) {
-    std::size_t pins = 0;
+      : board_(board), components_(board.components.size()), nets_(board.pins.size(), kNoNet) {
     parts_.reserve(board.components.size());
-    for (std::size_t i = 0; i < board.components.size(); ++i) {
+    for (Index i = 0; i < board.components.size(); ++i) {
       const Component& component = board.components[i];
       components_.Add(component.name, i);
-      parts_.push_back({component.pins.empty() ? nullptr : &footprints.Of(component), pins});
-      pins += component.pins.size();
+      const bool hasPins = component.pins.count != 0;
+      parts_.push_back({hasPins ? &footprints.Of(component) : nullptr, component.pins.first});
     }
-    nets_.resize(pins, kNoNet);
   }
 
-  /// Adds the pin to a net unless a net already has it. The pin's netRecord and pinRecord must be set.
-  void Assign(PinText text, NetPin pin, std::size_t net) {
-    Find(text, pin);
-    if (!Take(text, pin, net)) return;
+  /// Completes a pin that a net names, and assigns it to the net. Returns false if a net already has it.
+  [[nodiscard]] bool Assign(PinText text, Index net, NetPin& pin) {
+    if (text.hasReference) pin.component = components_.Find(text.Reference());
+    if (pin.component) {
+      const Part& part = parts_[*pin.component];
+      const auto pad = part.footprint == nullptr ? std::nullopt : part.footprint->pinsByName.Find(text.Pin());
+      if (pad) pin.pin = part.firstPin + *pad;
+    }
     pin.name = std::move(text.text);
-    board_.nets[net].pins.push_back(std::move(pin));
+    return pin.pin ? Take(*pin.pin, net) : TakeMissing(pin.name);
   }
 
   /// Sets the nets of the components' pins. Pins that share a name are pads of one pin.
   void Finish() {
-    for (std::size_t c = 0; c < board_.components.size(); ++c) {
-      std::vector<Pin>& pins = board_.components[c].pins;
-      for (std::size_t p = 0; p < pins.size(); ++p) {
-        const std::size_t net = nets_[parts_[c].firstPin + p];
+    for (const Part& part : parts_) {
+      if (part.footprint == nullptr) continue;
+      const std::vector<FootprintPin>& pins = part.footprint->pins;
+      for (Index i = 0; i < pins.size(); ++i) {
+        const Index net = nets_[part.firstPin + i];
         if (net == kNoNet) continue;
-        const std::vector<FootprintPin>& onFootprint = parts_[c].footprint->pins;
-        for (std::size_t pad = p; pad < pins.size(); pad = onFootprint[pad].nextOfName) pins[pad].net = net;
+        for (Index pad = i; pad < pins.size(); pad = pins[pad].nextOfName)
+          board_.pins[part.firstPin + pad].net = net;
       }
     }
   }
 
  private:
-  static constexpr std::size_t kNoNet = static_cast<std::size_t>(-1);
-
+  /// The data of a component that is needed here, kept compact because nets access components in any order.
   struct Part {
     const Footprint* footprint;  // null for a component without pins
-    std::size_t firstPin;        // in nets_
+    Index firstPin;              // in Board::pins
   };
 
-  void Find(const PinText& text, NetPin& pin) const {
-    if (text.hasReference) pin.component = components_.Find(text.Reference());
-    if (!pin.component) return;
-    const Footprint* footprint = parts_[*pin.component].footprint;
-    if (footprint != nullptr) pin.pin = footprint->pinsByName.Find(text.Pin());
+  /// Assigns a pin to a net. Returns false if a net already has it.
+  bool Take(Index pin, Index net) {
+    if (nets_[pin] != kNoNet) return false;
+    nets_[pin] = net;
+    return true;
   }
 
-  /// Marks the pin as taken by a net. Returns false if a net already has it.
-  bool Take(const PinText& text, const NetPin& pin, std::size_t net) {
-    if (pin.pin) {
-      std::size_t& taken = nets_[parts_[*pin.component].firstPin + *pin.pin];
-      if (taken != kNoNet) return false;
-      taken = net;
-      return true;
-    }
-    const std::string& name = notOnBoard_.emplace_back(text.text);
-    return namesNotOnBoard_.Add(name, notOnBoard_.size()) == notOnBoard_.size();
+  /// The same for a pin that is not on the board.
+  bool TakeMissing(const std::string& text) {
+    const std::string& name = missing_.emplace_back(text);
+    const Index count = ToIndex(missing_.size());
+    return missingByName_.Add(name, count) == count;
   }
+
+  static constexpr Index kNoNet = static_cast<Index>(-1);
 
   Board& board_;
   NameIndex components_;
-  std::vector<Part> parts_;        // for each component
-  std::vector<std::size_t> nets_;  // of each pin on the board
-  std::deque<std::string> notOnBoard_;
-  NameIndex namesNotOnBoard_;
+  std::vector<Part> parts_;  // for each component
+  // For each of Board::pins. Nets name pins in any order, which is faster in a compact list.
+  std::vector<Index> nets_;
+  std::deque<std::string> missing_;
+  NameIndex missingByName_;
 };
+
+/// The pins that a net record added to its net.
+struct PinRun {
+  Index net;
+  Range pins;  // in Board::netPins
+};
+
+/// Sets the pins of nets. Brings the pins into the order of the nets, which differs from that of the file if
+/// several records have the same name.
+void GroupByNet(std::vector<PinRun> runs, Board& board) {
+  const auto isBefore = [](const PinRun& a, const PinRun& b) { return a.net < b.net; };
+  if (!std::is_sorted(runs.begin(), runs.end(), isBefore)) {
+    std::stable_sort(runs.begin(), runs.end(), isBefore);
+    std::vector<NetPin> grouped;
+    grouped.reserve(board.netPins.size());
+    for (PinRun& run : runs) {
+      const auto first = std::make_move_iterator(board.netPins.begin() + run.pins.first);
+      run.pins.first = ToIndex(grouped.size());
+      grouped.insert(grouped.end(), first, first + run.pins.count);
+    }
+    board.netPins = std::move(grouped);
+  }
+  for (const PinRun& run : runs) {
+    Range& pins = board.nets[run.net].pins;
+    if (pins.count == 0) pins.first = run.pins.first;
+    pins.count += run.pins.count;
+  }
+}
 
 }  // namespace
 
@@ -88,32 +118,38 @@ NetTable::NetTable(std::size_t names, Board& board) : board_(board), byName_(nam
   board.nets.reserve(names);
 }
 
-std::size_t NetTable::IndexOf(std::string_view name) {
+Index NetTable::IndexOf(std::string_view name) {
   const std::string_view compared = ComparedName(name);
-  const std::size_t next = board_.nets.size();
-  const std::size_t index = byName_.Add(compared, next);
+  const Index next = ToIndex(board_.nets.size());
+  const Index index = byName_.Add(compared, next);
   if (index == next) board_.nets.emplace_back().name = compared;
   return index;
 }
 
 void ReadNets(const CMNetList* nets, const Footprints& footprints, NetTable& table, Board& board) {
   if (nets == nullptr) return;
+  std::size_t pins = 0;
+  ForEachRecord(nets->m_pNets, [&](const CMNetInfo& record, Index) {
+    pins += static_cast<std::size_t>(record.m_pPins->GetSize());
+  });
+  board.netPins.reserve(pins);
   PinTexts texts(*nets, board.components);
   PinAssignment assignment(footprints, board);
-  ForEachRecord(nets->m_pNets, [&](const CMNetInfo& record, std::size_t netRecord) {
-    const std::size_t net = table.IndexOf(record.m_sName.View());
-    if (board.nets[net].netRecords.empty()) {
-      board.nets[net].pins.reserve(static_cast<std::size_t>(record.m_pPins->GetSize()));
-    }
+  std::vector<PinRun> runs;
+  ForEachRecord(nets->m_pNets, [&](const CMNetInfo& record, Index netRecord) {
+    const Index net = table.IndexOf(record.m_sName.View());
     board.nets[net].netRecords.push_back(netRecord);
-    ForEachRecord(record.m_pPins, [&](const CMRefPin& pin, std::size_t pinRecord) {
-      NetPin made;
-      made.netRecord = netRecord;
-      made.pinRecord = pinRecord;
-      assignment.Assign(texts.Next(pin), std::move(made), net);
+    const Index first = ToIndex(board.netPins.size());
+    ForEachRecord(record.m_pPins, [&](const CMRefPin& pin, Index pinRecord) {
+      NetPin& added = board.netPins.emplace_back();
+      added.netRecord = netRecord;
+      added.pinRecord = pinRecord;
+      if (!assignment.Assign(texts.Next(pin), net, added)) board.netPins.pop_back();
     });
+    runs.push_back({net, {first, ToIndex(board.netPins.size()) - first}});
   });
   assignment.Finish();
+  GroupByNet(std::move(runs), board);
 }
 
 }  // namespace kestrin

@@ -22,7 +22,7 @@ class NetTable {
 
   /// The net of a name. Adds a net to the board if there is none. The reference is valid until the next call.
   [[nodiscard]] Net& Of(std::string_view name) { return board_.nets[IndexOf(name)]; }
-  [[nodiscard]] std::size_t IndexOf(std::string_view name);
+  [[nodiscard]] Index IndexOf(std::string_view name);
 
  private:
   Board& board_;

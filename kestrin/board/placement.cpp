@@ -3,8 +3,9 @@
 #include <cmath>
 #include <numbers>
 
+#include "kestrin/board/for_each_record.h"
+#include "kestrin/board/indexes.h"
 #include "kestrin/board/millimetres.h"
-#include "kestrin/board/records.h"
 #include "kestrin/neutral/component_model.h"
 
 namespace kestrin {
@@ -26,13 +27,6 @@ constexpr std::size_t kPinsAlways = 1'000'000;
 /// Like factor * value, but zero times infinity is zero: under a right angle, an infinite x must not make the
 /// other coordinate NaN.
 double Product(double factor, double value) { return factor == 0.0 ? 0.0 : factor * value; }
-
-void AddPins(const Footprint& footprint, Component& component) {
-  component.pins.reserve(footprint.pins.size());
-  for (const FootprintPin& pin : footprint.pins) {
-    component.pins.push_back({.name = pin.name, .position = {}, .padstack = pin.padstack, .net = {}});
-  }
-}
 
 }  // namespace
 
@@ -64,8 +58,9 @@ void ReadComponents(const CMComps* components, std::size_t records, const Footpr
                     Board& board) {
   if (components == nullptr) return;
   std::size_t room = kPinsAlways + kPinsPerRecord * records;
+  Index pins = 0;
   board.components.reserve(static_cast<std::size_t>(components->m_pInfos->GetSize()));
-  ForEachRecord(components->m_pInfos, [&](const CMCompsInfo& record, std::size_t index) {
+  ForEachRecord(components->m_pInfos, [&](const CMCompsInfo& record, Index index) {
     const tagMCOMPDATA& values = record.m_Data;
     Component& component = board.components.emplace_back();
     component.name = ComparedReference(values.m_sValue1.View());
@@ -88,8 +83,16 @@ void ReadComponents(const CMComps* components, std::size_t records, const Footpr
       return;
     }
     room -= footprint->pins.size();
-    AddPins(*footprint, component);
+    component.pins = {pins, ToIndex(footprint->pins.size())};
+    pins = ToIndex(std::size_t{pins} + component.pins.count);
   });
+  board.pins.reserve(pins);
+  for (const Component& component : board.components) {
+    if (component.pins.count == 0) continue;
+    for (const FootprintPin& pin : footprints.Of(component).pins) {
+      board.pins.push_back({.name = pin.name, .position = {}, .padstack = pin.padstack, .net = {}});
+    }
+  }
 }
 
 void PlaceComponents(const Footprints& footprints, Board& board) {
@@ -100,10 +103,10 @@ void PlaceComponents(const Footprints& footprints, Board& board) {
   for (Component& component : board.components) {
     const Turn turn = component.side == Side::kTop ? top : bottom;
     rotations.Turn(component.transform, DegreesOf(component.rotation, turn));
-    if (component.pins.empty()) continue;
-    const Footprint& footprint = footprints.Of(component);
-    for (std::size_t i = 0; i < component.pins.size(); ++i) {
-      component.pins[i].position = component.transform.Apply(footprint.pins[i].position);
+    if (component.pins.count == 0) continue;
+    Pin* pin = board.pins.data() + component.pins.first;
+    for (const FootprintPin& onFootprint : footprints.Of(component).pins) {
+      pin++->position = component.transform.Apply(onFootprint.position);
     }
   }
 }

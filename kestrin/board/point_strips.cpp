@@ -3,42 +3,62 @@
 #include <cmath>
 #include <limits>
 
+#include "kestrin/board/millimetres.h"
+
 namespace kestrin {
-namespace {
 
-/// Up to this many points, a single strip is faster than sorting by x.
-constexpr std::size_t kOneStrip = 64;
-
-}  // namespace
+PointStrips::Scale::Scale(double lowest, double highest, std::size_t parts)
+    : low(lowest), partsPerUnit(static_cast<double>(parts) / (highest - lowest)) {
+  if (!std::isfinite(partsPerUnit)) partsPerUnit = 0.0;
+}
 
 void PointStrips::Assign(const std::vector<Point>& points) {
   entries_.clear();
   strips_.clear();
   for (std::size_t i = 0; i < points.size(); ++i) {
-    if (!std::isfinite(points[i].x) || !std::isfinite(points[i].y)) continue;
+    if (!IsFinite(points[i])) continue;
     entries_.push_back({points[i], static_cast<std::uint32_t>(i)});
   }
-  const auto lower = [](const Entry& a, const Entry& b) { return a.at.y < b.at.y; };
-  const auto before = [](const Entry& a, const Entry& b) { return a.at.x < b.at.x; };
-  std::size_t inStrip = std::max<std::size_t>(1, entries_.size());
-  if (entries_.size() > kOneStrip) {
-    inStrip = static_cast<std::size_t>(std::sqrt(static_cast<double>(entries_.size())));
-    std::sort(entries_.begin(), entries_.end(), before);
-  }
+  if (entries_.empty()) return;
+  const auto isLower = [](const Entry& a, const Entry& b) { return a.at.y < b.at.y; };
+  const auto isLeft = [](const Entry& a, const Entry& b) { return a.at.x < b.at.x; };
+  const auto [lowest, highest] = std::minmax_element(entries_.begin(), entries_.end(), isLower);
+  rows_ = Scale(lowest->at.y, highest->at.y, kRows);
+  std::sort(entries_.begin(), entries_.end(), isLeft);
+  columns_ = Scale(entries_.front().at.x, entries_.back().at.x, kColumns);
+  const std::size_t inStrip = PointsInStrip();
   for (std::size_t begin = 0; begin < entries_.size(); begin += inStrip) {
-    const std::size_t end = std::min(begin + inStrip, entries_.size());
-    const auto first = entries_.begin() + static_cast<std::ptrdiff_t>(begin);
-    const auto last = entries_.begin() + static_cast<std::ptrdiff_t>(end);
-    const auto [left, right] = std::minmax_element(first, last, before);
-    strips_.push_back({.left = left->at.x, .right = right->at.x, .begin = begin, .end = end});
-    std::sort(first, last, lower);
+    AddStrip(begin, std::min(begin + inStrip, entries_.size()));
   }
+  FillFirstStrips();
 }
 
-/// The first strip whose right edge is not left of an x coordinate.
-std::vector<PointStrips::Strip>::const_iterator PointStrips::FirstStrip(double left) const {
-  return std::lower_bound(strips_.begin(), strips_.end(), left,
-                          [](const Strip& strip, double x) { return strip.right < x; });
+/// The square root of the number of points, but more for few points, as a long leg visits many strips.
+std::size_t PointStrips::PointsInStrip() const {
+  constexpr std::size_t kLeast = 4;
+  constexpr std::size_t kStrips = 64;
+  const std::size_t count = entries_.size();
+  const auto root = static_cast<std::size_t>(std::sqrt(static_cast<double>(count)));
+  return std::max(kLeast, std::min(root, count / kStrips));
+}
+
+void PointStrips::AddStrip(std::size_t begin, std::size_t end) {
+  Strip strip{
+      .left = entries_[begin].at.x, .right = entries_[end - 1].at.x, .begin = begin, .end = end, .rows = 0};
+  for (std::size_t i = begin; i < end; ++i) strip.rows |= std::uint64_t{1} << rows_.PartOf(entries_[i].at.y);
+  strips_.push_back(strip);
+  std::sort(entries_.begin() + static_cast<std::ptrdiff_t>(begin),
+            entries_.begin() + static_cast<std::ptrdiff_t>(end),
+            [](const Entry& a, const Entry& b) { return a.at.y < b.at.y; });
+}
+
+void PointStrips::FillFirstStrips() {
+  std::size_t column = 0;
+  for (std::size_t i = 0; i < strips_.size(); ++i) {
+    const std::size_t last = columns_.PartOf(strips_[i].right);
+    for (; column <= last; ++column) firstStrips_[column] = i;
+  }
+  std::fill(firstStrips_.begin() + static_cast<std::ptrdiff_t>(column), firstStrips_.end(), strips_.size());
 }
 
 /// Gathers the points in the bounding box of a polygon, sorted by y.
@@ -51,8 +71,8 @@ void PointStrips::GatherCandidates(const Polygon& polygon, Effort& effort) {
     high = {std::max(high.x, point.x), std::max(high.y, point.y)};
   }
   candidates_.clear();
-  for (auto strip = FirstStrip(low.x); strip != strips_.end() && strip->left <= high.x; ++strip) {
-    InStrip(*strip, low.y, high.y, effort, [&](const Entry& entry) { candidates_.push_back({entry}); });
+  for (std::size_t i = FirstStrip(low.x); i < strips_.size() && strips_[i].left <= high.x; ++i) {
+    InStrip(strips_[i], low.y, high.y, effort, [&](const Entry& entry) { candidates_.push_back({entry}); });
   }
   std::sort(candidates_.begin(), candidates_.end(),
             [](const Candidate& a, const Candidate& b) { return a.entry.at.y < b.entry.at.y; });

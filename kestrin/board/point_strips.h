@@ -4,6 +4,7 @@
 /// Finding the points near a leg or inside a polygon.
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <utility>
@@ -34,28 +35,52 @@ class Effort {
 
 /// Points sorted into vertical strips with an equal number of points, and by y within each strip. A strip has
 /// few points wherever they are; the cells of a grid could have many.
+///
+/// Most legs are near no point. A table leads to the first strip of a leg, and a bit for each row tells
+/// whether a strip has points there, so such a leg takes few instructions.
 class PointStrips {
  public:
   /// Replaces the points. Infinite points are ignored.
   void Assign(const std::vector<Point>& points);
 
-  /// Calls an action with the index of every point within a distance of the segment between two points.
+  /// Calls an action with the index of every point within a distance of the segment between two points. Takes
+  /// these points out: no later search finds them.
   template <class Action>
-  void NearLeg(Point from, Point to, double distance, Effort& effort, Action action) const;
+  void TakeNearLeg(Point from, Point to, double distance, Effort& effort, Action action);
 
   /// The indexes of all points inside a polygon, by the even-odd rule. Valid until the next call.
   [[nodiscard]] const std::vector<std::uint32_t>& Inside(const Polygon& polygon, Effort& effort);
 
  private:
+  static constexpr std::size_t kRows = 64;
+  static constexpr std::size_t kColumns = 64;
+  static constexpr std::uint32_t kTaken = static_cast<std::uint32_t>(-1);
+
+  /// One of many equal parts of a range of coordinates.
+  struct Scale {
+    double low = 0.0;
+    double partsPerUnit = 0.0;
+
+    Scale() = default;
+    Scale(double lowest, double highest, std::size_t parts);
+    /// The number of the part of a coordinate. Coordinates outside the range belong to the parts at its ends.
+    [[nodiscard]] std::size_t PartOf(double coordinate) const {
+      static_assert(kRows == kColumns);
+      const double part = (coordinate - low) * partsPerUnit;
+      if (!(part > 0.0)) return 0;  // also if it is not a number
+      return static_cast<std::size_t>(std::min(part, static_cast<double>(kRows - 1)));
+    }
+  };
   struct Entry {
     Point at;
-    std::uint32_t index;
+    std::uint32_t index;  // kTaken for a point that was taken out
   };
   struct Strip {
     double left;
     double right;
     std::size_t begin;
     std::size_t end;
+    std::uint64_t rows;  // a bit for each row with points
   };
   struct Candidate {
     Entry entry;
@@ -63,16 +88,23 @@ class PointStrips {
   };
 
   template <class Action>
-  void NearLegOfFew(Point from, Point to, double distance, Effort& effort, Action action) const;
-  template <class Action>
-  void InStrip(const Strip& strip, double bottom, double top, Effort& effort, Action action) const;
-  [[nodiscard]] std::vector<Strip>::const_iterator FirstStrip(double left) const;
+  void InStrip(const Strip& strip, double bottom, double top, Effort& effort, Action action);
+  [[nodiscard]] std::size_t PointsInStrip() const;
+  void AddStrip(std::size_t begin, std::size_t end);
+  void FillFirstStrips();
+  /// The first strip that is not left of an x coordinate.
+  [[nodiscard]] std::size_t FirstStrip(double left) const { return firstStrips_[columns_.PartOf(left)]; }
+  [[nodiscard]] std::uint64_t RowsBetween(double bottom, double top) const {
+    constexpr std::uint64_t kAll = ~std::uint64_t{0};
+    return (kAll << rows_.PartOf(bottom)) & (kAll >> (kRows - 1 - rows_.PartOf(top)));
+  }
   void GatherCandidates(const Polygon& polygon, Effort& effort);
-
-  static constexpr std::size_t kFew = 16;
 
   std::vector<Entry> entries_;
   std::vector<Strip> strips_;
+  Scale rows_;
+  Scale columns_;
+  std::array<std::size_t, kColumns> firstStrips_{};
   std::vector<Candidate> candidates_;  // of the current search
   std::vector<std::uint32_t> inside_;  // the result of the last search
 };
@@ -90,53 +122,41 @@ class PointStrips {
 }
 
 template <class Action>
-void PointStrips::InStrip(const Strip& strip, double bottom, double top, Effort& effort,
-                          Action action) const {
-  const Entry* entry = entries_.data() + strip.begin;
-  const Entry* const end = entries_.data() + strip.end;
+void PointStrips::InStrip(const Strip& strip, double bottom, double top, Effort& effort, Action action) {
+  constexpr std::size_t kFew = 16;
+  Entry* entry = entries_.data() + strip.begin;
+  Entry* const end = entries_.data() + strip.end;
   const auto isBelow = [](const Entry& a, double y) { return a.at.y < y; };
   if (strip.end - strip.begin > kFew) entry = std::lower_bound(entry, end, bottom, isBelow);
   while (entry != end && isBelow(*entry, bottom)) ++entry;
   if (!effort.Spend(1)) return;
   for (; entry != end && entry->at.y <= top; ++entry) {
     if (!effort.Spend(1)) return;
-    action(*entry);
+    if (entry->index != kTaken) action(*entry);
   }
 }
 
-/// Looks at every point. Faster than a search for the few points of most nets.
 template <class Action>
-void PointStrips::NearLegOfFew(Point from, Point to, double distance, Effort& effort, Action action) const {
-  const auto [bottom, top] = std::minmax(from.y, to.y);
-  for (const Entry& entry : entries_) {
-    const Point at = entry.at;
-    const double besides = std::max(from.x - at.x, at.x - to.x);
-    const double above = std::max(bottom - at.y, at.y - top);
-    if (std::max(besides, above) > distance) continue;
-    if (IsNear(at, from, to, distance)) action(entry.index);
-  }
-  effort.Spend(entries_.size());
-}
-
-template <class Action>
-void PointStrips::NearLeg(Point from, Point to, double distance, Effort& effort, Action action) const {
+void PointStrips::TakeNearLeg(Point from, Point to, double distance, Effort& effort, Action action) {
   if (from.x > to.x) std::swap(from, to);
-  if (entries_.size() <= kFew) return NearLegOfFew(from, to, distance, effort, action);
   const double reach = 1.01 * distance;  // the surplus is greater than any rounding error
-  const bool isUpright = !(from.x + reach < to.x);
-  const double slope = isUpright ? 0.0 : (to.y - from.y) / (to.x - from.x);
-  for (auto strip = FirstStrip(from.x - reach); strip != strips_.end() && strip->left <= to.x + reach;
-       ++strip) {
-    // The part of the leg in the strip.
-    double low =
-        isUpright ? from.y : from.y + slope * (std::clamp(strip->left - reach, from.x, to.x) - from.x);
-    double high =
-        isUpright ? to.y : from.y + slope * (std::clamp(strip->right + reach, from.x, to.x) - from.x);
-    if (low > high) std::swap(low, high);
-    InStrip(*strip, low - reach, high + reach, effort, [&](const Entry& entry) {
-      if (IsNear(entry.at, from, to, distance)) action(entry.index);
-    });
+  const auto [bottom, top] = std::minmax(from.y, to.y);
+  const std::uint64_t rows = RowsBetween(bottom - reach, top + reach);
+  for (std::size_t i = FirstStrip(from.x - reach); i < strips_.size(); ++i) {
+    const Strip& strip = strips_[i];
+    if (!(strip.left <= to.x + reach)) return;
+    if ((strip.rows & rows) == 0 && effort.Spend(1)) continue;
     if (effort.IsSpent()) return;
+    // The part of the leg in the strip.
+    const bool isUpright = !(from.x + reach < to.x);
+    const double slope = isUpright ? 0.0 : (to.y - from.y) / (to.x - from.x);
+    const auto yAt = [&](double x) { return from.y + slope * (std::clamp(x, from.x, to.x) - from.x); };
+    double low = isUpright ? from.y : yAt(strip.left - reach);
+    double high = isUpright ? to.y : yAt(strip.right + reach);
+    if (low > high) std::swap(low, high);
+    InStrip(strip, low - reach, high + reach, effort, [&](Entry& entry) {
+      if (IsNear(entry.at, from, to, distance)) action(std::exchange(entry.index, kTaken));
+    });
   }
 }
 

@@ -3,8 +3,8 @@
 /// @file
 /// Making polygons from the lists of the models.
 
+#include "kestrin/board/for_each_record.h"
 #include "kestrin/board/millimetres.h"
-#include "kestrin/board/records.h"
 #include "kestrin/geometry/number_list.h"
 #include "kestrin/traces/fill_records.h"
 

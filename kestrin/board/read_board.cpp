@@ -6,16 +6,17 @@
 #include "kestrin/board/copper.h"
 #include "kestrin/board/fit.h"
 #include "kestrin/board/footprints.h"
+#include "kestrin/board/for_each_record.h"
 #include "kestrin/board/layers.h"
 #include "kestrin/board/nets.h"
 #include "kestrin/board/placement.h"
 #include "kestrin/board/polygons.h"
-#include "kestrin/board/records.h"
 #include "kestrin/board/units.h"
 #include "kestrin/board/widths.h"
 #include "kestrin/geometry/geometry_model.h"
 #include "kestrin/neutral/component_model.h"
 #include "kestrin/neutral/net_model.h"
+#include "kestrin/session/import_session.h"
 #include "kestrin/traces/traces_model.h"
 
 namespace kestrin {
@@ -27,9 +28,9 @@ Polygon OutlineOf(const CMGeomBoard& board, double unit) {
   return outline.empty() ? PolygonOf(*board.m_pRoutingOutline, unit) : outline;
 }
 
-std::optional<double> WidthStepOf(const CMTraces& traces, double unit, std::optional<double> asked) {
+std::optional<double> WidthStepOf(const CopperSurvey& survey, double unit, std::optional<double> asked) {
   const bool isUsable = asked && *asked > 0.0 && std::isfinite(*asked);
-  return isUsable ? asked : FitWidthStep(traces, unit);
+  return isUsable ? asked : FitWidthStep(survey, unit);
 }
 
 /// The number of records that the pins of components come from.
@@ -38,13 +39,11 @@ std::size_t PinRecords(const BoardModels& models) {
   const auto add = [&](std::int64_t more) { count += static_cast<std::size_t>(more); };
   if (models.components != nullptr) add(models.components->m_pInfos->GetSize());
   if (models.nets != nullptr) {
-    ForEachRecord(models.nets->m_pNets,
-                  [&](const CMNetInfo& net, std::size_t) { add(net.m_pPins->GetSize()); });
+    ForEachRecord(models.nets->m_pNets, [&](const CMNetInfo& net, Index) { add(net.m_pPins->GetSize()); });
   }
   if (models.geometry != nullptr) {
-    ForEachRecord(models.geometry->m_pComponents, [&](const CMGeomComponent& component, std::size_t) {
-      add(component.m_pPinDefs->GetSize());
-    });
+    ForEachRecord(models.geometry->m_pComponents,
+                  [&](const CMGeomComponent& component, Index) { add(component.m_pPinDefs->GetSize()); });
   }
   return count;
 }
@@ -57,6 +56,14 @@ std::size_t NetNames(const BoardModels& models) {
 }
 
 }  // namespace
+
+BoardModels ModelsOf(const CPC_KESTRIN_GET& session) {
+  return {.tech = session.GetTech(),
+          .components = session.GetComps(),
+          .nets = session.GetNetList(),
+          .geometry = session.GetGeom(),
+          .traces = session.GetTraces()};
+}
 
 Board ReadBoard(const BoardModels& models, const BoardOptions& options) {
   Board board;
@@ -72,8 +79,9 @@ Board ReadBoard(const BoardModels& models, const BoardOptions& options) {
   ReadNets(models.nets, footprints, nets, board);
   const NameIndex viaPadstacks = ReadViaPadstacks(models, board);
   if (models.traces != nullptr) {
-    board.reading.widthStep = WidthStepOf(*models.traces, board.units.traces, options.widthStep);
-    ReadCopper(*models.traces, viaPadstacks, nets, board);
+    const CopperSurvey survey = SurveyCopper(*models.traces);
+    board.reading.widthStep = WidthStepOf(survey, board.units.traces, options.widthStep);
+    ReadCopper(*models.traces, survey, viaPadstacks, nets, board);
     ReadAreas(*models.traces, nets, board);
   }
   board.reading = FitPlacement(board, footprints, options);

@@ -10,6 +10,7 @@
 
 namespace kestrin {
 
+class CPC_KESTRIN_GET;
 class CMComps;
 class CMGeom;
 class CMNetList;
@@ -28,6 +29,9 @@ struct BoardModels {
   ///@}
 };
 
+/// The models of a session. A null root is one that the session has not read.
+[[nodiscard]] KESTRIN_EXPORT BoardModels ModelsOf(const CPC_KESTRIN_GET& session);
+
 /// How to read a board. What you do not set is fitted to the data.
 struct BoardOptions {
   std::optional<Sense> rotation;  ///< how components on the top rotate
@@ -41,7 +45,7 @@ struct BoardOptions {
 
 /// Reads the board that the models describe together.
 ///
-///     const kestrin::Board board = kestrin::ReadBoard({.geometry = session.GetGeom()});
+///     const kestrin::Board board = kestrin::ReadBoard(kestrin::ModelsOf(session));
 ///
 /// The models are not changed and not needed afterwards; several threads may read them at once. Equal models
 /// make equal boards, in any locale. Time and memory are in proportion to the size of the models, whatever

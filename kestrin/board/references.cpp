@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "kestrin/board/records.h"
+#include "kestrin/board/for_each_record.h"
+#include "kestrin/board/names.h"
 #include "kestrin/neutral/net_model.h"
 
 namespace kestrin {
@@ -24,13 +25,15 @@ std::vector<std::string> ReferencesWithHyphens(const std::vector<Component>& com
 
 /// The text of a pin, cut where the model cuts it: at the first hyphen.
 PinText PinTextOf(const CMRefPin& pin) {
+  const std::string_view name = ComparedName(pin.m_sPin.View());
   PinText made;
-  made.text = ComparedReference(pin.m_sRef.View());
+  made.text = ComparedName(pin.m_sRef.View());
   made.cut = made.text.size();
   // If the reference is empty, a hyphen in the pin means that the text began with a hyphen.
-  made.hasReference = made.cut != 0 || HasHyphen(pin.m_sPin.View());
+  made.hasReference = made.cut != 0 || HasHyphen(name);
   if (made.hasReference) made.text += '-';
-  made.text += ComparedReference(pin.m_sPin.View());
+  made.text += name;
+  JoinBlanks(made.text);
   return made;
 }
 
@@ -40,8 +43,8 @@ PinTexts::PinTexts(const CMNetList& nets, const std::vector<Component>& componen
   const std::vector<std::string> references = ReferencesWithHyphens(components);
   hasReferencesWithHyphens_ = !references.empty();
   if (!hasReferencesWithHyphens_) return;
-  ForEachRecord(nets.m_pNets, [&](const CMNetInfo& net, std::size_t) {
-    ForEachRecord(net.m_pPins, [&](const CMRefPin& pin, std::size_t) {
+  ForEachRecord(nets.m_pNets, [&](const CMNetInfo& net, Index) {
+    ForEachRecord(net.m_pPins, [&](const CMRefPin& pin, Index) {
       if (HasHyphen(pin.m_sPin.View())) withHyphens_.push_back(PinTextOf(pin));
     });
   });

@@ -1,8 +1,8 @@
 #include <algorithm>
 
 #include "kestrin/board/copper.h"
+#include "kestrin/board/for_each_record.h"
 #include "kestrin/board/read_board.h"
-#include "kestrin/board/records.h"
 #include "kestrin/geometry/geometry_model.h"
 #include "kestrin/tech/tech_model.h"
 
@@ -19,9 +19,9 @@ std::string_view LayerOf(const CMGeomDrawObj& object) {
 }
 
 /// Convention: a via joins the layers on which it has a pad.
-std::vector<std::size_t> LayersOf(const CMGeomVia& via, const Board& board) {
-  std::vector<std::size_t> layers;
-  ForEachRecord(via.m_pDrawObjs, [&](const CMGeomDrawObj& object, std::size_t) {
+std::vector<Index> LayersOf(const CMGeomVia& via, const Board& board) {
+  std::vector<Index> layers;
+  ForEachRecord(via.m_pDrawObjs, [&](const CMGeomDrawObj& object, Index) {
     const auto found = board.layersByName.find(ComparedName(LayerOf(object)));
     if (found != board.layersByName.end()) layers.push_back(found->second);
   });
@@ -36,7 +36,7 @@ NameIndex ReadViaPadstacks(const BoardModels& models, Board& board) {
   NameIndex byName;
   // Null if the name is empty or already has a padstack.
   const auto addNew = [&](std::string_view name) -> ViaPadstack* {
-    const std::size_t next = board.viaPadstacks.size();
+    const Index next = ToIndex(board.viaPadstacks.size());
     if (name.empty() || byName.Add(name, next) != next) return nullptr;
     ViaPadstack& padstack = board.viaPadstacks.emplace_back();
     padstack.name = name;
@@ -44,7 +44,7 @@ NameIndex ReadViaPadstacks(const BoardModels& models, Board& board) {
     return &padstack;
   };
   if (models.geometry != nullptr) {
-    ForEachRecord(models.geometry->m_pVias, [&](const CMGeomVia& via, std::size_t index) {
+    ForEachRecord(models.geometry->m_pVias, [&](const CMGeomVia& via, Index index) {
       ViaPadstack* padstack = addNew(ComparedName(via.m_sName.View()));
       if (padstack == nullptr) return;
       padstack->unit = board.units.OfGeometry(via.m_sUnits.View());
@@ -54,7 +54,7 @@ NameIndex ReadViaPadstacks(const BoardModels& models, Board& board) {
   }
   if (models.tech != nullptr) {
     ForEachRecord(models.tech->m_pViaArray,
-                  [&](const CMTechVia& rule, std::size_t) { addNew(ComparedName(rule.m_sArg1.View())); });
+                  [&](const CMTechVia& rule, Index) { addNew(ComparedName(rule.m_sArg1.View())); });
   }
   return byName;
 }

@@ -1,12 +1,11 @@
 #include "kestrin/board/widths.h"
 
 #include <algorithm>
-#include <utility>
 #include <vector>
 
 #include "kestrin/base/characters.h"
 #include "kestrin/board/millimetres.h"
-#include "kestrin/board/records.h"
+#include "kestrin/board/polylines.h"
 #include "kestrin/traces/traces_model.h"
 
 namespace kestrin {
@@ -21,34 +20,11 @@ constexpr double kThinnest = 0.075;
 constexpr double kThickest = 0.75;
 ///@}
 
-/// A width, and the number of consecutive points with it.
-struct Run {
-  double width;
-  std::size_t count;
-};
-
-std::vector<Run> WidthsInDigits(const CMTraces& traces) {
-  std::vector<Run> runs;
-  const auto gather = [&](const auto& polyline, std::size_t) {
-    ForEachRecord(polyline.m_pSegArray, [&](const CMTracesSEG& point, std::size_t) {
-      if (!(point.m_dValue4 > 0.0)) return;
-      if (runs.empty() || runs.back().width != point.m_dValue4) runs.push_back({point.m_dValue4, 0});
-      ++runs.back().count;
-    });
-  };
-  ForEachRecord(traces.m_pNetArray, [&](const CMTracesNET& net, std::size_t) {
-    ForEachRecord(net.m_pWirArray, gather);
-    ForEachRecord(net.m_pAntWirArray, gather);
-    ForEachRecord(net.m_pAntIncArray, gather);
-  });
-  return runs;
-}
-
 /// The median; of an even number of widths, the mean of the two in the middle.
-double MedianOf(std::vector<Run> runs) {
-  std::sort(runs.begin(), runs.end(), [](const Run& a, const Run& b) { return a.width < b.width; });
+double MedianOf(std::vector<WidthRun> runs) {
+  std::sort(runs.begin(), runs.end(), [](const WidthRun& a, const WidthRun& b) { return a.width < b.width; });
   std::size_t count = 0;
-  for (const Run& run : runs) count += run.count;
+  for (const WidthRun& run : runs) count += run.count;
   const auto at = [&](std::size_t place) {
     auto run = runs.begin();
     for (; place >= run->count; ++run) place -= run->count;
@@ -59,17 +35,38 @@ double MedianOf(std::vector<Run> runs) {
 
 }  // namespace
 
-bool IsDecimalNumber(std::string_view text) {
-  if (!text.empty() && (text.front() == '-' || text.front() == '+')) text.remove_prefix(1);
-  const auto points = std::count(text.begin(), text.end(), '.');
-  const auto digits = std::count_if(text.begin(), text.end(), [](char c) { return IsDigit(c); });
-  return digits > 0 && points <= 1 && static_cast<std::size_t>(digits + points) == text.size();
+CopperSurvey SurveyCopper(const CMTraces& traces) {
+  CopperSurvey survey;
+  std::vector<WidthRun>& widths = survey.widthsInDigits;
+  ForEachRecord(traces.m_pNetArray, [&](const CMTracesNET& header, Index) {
+    ForEachPolyline(header, [&](const auto& polyline, WireKind, Index) {
+      ++survey.polylines;
+      survey.points += static_cast<std::size_t>(polyline.m_pSegArray->GetSize());
+      ForEachRecord(polyline.m_pSegArray, [&](const CMTracesSEG& point, Index) {
+        if (!point.m_sValue4.View().empty()) ++survey.texts;
+        if (!(point.m_dValue4 > 0.0)) return;
+        if (widths.empty() || widths.back().width != point.m_dValue4) widths.push_back({point.m_dValue4, 0});
+        ++widths.back().count;
+      });
+    });
+  });
+  return survey;
 }
 
-std::optional<double> FitWidthStep(const CMTraces& traces, double unit) {
-  std::vector<Run> widths = WidthsInDigits(traces);
-  if (widths.empty()) return std::nullopt;
-  const double median = MedianOf(std::move(widths));
+bool IsDecimalNumber(std::string_view text) {
+  if (!text.empty() && (text.front() == '-' || text.front() == '+')) text.remove_prefix(1);
+  bool hasDigit = false;
+  bool hasPoint = false;
+  for (const char c : text) {
+    if (!IsDigit(c) && (c != '.' || hasPoint)) return false;
+    (c == '.' ? hasPoint : hasDigit) = true;
+  }
+  return hasDigit;
+}
+
+std::optional<double> FitWidthStep(const CopperSurvey& survey, double unit) {
+  if (survey.widthsInDigits.empty()) return std::nullopt;
+  const double median = MedianOf(survey.widthsInDigits);
   for (const double step : kSteps) {
     const double width = Rounded(median * step * unit);
     if (kThinnest <= width && width <= kThickest) return step;

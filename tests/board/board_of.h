@@ -57,7 +57,7 @@ inline Board BoardOf(const Texts& texts, const BoardOptions& options = {}) {
   return Models(texts).Read(options);
 }
 
-inline std::ostream& operator<<(std::ostream& out, const Polygon& points) {
+inline std::ostream& operator<<(std::ostream& out, std::span<const Point> points) {
   for (const Point point : points) out << '(' << point.x << ' ' << point.y << ')';
   return out;
 }
@@ -68,7 +68,7 @@ inline std::string Components(const Board& board) {
   for (const Component& component : board.components) {
     text << component.name << (component.side == Side::kTop ? " top " : " bottom ") << component.rotation
          << ' ' << Polygon{component.position} << ':';
-    for (const Pin& pin : component.pins) {
+    for (const Pin& pin : board.PinsOf(component)) {
       text << ' ' << pin.name << Polygon{pin.position};
       if (pin.padstack) text << board.padstacks[*pin.padstack].name;
       if (pin.net) text << '=' << board.nets[*pin.net].name;
@@ -83,7 +83,7 @@ inline std::string NetPins(const Board& board) {
   std::ostringstream text;
   for (const Net& net : board.nets) {
     text << net.name << ':';
-    for (const NetPin& pin : net.pins) text << ' ' << pin.name << (pin.pin ? "" : "?");
+    for (const NetPin& pin : board.PinsOf(net)) text << ' ' << pin.name << (pin.pin ? "" : "?");
     text << '\n';
   }
   return text.str();
@@ -94,12 +94,12 @@ inline std::string Copper(const Board& board) {
   std::ostringstream text;
   for (const Net& net : board.nets) {
     if (board.nets.size() > 1) text << net.name << ": ";
-    for (const Track& track : net.tracks) {
+    for (const Track& track : board.TracksOf(net)) {
       text << track.layer << 'w';
       track.width ? text << *track.width : text << '?';
-      text << track.points << ' ';
+      text << board.PointsOf(track) << ' ';
     }
-    for (const Via& via : net.vias)
+    for (const Via& via : board.ViasOf(net))
       text << board.viaPadstacks[via.padstack].name << '@' << Polygon{via.position} << ' ';
     for (const OpenConnection& open : net.open) text << "open" << Polygon{open.from, open.to} << ' ';
     for (const LayerLength& length : net.lengths) text << length.layer << '=' << length.length << ' ';

@@ -138,7 +138,7 @@ TEST(BoardComponents, MapTheirDrawingsOntoTheBoard) {
                                .geometry = "$$create_component(G)\n$$page(0, 0, @in)\n" + Pin("1", "1, 0"),
                                .traces = {}});
   const Transform& transform = board.components[0].transform;
-  EXPECT_EQ(transform.Apply({1, 0}), board.components[0].pins[0].position);
+  EXPECT_EQ(transform.Apply({1, 0}), board.pins[0].position);
   EXPECT_EQ(transform.Apply({1, 0}), (Point{10, -5.4}));
   EXPECT_EQ(transform.Apply({0, 2}), (Point{-40.8, 20}));
 }

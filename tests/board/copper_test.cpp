@@ -73,12 +73,12 @@ TEST(BoardCopper, RecordsTheSourceOfTracks) {
        .geometry = {},
        .traces = "# NET A\nWIR 1 0 0 0 0\n# NET B\n# NET A\nWIR 1 0 0 0 0\nANT 1 0 0 0 0\nANT 1 0 0 0 0\n"
                  "SEG 0 0 1\nSEG 1 1 1\nANT 1 0 0 1 0 0 1\nSEG 0 0 1\nSEG 1 1 1\n"});
-  ASSERT_EQ(board.nets[0].tracks.size(), 2U);
-  const Track& first = board.nets[0].tracks[0];
+  ASSERT_EQ(board.tracks.size(), 2U);
+  const Track& first = board.tracks[0];
   EXPECT_TRUE(first.kind == WireKind::kShortBranch && first.header == 2 && first.polyline == 1);
-  const Track& second = board.nets[0].tracks[1];
+  const Track& second = board.tracks[1];
   EXPECT_TRUE(second.kind == WireKind::kLongBranch && second.header == 2 && second.polyline == 0);
-  EXPECT_EQ(board.nets[0].headers, (std::vector<std::size_t>{0, 2}));
+  EXPECT_EQ(board.nets[0].headers, (std::vector<Index>{0, 2}));
 }
 
 TEST(BoardCopper, BelongsToNetsByName) {
@@ -92,7 +92,7 @@ TEST(BoardCopper, BelongsToNetsByName) {
                  "3\nFIL F L SOLID 1 2 0 1 0 0.25 0 4 0 STYLE FULL CROSS 1\n"});
   EXPECT_EQ(Copper(board),
             "B: open(1 1)(2 2) A  1: 1w?(0 0)(2 0) 1=2 C: D: 1w?(0 0)(1 0) 2w?(0 0)(3 0) 1=1 2=3 E: ");
-  EXPECT_EQ(board.nets[0].netRecords, (std::vector<std::size_t>{0, 3}));
+  EXPECT_EQ(board.nets[0].netRecords, (std::vector<Index>{0, 3}));
 }
 
 TEST(BoardCopper, FitsTheWidthStep) {

@@ -2,6 +2,10 @@
 
 #include <cmath>
 #include <numbers>
+#include <optional>
+#include <random>
+#include <sstream>
+#include <vector>
 
 #include "tests/board/board_of.h"
 
@@ -9,6 +13,7 @@ namespace kestrin {
 namespace {
 
 using test::BoardOf;
+using test::Models;
 using test::Texts;
 
 std::string DescriptionOf(const Reading& reading) {
@@ -201,7 +206,7 @@ TEST(BoardFit, TouchesTracksViasAndAreasOfItsNet) {
       {area + "VER -9 -9\nVER 9 -9\nVER 9 9\nVER -9 9\nISL 1\n" + square + "ISL 2\n" + square, "0/1"},
       {area + "VER -9 -9\nVER 9 -9\nVER 9 9\nVER -9 9\nISL 1\n" + square + net + "SEG 0 0 1\nSEG 9 0 1",
        "1/1"},
-      {net + "SEG 1e400 0 1\nSEG 0 0 1", "0/1"},
+      {net + "SEG 1e400 0 1\nSEG 0 0 1", "1/1"},
       {net + "SEG -1e400 0 1 1e400\nSEG 1e400 0 1", "0/1"},
   };
   for (const Case& c : cases) {
@@ -214,6 +219,48 @@ TEST(BoardFit, TouchesTracksViasAndAreasOfItsNet) {
     EXPECT_EQ(std::to_string(board.reading.pinsTouching) + "/" + std::to_string(board.reading.pinsCounted),
               c.touching)
         << c.lines;
+  }
+}
+
+/// A board of many components, at which a share of the tracks end at the pins as a convention places them,
+/// and the others anywhere.
+Texts ManyPlacedBy(const Convention& convention, int components, int percent) {
+  std::mt19937 random(7);
+  std::uniform_int_distribution<int> hundred(0, 99);
+  std::vector<Placed> placed;
+  for (int i = 0; i < components; ++i)
+    placed.push_back({1 + hundred(random) % 2, hundred(random) * 15 % 360});
+  Texts texts = PlacedBy(convention, placed);
+  std::string traces;
+  std::istringstream lines(texts.traces);
+  for (std::string line; std::getline(lines, line);) {
+    const bool isMoved = line.starts_with("SEG") && hundred(random) >= percent;
+    traces += (isMoved ? "SEG 900 900 1" : line) + '\n';
+  }
+  texts.traces = traces;
+  return texts;
+}
+
+TEST(BoardFit, CountsAsManyPinsAsIfEveryReadingWereCounted) {
+  for (const int percent : {100, 60, 5, 0}) {
+    for (const Convention& convention : {kConventions[0], kConventions[3], kConventions[6]}) {
+      const Texts texts = ManyPlacedBy(convention, 900, percent);
+      const Models models(texts);
+      std::optional<Reading> best;
+      for (const Convention& c : kConventions) {
+        const Reading reading =
+            models
+                .Read(
+                    {.rotation = c.rotation, .bottom = c.bottom, .bottomTurn = c.bottomTurn, .widthStep = {}})
+                .reading;
+        if (!best || reading.pinsTouching > best->pinsTouching) best = reading;
+      }
+      Reading fitted = models.Read().reading;
+      EXPECT_EQ(fitted.isConfirmed, percent > 50);
+      fitted.isFitted = best->isFitted;
+      fitted.isConfirmed = best->isConfirmed;
+      EXPECT_EQ(DescriptionOf(fitted), DescriptionOf(*best)) << percent;
+    }
   }
 }
 

@@ -39,7 +39,7 @@ std::vector<std::string> CollidingNames(std::size_t count) {
   std::vector<std::string> names;
   for (int i = 0; names.size() < count; ++i) {
     std::string name = "N" + std::to_string(i);
-    if (std::hash<std::string_view>()(name) % 65536 == 0) names.push_back(std::move(name));
+    if (HashOf(name) % 65536 == 0) names.push_back(std::move(name));
   }
   return names;
 }
@@ -49,10 +49,10 @@ TEST(NameIndex, KeepsTheFirstOfEqualNamesEvenIfNamesCollide) {
   for (int i = 0; i < 5000; ++i) names.push_back("M" + std::to_string(i));
   NameIndex index;
   EXPECT_EQ(index.Find("N"), std::nullopt);
-  for (std::size_t i = 0; i < names.size(); ++i) EXPECT_EQ(index.Add(names[i], i), i);
-  for (std::size_t i = 0; i < names.size(); ++i) {
+  for (Index i = 0; i < names.size(); ++i) EXPECT_EQ(index.Add(names[i], i), i);
+  for (Index i = 0; i < names.size(); ++i) {
     EXPECT_EQ(index.Find(names[i]), i) << names[i];
-    EXPECT_EQ(index.Add(names[i], names.size()), i) << names[i];
+    EXPECT_EQ(index.Add(names[i], i + 1), i) << names[i];
   }
   EXPECT_EQ(index.Find("N"), std::nullopt);
   EXPECT_EQ(index.Find(""), std::nullopt);

@@ -58,8 +58,8 @@ TEST(BoardUnits, AreThoseOfEachFile) {
              c.component + ")\n$$attribute(COMPONENT_PIN_DEFINITION, 1, [0, 1])",
          .traces = std::string("UNITS ") + c.traces + "\n# NET A\nWIR 1 0 0 0 0\nSEG 0 0 1\nSEG 1 0 1"});
     std::ostringstream text;
-    text << "pin " << board.components[0].pins[0].position.y << " at " << board.components[0].position.x
-         << " outline " << board.outline[1].x << " track " << board.nets[0].lengths[0].length;
+    text << "pin " << board.pins[0].position.y << " at " << board.components[0].position.x << " outline "
+         << board.outline[1].x << " track " << board.nets[0].lengths[0].length;
     EXPECT_EQ(text.str(), c.board) << c.neutral << ' ' << c.geometry << ' ' << c.component << ' ' << c.traces;
   }
 }

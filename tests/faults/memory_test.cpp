@@ -7,6 +7,7 @@
 #include <string>
 #include <utility>
 
+#include "kestrin/board/read_board.h"
 #include "kestrin/session/dialog.h"
 #include "kestrin/traces/strict/mp_traces_parser.h"
 #include "kestrin/traces/strict/strict_parser.h"
@@ -159,6 +160,25 @@ TEST(OutOfMemory, TheParserOfAFileLosesNoModel) {
     ASSERT_EQ(AllocationsSoFar().alive, alive) << "leaked, allocation " << number;
   }
   testing::internal::GetCapturedStderr();
+}
+
+TEST(OutOfMemory, ReadBoardPassesItOnAndLeaksNothing) {
+  CPC_KESTRIN_GET session;
+  test::ImportBoard(session);
+  const auto read = [&] { return ReadBoard(ModelsOf(session)); };
+  const std::size_t points = read().points.size();
+  const std::int64_t allocations = AllocationsOf([&] { static_cast<void>(read()); });
+  ASSERT_GT(allocations, 50);
+  for (const Which which : {Which::kOne, Which::kAllFromThere}) {
+    for (std::int64_t number = 0; number < allocations; ++number) {
+      const std::int64_t alive = AllocationsSoFar().alive;
+      // Sorting makes do with less memory.
+      const bool ranOut = RunsOut([&] { EXPECT_EQ(read().points.size(), points); }, number, which);
+      EXPECT_TRUE(ranOut || which == Which::kOne) << number;
+      ASSERT_EQ(AllocationsSoFar().alive, alive) << "leaked, allocation " << number;
+    }
+  }
+  EXPECT_EQ(read().points.size(), points);
 }
 
 }  // namespace

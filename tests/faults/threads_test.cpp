@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "kestrin/board/read_board.h"
 #include "kestrin/traces/strict/strict_parser.h"
 #include "kestrin/windowing/message_box.h"
 #include "kestrin/windowing/messages.h"
@@ -70,6 +71,17 @@ TEST(Threads, ModelsAreReadAndReleasedAtOnce) {
   InThreads([&] {
     const auto copy = std::move(copies[next++]);
     EXPECT_EQ(test::DescribedModels(*copy), whole);
+  });
+}
+
+TEST(Threads, BoardsAreReadFromTheSameModelsAtOnce) {
+  CPC_KESTRIN_GET session;
+  test::ImportBoard(session);
+  const Board first = ReadBoard(ModelsOf(session));
+  InThreads([&] {
+    const Board board = ReadBoard(ModelsOf(session));
+    EXPECT_EQ(board.points, first.points);
+    EXPECT_EQ(board.reading.pinsTouching, first.reading.pinsTouching);
   });
 }
 

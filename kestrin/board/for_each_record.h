@@ -3,14 +3,15 @@
 /// @file
 /// Walking the lists of the models.
 
-#include <cstddef>
+#include "kestrin/board/indexes.h"
 
 namespace kestrin {
 
 /// Calls an action with every record of a list and its index. Skips null slots, which hosts may have left.
 template <class List, class Action>
 void ForEachRecord(const List& list, Action action) {
-  std::size_t index = 0;
+  Index index = 0;
+  static_cast<void>(ToIndex(static_cast<std::size_t>(list->GetSize())));
   for (const auto* record : *list) {
     if (record != nullptr) action(*record, index);
     ++index;
