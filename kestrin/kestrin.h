@@ -11,6 +11,7 @@
 #include "kestrin/neutral/component_model.h"
 #include "kestrin/neutral/net_model.h"
 #include "kestrin/records/points.h"
+#include "kestrin/records/source_lines.h"
 #include "kestrin/session/import_session.h"
 #include "kestrin/session/tokenizer.h"
 #include "kestrin/tech/tech_model.h"

@@ -38,12 +38,14 @@ void CurrentGeometry::CreateDrawing(std::string_view name) { Open(AppendNew(*mod
 void CurrentGeometry::CreateBoard(std::string_view name) {
   BindBoard();
   Open(board_, name);
+  records_.NoteLineOf(board_);
 }
 
 void CurrentGeometry::CreateStackup(std::string_view name) {
   open_ = model_.m_pStackup;
   DeleteRecords(*model_.m_pStackup->m_pLayers);
   model_.m_pStackup->m_sName = name;
+  records_.NoteLineOf(model_.m_pStackup);
 }
 
 void CurrentGeometry::CreateUnknown() {

@@ -31,6 +31,7 @@ LineOutcome CreateIgnored(ReaderState& state) {
 
 LineOutcome SetUnit(ReaderState& state, CString& unit) {
   unit = UnitIn(state.arguments);
+  state.records.NoteLineOf(&unit);
   return LineOutcome::Imported();
 }
 

@@ -169,7 +169,7 @@ class KESTRIN_EXPORT CMGeomPanel : public PooledRecord, private OwnedLists<5> {
 };
 
 /// A layer definition of the stack-up. Copies share the values.
-class KESTRIN_EXPORT CMGeomLayerDEF {
+class KESTRIN_EXPORT CMGeomLayerDEF : public PooledRecord {
   std::shared_ptr<CStringArray> values_ = std::make_shared<CStringArray>();
 
  public:

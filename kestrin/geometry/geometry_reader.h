@@ -18,6 +18,9 @@ class GeometryReader {
   /// The model must outlive the reader.
   explicit GeometryReader(CMGeom& model) : state_(model) {}
 
+  /// Notes the lines of records; to be called before the first line.
+  void NoteLines(LineNotes& notes) { state_.records.NoteLines(notes); }
+
   LineOutcome ReadLine(std::string_view line);
 
  private:

@@ -21,6 +21,7 @@ LineOutcome AddNamedArea(ReaderState& state, const BracketScan& scan, RecordArra
 
 LineOutcome AddPoints(ReaderState& state, NumberArray& points) {
   Append(points, state.TakePoints(2, kOutlineScan));
+  state.records.NoteLineOf(&points);
   return LineOutcome::Imported();
 }
 
@@ -75,6 +76,7 @@ LineOutcome AddPlacementOutline::operator()(ReaderState& state,
 
 LineOutcome AddPlacementOutline::operator()(ReaderState& state, CMGeomPlacementOutline& outline) const {
   Append(*outline.m_pCoords, state.TakePoints(3, kPlacementOutlineScan));
+  state.records.NoteLineOf(&outline);
   return LineOutcome::Imported();
 }
 

@@ -1,6 +1,5 @@
 // Attributes with texts and numbers.
 
-#include <memory>
 #include <utility>
 
 #include "kestrin/geometry/attribute_handlers.h"
@@ -19,6 +18,7 @@ LineOutcome WithoutBrackets(const ReaderState& state) {
 
 LineOutcome SetText(ReaderState& state, CString& text) {
   text = state.values[2];
+  state.records.NoteLineOf(&text);
   return LineOutcome::Imported();
 }
 
@@ -43,7 +43,7 @@ LineOutcome AddOverride(ReaderState& state, RecordArray<CMGeomOverride>& overrid
 }
 
 LineOutcome AddLayerDefinition(ReaderState& state, RecordArray<CMGeomLayerDEF>& layers) {
-  auto layer = std::make_unique<CMGeomLayerDEF>();
+  auto layer = state.records.Make<CMGeomLayerDEF>();
   layer->m_sDefinition = state.values[1];
   layer->m_sDefinition.MakeUpper();
   state.values.Cut(state.arguments, Commas::kEvery);  // a comma in the name separates too

@@ -117,6 +117,7 @@ LineOutcome NeutralReader::SetBoard() {
 
 LineOutcome NeutralReader::SetUnits() {
   components_.m_sUnits = Value(1);
+  records_.NoteLineOf(&components_.m_sUnits);
   return LineOutcome::Imported();
 }
 

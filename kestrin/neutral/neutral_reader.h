@@ -32,6 +32,9 @@ class NeutralReader {
     selection_ = {};
   }
 
+  /// Notes the lines of records; to be called before the first line.
+  void NoteLines(LineNotes& notes) { records_.NoteLines(notes); }
+
   LineOutcome ReadLine(std::string_view line);
 
  private:

@@ -88,6 +88,7 @@ void RecordPool::OpenBlock() {
   blockSize_ = blockSize;
   blockEnd_ = block->Begin() + size;
   BeginSlab(*block);
+  if (notes_ != nullptr) notes_->OpenBlock(block, size);
 }
 
 void RecordPool::CloseBlock() noexcept {

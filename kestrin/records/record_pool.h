@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "kestrin/base/memory_marks.h"
+#include "kestrin/records/line_notes.h"
 #include "kestrin/records/pooled_record.h"
 
 namespace kestrin {
@@ -29,6 +30,14 @@ class RecordPool {
     return std::unique_ptr<Record>(new (*this) Record(std::forward<Arguments>(arguments)...));
   }
 
+  /// Notes the line of every record from now on. To be called before the first is made; the notes must
+  /// outlive the last.
+  void NoteLines(LineNotes& notes) { notes_ = &notes; }
+  /// Notes the line of what is not a record of the pool, if lines are noted.
+  void NoteLineOf(const void* value) {
+    if (notes_ != nullptr) notes_->AddValue(value);
+  }
+
  private:
   friend class PooledRecord;
   struct Slab;
@@ -36,6 +45,7 @@ class RecordPool {
   [[nodiscard]] void* Allocate(std::size_t size) {
     const std::size_t room = RoomFor(size);
     if (static_cast<std::size_t>(end_ - next_) < room) OpenSlab();
+    if (notes_ != nullptr) notes_->AddRecord(next_);
     ++made_;
     MarkUsed(next_, size);
     return std::exchange(next_, next_ + room);
@@ -63,8 +73,9 @@ class RecordPool {
   std::size_t made_ = 0;       // records made in the current block
   std::size_t blockSize_ = 0;  // of the current block, including kHeapWords
   std::byte* blockEnd_ = nullptr;
-  std::byte* next_ = nullptr;  // the next free place in the current slab
-  std::byte* end_ = nullptr;   // of the current slab
+  std::byte* next_ = nullptr;   // the next free place in the current slab
+  std::byte* end_ = nullptr;    // of the current slab
+  LineNotes* notes_ = nullptr;  // null if lines are not noted
 };
 
 inline void* PooledRecord::operator new(std::size_t size, RecordPool& pool) { return pool.Allocate(size); }

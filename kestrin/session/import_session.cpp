@@ -1,8 +1,11 @@
 #include "kestrin/session/import_session.h"
 
+#include <optional>
+
 #include "kestrin/geometry/geometry_model.h"
 #include "kestrin/geometry/geometry_reader.h"
 #include "kestrin/neutral/neutral_reader.h"
+#include "kestrin/records/line_notes.h"
 #include "kestrin/session/dialog.h"
 #include "kestrin/session/line_count.h"
 #include "kestrin/session/reader_loop.h"
@@ -122,12 +125,26 @@ void CPC_KESTRIN_GET::RefreshHost() const {
   }
 }
 
+/// Reads a file, whose roots have just been replaced.
+template <class Reader>
+void CPC_KESTRIN_GET::Read(ImportFile file, const FileReading& reading, Reader& reader) {
+  FileReport& report = report_.Filled(file);
+  auto& kept = sourceLines_[static_cast<std::size_t>(file)];
+  kept.reset();
+  std::optional<LineNotes> notes;
+  if (keepsSourceLines_) {
+    const auto lines = std::make_shared<SourceLines>();
+    kept = lines;
+    reader.NoteLines(notes.emplace(*lines, report.linesRead));
+  }
+  ReadLines(reading, reader, report);
+}
+
 void CPC_KESTRIN_GET::TechFileParse(CString path) {
   const auto tech = std::make_shared<CMTech>();
   TechReader reader(*tech);
   Replace(tech_, m_pTech, tech);
-  ReadLines({.path = path, .bar = m_pTechProgress, .disablesBar = true}, reader,
-            report_.Filled(ImportFile::kTech));
+  Read(ImportFile::kTech, {.path = path, .bar = m_pTechProgress, .disablesBar = true}, reader);
 }
 
 void CPC_KESTRIN_GET::NeutralFileParse(CString path) {
@@ -136,23 +153,21 @@ void CPC_KESTRIN_GET::NeutralFileParse(CString path) {
   NeutralReader reader(*components, *nets, report_.boardSelection);
   Replace(comps_, m_pComps, components);
   Replace(netList_, m_pNetList, nets);
-  ReadLines({.path = path, .bar = m_pNeutralProgress}, reader, report_.Filled(ImportFile::kNeutral));
+  Read(ImportFile::kNeutral, {.path = path, .bar = m_pNeutralProgress}, reader);
 }
 
 void CPC_KESTRIN_GET::GeomFileParse(CString path) {
   const auto geom = std::make_shared<CMGeom>();
   GeometryReader reader(*geom);
   Replace(geom_, m_pGeom, geom);
-  ReadLines({.path = path, .bar = m_pGeomProgress, .pumpsMessages = true}, reader,
-            report_.Filled(ImportFile::kGeometry));
+  Read(ImportFile::kGeometry, {.path = path, .bar = m_pGeomProgress, .pumpsMessages = true}, reader);
 }
 
 void CPC_KESTRIN_GET::TraceFileParse(CString path) {
   const auto traces = std::make_shared<CMTraces>();
   TracesReader reader(*traces);
   Replace(traces_, m_pTraces, traces);
-  ReadLines({.path = path, .bar = m_pTraceProgress, .pumpsMessages = true}, reader,
-            report_.Filled(ImportFile::kTraces));
+  Read(ImportFile::kTraces, {.path = path, .bar = m_pTraceProgress, .pumpsMessages = true}, reader);
 }
 
 CMTech* CPC_KESTRIN_GET::GetTech() const { return m_pTech; }
@@ -160,6 +175,12 @@ CMComps* CPC_KESTRIN_GET::GetComps() const { return m_pComps; }
 CMNetList* CPC_KESTRIN_GET::GetNetList() const { return m_pNetList; }
 CMGeom* CPC_KESTRIN_GET::GetGeom() const { return m_pGeom; }
 CMTraces* CPC_KESTRIN_GET::GetTraces() const { return m_pTraces; }
+
+void CPC_KESTRIN_GET::KeepSourceLines(bool keep) { keepsSourceLines_ = keep; }
+
+const SourceLines* CPC_KESTRIN_GET::GetSourceLines(ImportFile file) const {
+  return sourceLines_[static_cast<std::size_t>(file)].get();
+}
 
 CString CPC_KESTRIN_GET::sGetErrorMsg() const { return m_sErrorMsg; }
 

@@ -3,6 +3,7 @@
 /// @file
 /// The import session: reads an export set into models.
 
+#include <array>
 #include <memory>
 
 #include "kestrin/base/export.h"
@@ -18,6 +19,8 @@ class CMGeom;
 class CMNetList;
 class CMTech;
 class CMTraces;
+class SourceLines;
+struct FileReading;
 
 /// Reads the four files of an export set into models, whose roots it owns.
 ///
@@ -103,6 +106,14 @@ class KESTRIN_EXPORT CPC_KESTRIN_GET {
   [[nodiscard]] CMTraces* GetTraces() const;
   ///@}
 
+  /// Whether the files that are parsed from now on keep the line of each record; false at first. That takes
+  /// 8 bytes a record.
+  void KeepSourceLines(bool keep);
+  /// Which lines of a file made the records of its roots; null if they were not kept. The session owns the
+  /// object, which is valid as long as the roots of the file are, also in copies of the session. Include
+  /// kestrin/records/source_lines.h to use it.
+  [[nodiscard]] const SourceLines* GetSourceLines(ImportFile file) const;
+
   /// What became of each line of the files that were read. The reference is valid as long as the session is.
   [[nodiscard]] const ImportReport& GetReport() const { return report_; }
 
@@ -160,8 +171,12 @@ class KESTRIN_EXPORT CPC_KESTRIN_GET {
  private:
   [[nodiscard]] bool HasMandatoryPaths() const;
   void RefreshHost() const;
+  template <class Reader>
+  void Read(ImportFile file, const FileReading& reading, Reader& reader);
 
   ImportReport report_;
+  bool keepsSourceLines_ = false;
+  std::array<std::shared_ptr<const SourceLines>, kImportFileCount> sourceLines_;
 };
 
 }  // namespace kestrin

@@ -10,6 +10,7 @@
 #include "kestrin/framework/string_array.h"
 #include "kestrin/records/ex_ptr_array.h"
 #include "kestrin/records/ownership.h"
+#include "kestrin/records/pooled_record.h"
 
 namespace kestrin {
 
@@ -23,7 +24,7 @@ class KESTRIN_EXPORT CMTechPin {
 };
 
 /// A physical layer.
-class KESTRIN_EXPORT CMTechStackUpOrder {
+class KESTRIN_EXPORT CMTechStackUpOrder : public PooledRecord {
  public:
   CMTechStackUpOrder() = default;
   CMTechStackUpOrder(const CMTechStackUpOrder&) = delete;
@@ -36,7 +37,7 @@ class KESTRIN_EXPORT CMTechStackUpOrder {
 };
 
 /// A via rule: the first, second and last argument of its line.
-class KESTRIN_EXPORT CMTechVia {
+class KESTRIN_EXPORT CMTechVia : public PooledRecord {
  public:
   CMTechVia() = default;
   CMTechVia(const CMTechVia&) = default;

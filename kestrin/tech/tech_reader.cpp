@@ -1,7 +1,6 @@
 #include "kestrin/tech/tech_reader.h"
 
 #include <cstdint>
-#include <memory>
 #include <utility>
 
 #include "kestrin/base/numbers.h"
@@ -39,7 +38,7 @@ LineOutcome TechReader::ReadLine(std::string_view line) {
 }
 
 LineOutcome TechReader::AddLayer(std::string_view line) {
-  auto layer = std::make_unique<CMTechStackUpOrder>();
+  auto layer = records_.Make<CMTechStackUpOrder>();
   ForEachArgument(line, [&](std::int64_t number, std::string_view argument) {
     switch (number) {
       case 1: layer->m_nPhysicalLayerNumber = ToInt(argument); break;
@@ -52,7 +51,7 @@ LineOutcome TechReader::AddLayer(std::string_view line) {
 }
 
 LineOutcome TechReader::AddViaRule(std::string_view line) {
-  auto via = std::make_unique<CMTechVia>();
+  auto via = records_.Make<CMTechVia>();
   ForEachArgument(line, [&](std::int64_t number, std::string_view argument) {
     switch (number) {
       case 1: via->m_sArg1 = argument; break;

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "kestrin/records/record_pool.h"
 #include "kestrin/tech/tech_model.h"
 #include "kestrin/text/line_outcome.h"
 
@@ -18,6 +19,9 @@ class TechReader {
   /// The model must outlive the reader.
   explicit TechReader(CMTech& model) : model_(model) {}
 
+  /// Notes the lines of records; to be called before the first line.
+  void NoteLines(LineNotes& notes) { records_.NoteLines(notes); }
+
   LineOutcome ReadLine(std::string_view line);
 
  private:
@@ -28,6 +32,7 @@ class TechReader {
   void ForEachArgument(std::string_view line, Visit visit);
 
   CMTech& model_;
+  RecordPool records_;
   std::string unquoted_;  // the arguments of the current line; a member to reuse its memory
 };
 

@@ -97,6 +97,7 @@ LineOutcome TracesReader::SkipQuoted(std::string_view line) {
 
 LineOutcome TracesReader::SetUnits() {
   model_.m_sUnits = values_.Text(1);
+  records_.NoteLineOf(&model_.m_sUnits);
   return LineOutcome::Imported();
 }
 

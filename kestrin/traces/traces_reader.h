@@ -22,6 +22,9 @@ class TracesReader {
   /// The model must outlive the reader.
   explicit TracesReader(CMTraces& model) : model_(model) {}
 
+  /// Notes the lines of records; to be called before the first line.
+  void NoteLines(LineNotes& notes) { records_.NoteLines(notes); }
+
   /// Raises CInvalidArgException if the line has too few values for its record. The model is then unchanged.
   LineOutcome ReadLine(std::string_view line);
 

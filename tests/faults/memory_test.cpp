@@ -68,6 +68,7 @@ TEST(OutOfMemory, AnImportPassesItOnAndTheSessionStaysUsable) {
   for (int round = 0; round < 2; ++round) {  // the first round allocates what lasts as long as the process
     CPC_KESTRIN_GET session;
     const Host host(session);
+    session.KeepSourceLines(true);
     allocations = AllocationsOf([&] { test::ImportBoard(session); });
     whole = test::DescribedModels(session);
   }
@@ -78,6 +79,7 @@ TEST(OutOfMemory, AnImportPassesItOnAndTheSessionStaysUsable) {
       {
         CPC_KESTRIN_GET session;
         const Host host(session);
+        session.KeepSourceLines(true);
         EXPECT_TRUE(RunsOut([&] { test::ImportBoard(session); }, number, which)) << number;
         ExpectReportOfAnImportThatStopped(session.GetReport());
         EXPECT_LT(test::DescribedModels(session).size(), whole.size());
@@ -110,7 +112,7 @@ TEST(OutOfMemory, TheStrictReaderReportsThatMemoryRanOut) {
   const std::string whole = test::Described(*ParseStrictly(SourceOf(board)).traces);
   ByteSource counted = SourceOf(board);
   const std::int64_t allocations =
-      AllocationsOf([&] { static_cast<void>(ParseStrictly(std::move(counted))); });
+      AllocationsOf([&] { static_cast<void>(ParseStrictly(std::move(counted), true)); });
   ASSERT_GT(allocations, 50);
   for (const Which which : {Which::kOne, Which::kAllFromThere}) {
     for (std::int64_t number = 0; number < allocations; ++number) {
@@ -118,7 +120,7 @@ TEST(OutOfMemory, TheStrictReaderReportsThatMemoryRanOut) {
       {
         std::optional<StrictParse> parse;
         ByteSource source = SourceOf(board);
-        const bool ranOut = RunsOut([&] { parse = ParseStrictly(std::move(source)); }, number, which);
+        const bool ranOut = RunsOut([&] { parse = ParseStrictly(std::move(source), true); }, number, which);
         // If there is no memory for the text of the error, the exception is passed on.
         EXPECT_TRUE(ranOut ? which == Which::kAllFromThere || number == 0
                            : parse->result == ParseResult::kExhausted);

@@ -26,6 +26,7 @@ void ModelBuilder::DropOpen() {
 void ModelBuilder::Start(std::string_view units) {
   root_ = std::make_unique<CMTraces>();
   root_->m_sUnits = units;
+  records_.NoteLineOf(&root_->m_sUnits);
 }
 
 void ModelBuilder::SetSt(double value1, double value2, int value3, int value4) {
@@ -183,6 +184,7 @@ void ModelBuilder::StartArea(CMTracesArea& area, std::string_view name1, std::st
   area.m_sName1 = lastAreaName1_ = Unquoted(name1);
   area.m_sName2 = lastAreaName2_ = Unquoted(name2);
   area_ = &area;
+  areaLine_ = line_;
 }
 
 void ModelBuilder::SetAreaTail(double value5, int value6, int last, int value8, int value9, double value10,
@@ -209,6 +211,7 @@ bool ModelBuilder::HasNamesOf(const CMTracesFIL& fill, const CMTracesArea& area)
 }
 
 ModelBuilder::Owned<CMTracesFIL> ModelBuilder::MakeFillFor(const CMTracesArea& area) {
+  line_ = areaLine_;
   auto fill = records_.Make<CMTracesFIL>();
   fill->m_sName1 = area.m_sName1;
   fill->m_sName2 = area.m_sName2;

@@ -3,7 +3,9 @@
 /// @file
 /// The semantic actions of the Traces grammar: they build the model from the values of tokens.
 
+#include <cstdint>
 #include <memory>
+#include <optional>
 #include <string_view>
 #include <tuple>
 #include <utility>
@@ -23,6 +25,17 @@ class ModelBuilder {
   /// A member of Owner that points to a list of records.
   template <class Owner, class Record>
   using ListOf = RecordArray<Record>* Owner::*;
+
+  /// Notes the lines of records if there is an object for them, which must outlive this one.
+  explicit ModelBuilder(SourceLines* lines) {
+    if (lines != nullptr) records_.NoteLines(notes_.emplace(*lines, line_));
+  }
+
+  /// The next call is about the record that begins on this line.
+  [[nodiscard]] ModelBuilder& At(std::int64_t line) {
+    line_ = line;
+    return *this;
+  }
 
   /// Returns the model without what is still open; null before the units line.
   [[nodiscard]] Owned<CMTraces> Take() { return std::move(root_); }
@@ -99,6 +112,8 @@ class ModelBuilder {
   [[nodiscard]] static bool HasNamesOf(const CMTracesFIL& fill, const CMTracesArea& area);
   [[nodiscard]] Owned<CMTracesFIL> MakeFillFor(const CMTracesArea& area);
 
+  std::int64_t line_ = 0;
+  std::optional<LineNotes> notes_;
   RecordPool records_;
   Owned<CMTraces> root_;
   CMTracesFIL* looseFill_ = nullptr;  // the fill of the last loose area
@@ -110,6 +125,7 @@ class ModelBuilder {
   Owned<CMTracesFIL> fill_;
   std::tuple<Owned<CMTracesARE>, Owned<CMTracesARS>> areas_;
   CMTracesArea* area_ = nullptr;  // points into areas_
+  std::int64_t areaLine_ = 0;
   Owning<RecordArray<CMTracesSEG>> segments_;
   Owning<RecordArray<CMTracesVER>> vertices_;
 };

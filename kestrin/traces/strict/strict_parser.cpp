@@ -6,6 +6,8 @@
 
 namespace kestrin {
 
-StrictParse ParseStrictly(ByteSource source) { return TracesParser(std::move(source)).Parse(); }
+StrictParse ParseStrictly(ByteSource source, bool keepsSourceLines) {
+  return TracesParser(std::move(source)).Parse({}, keepsSourceLines);
+}
 
 }  // namespace kestrin

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "kestrin/base/export.h"
+#include "kestrin/records/source_lines.h"
 #include "kestrin/traces/strict/byte_source.h"
 #include "kestrin/traces/strict/syntax_error.h"
 #include "kestrin/traces/traces_model.h"
@@ -30,6 +31,7 @@ struct StrictParse {
   std::string error;                            ///< the last error as a message; empty if there is none
   std::int64_t line = 0;                        ///< the number of line ends read
   std::vector<SyntaxError> errors;              ///< all reported syntax errors, in file order
+  std::unique_ptr<const SourceLines> lines;     ///< which lines made the records; null if they were not kept
 };
 
 /// Parses one file.
@@ -39,8 +41,10 @@ struct StrictParse {
 ///       std::cerr << "line " << error.line + 1 << ": " << error.Describe() << '\n';
 ///     }
 ///
+/// Keeps the line of each record if asked to; see SourceLines.
+///
 /// Prints nothing. May be called on several threads at once. Exceptions of the source pass through; if memory
 /// is exhausted, the result is kExhausted.
-[[nodiscard]] KESTRIN_EXPORT StrictParse ParseStrictly(ByteSource source);
+[[nodiscard]] KESTRIN_EXPORT StrictParse ParseStrictly(ByteSource source, bool keepsSourceLines = false);
 
 }  // namespace kestrin

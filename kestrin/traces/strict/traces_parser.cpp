@@ -3,6 +3,7 @@
 #include <functional>
 #include <new>
 #include <string>
+#include <utility>
 
 #include "kestrin/traces/strict/model_builder.h"
 #include "kestrin/traces/strict/traces_grammar.h"
@@ -27,9 +28,10 @@ ParseResult ParseTokens(TracesScanner& scanner, ModelBuilder& model, const Error
 
 }  // namespace
 
-StrictParse TracesParser::Parse(const ErrorListener& listener) {
+StrictParse TracesParser::Parse(const ErrorListener& listener, bool keepsSourceLines) {
   StrictParse parse;
-  ModelBuilder model;
+  auto lines = keepsSourceLines ? std::make_unique<SourceLines>() : nullptr;
+  ModelBuilder model(lines.get());
   // Moved back at the end, unless an exception left it in an undefined state.
   std::unique_ptr<TracesScanner> scanner = std::move(scanner_);
   const auto keep = [&](const SyntaxError& error) {
@@ -48,6 +50,7 @@ StrictParse TracesParser::Parse(const ErrorListener& listener) {
   if (scanner != nullptr) parse.line = scanner->LineEnds();
   if (parse.result != ParseResult::kExhausted) scanner_ = std::move(scanner);
   parse.traces = model.Take();
+  parse.lines = std::move(lines);
   return parse;
 }
 

@@ -28,8 +28,8 @@ class TracesParser {
   TracesParser& operator=(const TracesParser&) = delete;
 
   /// Parses the input from the current position; lines are counted from there. Calls the listener with each
-  /// error. Exceptions of the source pass through.
-  [[nodiscard]] StrictParse Parse(const ErrorListener& listener = {});
+  /// error. Keeps the line of each record if asked to. Exceptions of the source pass through.
+  [[nodiscard]] StrictParse Parse(const ErrorListener& listener = {}, bool keepsSourceLines = false);
 
  private:
   ByteSource source_;
