@@ -4,21 +4,28 @@ _kestrin() {
   COMPREPLY=()
   case $before in
     --tech | --neutral | --geometry | --traces) ;;
+    --fail-on) mapfile -t COMPREPLY < <(compgen -W 'error warning note never' -- "$word"); return ;;
+    --encoding) mapfile -t COMPREPLY < <(compgen -W 'auto utf-8 latin-1' -- "$word"); return ;;
+    --allow) return ;;
     --format) mapfile -t COMPREPLY < <(compgen -W 'text json' -- "$word"); return ;;
     --rotation | --bottom) mapfile -t COMPREPLY < <(compgen -W 'ccw cw' -- "$word"); return ;;
     --bottom-turn) mapfile -t COMPREPLY < <(compgen -W '0 180' -- "$word"); return ;;
     --width-step) return ;;
     *)
       if [ "$COMP_CWORD" = 1 ]; then
-        mapfile -t COMPREPLY < <(compgen -W 'summary board dump check --help --version' -- "$word")
+        mapfile -t COMPREPLY < <(compgen -W 'summary check board dump help --help --version' -- "$word")
         return
       fi
       case ${COMP_WORDS[1]} in
-        summary | dump) mapfile -t COMPREPLY < <(compgen -W "$files --strict --help" -- "$word") ;;
+        help) mapfile -t COMPREPLY < <(compgen -W 'summary check board dump' -- "$word"); return ;;
+        dump) mapfile -t COMPREPLY < <(compgen -W "$files --strict --help" -- "$word") ;;
+        summary) mapfile -t COMPREPLY < <(compgen -W "$files --strict --encoding --help" -- "$word") ;;
         board)
           mapfile -t COMPREPLY < <(
-            compgen -W "$files --strict --rotation --bottom --bottom-turn --width-step --help" -- "$word") ;;
-        check) mapfile -t COMPREPLY < <(compgen -W "$files --strict --format --help" -- "$word") ;;
+            compgen -W "$files --strict --encoding --rotation --bottom --bottom-turn --width-step --help" -- "$word") ;;
+        check)
+          mapfile -t COMPREPLY < <(
+            compgen -W "$files --strict --encoding --format --fail-on --allow --ignored --quiet --help" -- "$word") ;;
       esac
       ;;
   esac

@@ -37,9 +37,8 @@ Board BoardOf(const Imported& imported, const BoardOptions& options) {
 
 int PrintBoard(const ExportSet& files, const ReadingWords& words) {
   const BoardOptions options = OptionsOf(words);
-  files.CheckReadable();
-  Imported imported;
-  const std::string stopped = Import(imported, files);
+  Imported imported(files);
+  const std::string stopped = Import(imported);
   JsonWriter json;
   WriteJson(json, BoardOf(imported, options));
   json.Finish();

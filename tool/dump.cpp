@@ -8,7 +8,7 @@
 namespace kestrin::tool {
 namespace {
 
-void WriteDocument(JsonWriter& json, const Imported& imported, const ExportSet& files) {
+void WriteDocument(JsonWriter& json, const Imported& imported) {
   const CPC_KESTRIN_GET& session = imported.session;
   JsonObject document(json);
   document.Member("tech", session.m_pTech);
@@ -16,7 +16,7 @@ void WriteDocument(JsonWriter& json, const Imported& imported, const ExportSet& 
   document.Member("geometry", session.m_pGeom).Member("traces", imported.Traces());
   if (imported.strictTraces) {
     document.Member("strict", *imported.strictTraces);
-  } else if (files.IsStrict()) {
+  } else if (imported.files.IsStrict()) {
     document.Member("strict", nullptr);
   }
 }
@@ -24,11 +24,10 @@ void WriteDocument(JsonWriter& json, const Imported& imported, const ExportSet& 
 }  // namespace
 
 int Dump(const ExportSet& files) {
-  files.CheckReadable();
-  Imported imported;
-  const std::string stopped = Import(imported, files);
+  Imported imported(files);
+  const std::string stopped = Import(imported);
   JsonWriter json;
-  WriteDocument(json, imported, files);
+  WriteDocument(json, imported);
   json.Finish();
   return FinishOutput(stopped.empty() ? kSuccess : ReportError(stopped, kIncomplete));
 }

@@ -8,9 +8,11 @@
 #include <iterator>
 #include <string_view>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 #include "kestrin/base/file_handle.h"
+#include "kestrin/text/ignoring_case.h"
 #include "tool/usage_error.h"
 
 namespace kestrin::tool {
@@ -33,12 +35,18 @@ std::vector<std::string> FilesIn(const std::string& folder) {
   return files;
 }
 
-std::string OnlyFileWithEnding(const std::vector<std::string>& files, const FileKind& kind,
-                               const std::string& folder) {
+bool HasEnding(std::string_view path, std::string_view ending) {
+  return path.size() >= ending.size() && EqualIgnoringCase(path.substr(path.size() - ending.size()), ending);
+}
+
+/// The file of a kind in a folder. Empty if a file that may be missing is missing.
+std::string FileOfKind(const std::vector<std::string>& files, const FileKind& kind,
+                       const std::string& folder) {
   std::vector<std::string> found;
   std::copy_if(files.begin(), files.end(), std::back_inserter(found),
-               [&](std::string_view file) { return file.ends_with(kind.ending); });
+               [&](std::string_view file) { return HasEnding(file, kind.ending); });
   if (found.empty()) {
+    if (kind.file == ImportFile::kTech) return {};
     throw UsageError(std::string("no ") + kind.ending + " file in " + Quoted(folder) + "; name one with " +
                      kind.option);
   }
@@ -49,33 +57,68 @@ std::string OnlyFileWithEnding(const std::vector<std::string>& files, const File
   return found[0];
 }
 
-void CheckReadable(const std::string& path) {
+/// Whether an import can read the path more than once. Raises UsageError if it cannot be read at all.
+bool IsRegularFile(const std::string& path) {
+  if (path == "-") return false;
   std::error_code error;
   const fs::file_status status = fs::status(path, error);
-  if (fs::exists(status) && !fs::is_regular_file(status)) {
-    throw UsageError(Quoted(path) + " is not a regular file");
-  }
+  if (fs::is_directory(status)) throw UsageError(Quoted(path) + " is a folder, not a file");
+  if (fs::exists(status) && !fs::is_regular_file(status)) return false;
   const FileHandle file(std::fopen(path.c_str(), "rb"));
   if (file == nullptr) throw UsageError("cannot open " + Quoted(path) + ": " + std::strerror(errno));
+  return true;
 }
 
 }  // namespace
 
-void ExportSet::FindInFolder(const std::string& folder) {
+void ExportSet::Add(const std::vector<std::string>& paths) {
+  std::vector<std::string> folders;
+  for (const std::string& path : paths) {
+    std::error_code error;
+    fs::is_directory(path, error) ? folders.push_back(path) : AddFile(path);
+  }
+  if (folders.size() > 1) {
+    throw UsageError(Quoted(folders[0]) + " and " + Quoted(folders[1]) + " are both folders; name one");
+  }
+  if (!folders.empty()) AddFolder(folders.front());
+}
+
+void ExportSet::AddFile(const std::string& path) {
+  for (const FileKind& kind : kFileKinds) {
+    if (!HasEnding(path, kind.ending)) continue;
+    if (Has(kind.file)) {
+      throw UsageError(Quoted(PathOf(kind.file)) + " and " + Quoted(path) + " are both the " + kind.name +
+                       " file; name one");
+    }
+    PathOf(kind.file) = path;
+    return;
+  }
+  std::error_code error;
+  if (path != "-" && !fs::exists(path, error)) {
+    throw UsageError("cannot open " + Quoted(path) + ": " + std::strerror(ENOENT));
+  }
+  throw UsageError("the ending of " + Quoted(path) +
+                   " does not tell which file it is; name it with --tech, --neutral, --geometry or --traces");
+}
+
+void ExportSet::AddFolder(const std::string& folder) {
   const std::vector<std::string> files = FilesIn(folder);
   for (const FileKind& kind : kFileKinds) {
-    if (!Has(kind.file)) PathOf(kind.file) = OnlyFileWithEnding(files, kind, folder);
+    if (!Has(kind.file)) PathOf(kind.file) = FileOfKind(files, kind, folder);
   }
 }
 
-void ExportSet::CheckReadable() const {
+void ExportSet::Open() {
   bool any = false;
-  for (const std::string& path : paths_) {
-    if (path.empty()) continue;
-    tool::CheckReadable(path);
+  bool usesStandardInput = false;
+  for (std::size_t i = 0; i < paths_.size(); ++i) {
+    if (paths_[i].empty()) continue;
     any = true;
+    if (paths_[i] == "-" && std::exchange(usesStandardInput, true))
+      throw UsageError("only one file can be standard input (-)");
+    if (!IsRegularFile(paths_[i])) copies_[i] = std::make_shared<const TemporaryCopy>(paths_[i]);
   }
-  if (!any) throw UsageError("no file to read; name one with --tech, --neutral, --geometry or --traces");
+  if (!any) throw UsageError("no file to read; name a folder, files, or - with an option such as --traces");
   if (strict_ && !Has(ImportFile::kTraces)) {
     throw UsageError("--strict needs a Traces file; name one with --traces");
   }

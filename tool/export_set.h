@@ -5,9 +5,12 @@
 
 #include <array>
 #include <cstddef>
+#include <memory>
 #include <string>
+#include <vector>
 
 #include "kestrin/session/import_report.h"
+#include "tool/temporary_copy.h"
 
 namespace kestrin::tool {
 
@@ -30,28 +33,49 @@ inline constexpr std::array<FileKind, kImportFileCount> kFileKinds{{
 /// The paths of the files to import. The path of a file that is not to be imported is empty.
 class ExportSet {
  public:
-  [[nodiscard]] const std::string& PathOf(ImportFile file) const {
-    return paths_[static_cast<std::size_t>(file)];
+  ///@{
+  /// The path as the user named it: "-" is standard input.
+  [[nodiscard]] const std::string& PathOf(ImportFile file) const { return paths_[At(file)]; }
+  [[nodiscard]] std::string& PathOf(ImportFile file) { return paths_[At(file)]; }
+  ///@}
+  /// The path to read from. Call Open before.
+  [[nodiscard]] const std::string& ReadablePathOf(ImportFile file) const {
+    const auto& copy = copies_[At(file)];
+    return copy == nullptr ? PathOf(file) : copy->Path();
   }
-  [[nodiscard]] std::string& PathOf(ImportFile file) { return paths_[static_cast<std::size_t>(file)]; }
   [[nodiscard]] bool Has(ImportFile file) const { return !PathOf(file).empty(); }
+  void Remove(ImportFile file) {
+    paths_[At(file)].clear();
+    copies_[At(file)] = nullptr;
+  }
 
   /// Whether to read the Traces file with the strict reader.
   [[nodiscard]] bool IsStrict() const { return strict_; }
   [[nodiscard]] bool& Strict() { return strict_; }
 
-  /// Sets each empty path to the file of the folder that has the right ending. Raises UsageError unless the
-  /// folder has exactly one such file for each.
-  void FindInFolder(const std::string& folder);
+  /// The encoding of the texts, as a word of the command line: "auto", "utf-8" or "latin-1".
+  [[nodiscard]] const std::string& EncodingWord() const { return encoding_; }
+  [[nodiscard]] std::string& EncodingWord() { return encoding_; }
 
-  /// Raises UsageError unless there is at least one file and each is a regular file that can be opened. Only
-  /// a regular file can be read twice, as an import does to count its lines. Strict reading also requires a
-  /// Traces file.
-  void CheckReadable() const;
+  /// Adds folders, and files whose kind their ending tells. In a folder, the file with each ending counts,
+  /// unless an option names that file. Letter case does not count. Raises UsageError unless it is clear which
+  /// files are meant; only the Tech file of a folder may be missing.
+  void Add(const std::vector<std::string>& paths);
+
+  /// Makes the files readable: copies standard input and pipes to temporary files, since an import reads its
+  /// files more than once. Raises UsageError unless there is at least one file and each can be opened. Strict
+  /// reading also requires a Traces file.
+  void Open();
 
  private:
+  [[nodiscard]] static std::size_t At(ImportFile file) { return static_cast<std::size_t>(file); }
+  void AddFile(const std::string& path);
+  void AddFolder(const std::string& folder);
+
   std::array<std::string, kImportFileCount> paths_;
+  std::array<std::shared_ptr<const TemporaryCopy>, kImportFileCount> copies_;
   bool strict_ = false;
+  std::string encoding_ = "auto";
 };
 
 }  // namespace kestrin::tool

@@ -3,6 +3,7 @@
 #include <exception>
 
 #include "kestrin/framework/exceptions.h"
+#include "tool/encoding.h"
 #include "tool/terminal_dialog.h"
 #include "tool/usage_error.h"
 
@@ -10,17 +11,18 @@ namespace kestrin::tool {
 namespace {
 
 void Read(CPC_KESTRIN_GET& session, const ExportSet& files) {
-  session.vSetTechFilePath(files.PathOf(ImportFile::kTech));
-  session.vSetNeutralFilePath(files.PathOf(ImportFile::kNeutral));
-  session.vSetGeomFilePath(files.PathOf(ImportFile::kGeometry));
-  session.vSetTraceFilePath(files.PathOf(ImportFile::kTraces));
+  session.vSetTechFilePath(files.ReadablePathOf(ImportFile::kTech));
+  session.vSetNeutralFilePath(files.ReadablePathOf(ImportFile::kNeutral));
+  session.vSetGeomFilePath(files.ReadablePathOf(ImportFile::kGeometry));
+  session.vSetTraceFilePath(files.ReadablePathOf(ImportFile::kTraces));
   session.ParseGivenFiles();
 }
 
-std::string WhereStopped(const ImportReport& report) {
+std::string WhereStopped(const ImportReport& report, const ExportSet& files) {
   for (const FileKind& kind : kFileKinds) {
     const FileReport& file = report.Of(kind.file);
-    if (file.end == ReadingEnd::kStopped) return file.path + ":" + std::to_string(file.linesRead) + ": ";
+    if (file.end == ReadingEnd::kStopped)
+      return files.PathOf(kind.file) + ":" + std::to_string(file.linesRead) + ": ";
   }
   return {};
 }
@@ -34,30 +36,42 @@ std::string ReadWithSession(CPC_KESTRIN_GET& session, const ExportSet& files) {
     try {
       Read(session, files);
     } catch (const CInvalidArgException&) {
-      stopped =
-          WhereStopped(session.GetReport()) + "import stopped: the line has too few values for its record";
+      stopped = WhereStopped(session.GetReport(), files) +
+                "import stopped: the line has too few values for its record";
     } catch (const std::exception& error) {
-      stopped = WhereStopped(session.GetReport()) + "import stopped: " + error.what();
+      stopped = WhereStopped(session.GetReport(), files) + "import stopped: " + error.what();
     }
     session.m_pStatusWnd = nullptr;
     session.SetProgressPtr(nullptr, nullptr, nullptr, nullptr);
   }
   for (const FileKind& kind : kFileKinds) {
     const FileReport& file = session.GetReport().Of(kind.file);
-    if (file.end == ReadingEnd::kNotOpened) throw UsageError("cannot open \"" + file.path + '"');
+    if (file.end == ReadingEnd::kNotOpened)
+      throw UsageError("cannot open \"" + files.PathOf(kind.file) + '"');
   }
   return stopped;
 }
 
 }  // namespace
 
-std::string Import(Imported& imported, const ExportSet& files, StrictReading strict) {
+std::vector<ImportFile> Imported::FilesRead() const {
+  std::vector<ImportFile> read;
+  for (const FileKind& kind : kFileKinds) {
+    if (ReportOf(kind.file).end != ReadingEnd::kNotRead) read.push_back(kind.file);
+  }
+  return read;
+}
+
+std::string Import(Imported& imported, StrictReading strict) {
+  ExportSet& files = imported.files;
+  files.Open();
+  SetEncoding(EncodingOf(files.EncodingWord(), files));
   if (!files.IsStrict()) return ReadWithSession(imported.session, files);
   ExportSet forSession = files;
-  if (strict == StrictReading::kOnly) forSession.PathOf(ImportFile::kTraces).clear();
+  if (strict == StrictReading::kOnly) forSession.Remove(ImportFile::kTraces);
   std::string stopped = ReadWithSession(imported.session, forSession);
   if (!stopped.empty() && strict == StrictReading::kOnly) return stopped;
-  imported.strictTraces = ReadStrictly(files.PathOf(ImportFile::kTraces));
+  imported.strictTraces = ReadStrictly(files, strict == StrictReading::kAlso);
   return stopped.empty() ? imported.strictTraces->stopped : stopped;
 }
 

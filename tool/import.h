@@ -5,6 +5,8 @@
 
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "kestrin/session/import_session.h"
 #include "tool/export_set.h"
@@ -14,6 +16,9 @@ namespace kestrin::tool {
 
 /// The result of an import.
 struct Imported {
+  explicit Imported(ExportSet toImport) : files(std::move(toImport)) {}
+
+  ExportSet files;
   CPC_KESTRIN_GET session;
   std::optional<StrictTraces> strictTraces;  ///< set if the Traces file was read strictly
 
@@ -21,18 +26,20 @@ struct Imported {
   [[nodiscard]] const CMTraces* Traces() const {
     return strictTraces ? strictTraces->parse.traces.get() : session.GetTraces();
   }
+  [[nodiscard]] const FileReport& ReportOf(ImportFile file) const { return session.GetReport().Of(file); }
+  /// The files that were read, in the order in which they were.
+  [[nodiscard]] std::vector<ImportFile> FilesRead() const;
 };
 
 /// With --strict, which readers read the Traces file.
 enum class StrictReading {
   kOnly,  ///< only the strict reader
-  kAlso,  ///< the strict reader and the session, for its report
+  kAlso,  ///< the strict reader, which keeps source lines, and the session, for its report
 };
 
-/// Imports the files and shows progress on the terminal. If a reader stops early, returns a line that says
-/// where and why, and the session does not read the files after that; otherwise returns an empty string.
-/// Raises UsageError if a file cannot be opened.
-[[nodiscard]] std::string Import(Imported& imported, const ExportSet& files,
-                                 StrictReading strict = StrictReading::kOnly);
+/// Opens and imports the files of an import, and shows progress on the terminal. If a reader stops early,
+/// returns a line that says where and why, and the session does not read the files after that; otherwise
+/// returns an empty string. Raises UsageError if a file cannot be opened.
+[[nodiscard]] std::string Import(Imported& imported, StrictReading strict = StrictReading::kOnly);
 
 }  // namespace kestrin::tool

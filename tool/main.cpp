@@ -1,10 +1,12 @@
 #include <CLI/CLI.hpp>
 #include <exception>
+#include <iostream>
 #include <string>
+#include <vector>
 
 #include "kestrin/version.h"
 #include "tool/board.h"
-#include "tool/check.h"
+#include "tool/check/check.h"
 #include "tool/dump.h"
 #include "tool/exit_status.h"
 #include "tool/export_set.h"
@@ -16,20 +18,26 @@ namespace kestrin::tool {
 namespace {
 
 struct Arguments {
-  std::string folder;
+  std::vector<std::string> paths;
   ExportSet files;
-  std::string format;
+  CheckWords check;
   ReadingWords reading;
 };
 
 constexpr char kExitStatuses[] =
-    "Exit status: 0 on success; 1 if a reader stopped early, the strict reader gave up, or "
-    "check found skipped lines or syntax errors; 2 if the command line is wrong or a file cannot be read.";
+    "Exit status: 0 on success; 1 if a reader stopped early, the strict reader gave up, or check found "
+    "problems; 2 if the command line is wrong, a file cannot be read, or the output cannot be written.";
 
 void AddFileOptions(CLI::App& command, Arguments& arguments) {
+  command
+      .add_option("PATH", arguments.paths,
+                  "A folder with the export set: files that end in .tech (may be missing), .neutral, "
+                  ".geometry and .traces. Or files with these endings")
+      ->option_text(" ");
   for (const FileKind& kind : kFileKinds) {
     command
-        .add_option(kind.option, arguments.files.PathOf(kind.file), std::string("The ") + kind.name + " file")
+        .add_option(kind.option, arguments.files.PathOf(kind.file),
+                    std::string("The ") + kind.name + " file; - is standard input")
         ->option_text("FILE");
   }
   command.add_flag("--strict", arguments.files.Strict(),
@@ -42,14 +50,6 @@ CLI::App* AddCommand(CLI::App& app, Arguments& arguments, const char* name, cons
   AddFileOptions(*command, arguments);
   command->footer(std::string("Example:\n  ") + example + "\n\n" + kExitStatuses);
   return command;
-}
-
-void AddFolder(CLI::App& command, Arguments& arguments) {
-  command
-      .add_option("DIR", arguments.folder,
-                  "A folder with the export set: one file each that ends in .tech, .neutral, .geometry "
-                  "and .traces")
-      ->option_text(" ");
 }
 
 void AddReadingOptions(CLI::App& command, ReadingWords& words) {
@@ -76,48 +76,95 @@ void AddReadingOptions(CLI::App& command, ReadingWords& words) {
       ->option_text("NUMBER");
 }
 
-/// Parses the command line and runs the command. Returns the exit status.
-int Run(int count, char** words) {
-  CLI::App app("Imports a printed-circuit board from its four export files and shows their contents.",
-               "kestrin");
-  app.set_version_flag("--version", std::string("kestrin ") + kVersion);
-  app.require_subcommand(0, 1);
-  app.footer(std::string("Example:\n  kestrin summary examples/board\n\n") + kExitStatuses);
-
-  Arguments arguments;
-  CLI::App* summary = AddCommand(app, arguments, "summary", "Print the contents of the files at a glance",
-                                 "kestrin summary examples/board");
-  AddFolder(*summary, arguments);
-  CLI::App* dump = AddCommand(app, arguments, "dump", "Print the object model as a JSON document",
-                              "kestrin dump --tech examples/board/board.tech");
-  CLI::App* check = AddCommand(app, arguments, "check", "List the lines that an import skips",
-                               "kestrin check examples/board --format json");
-  AddFolder(*check, arguments);
-  check->add_option("--format", arguments.format, "The output format (default: text)")
+void AddCheckOptions(CLI::App& command, CheckWords& words) {
+  command.add_option("--format", words.format, "The output format (default: text)")
       ->check(CLI::IsMember({"text", "json"}))
       ->option_text("text|json");
-  CLI::App* board =
-      AddCommand(app, arguments, "board", "Print the board that the files describe together as JSON",
-                 "kestrin board examples/board --rotation ccw");
-  AddFolder(*board, arguments);
-  AddReadingOptions(*board, arguments.reading);
-
-  try {
-    app.parse(count, words);
-  } catch (const CLI::Success& asked) {
-    return app.exit(asked);
-  } catch (const CLI::ParseError& error) {
-    throw UsageError(std::string(error.what()) + "; try kestrin --help");
-  }
-  if (app.get_subcommands().empty()) throw UsageError("missing command; try kestrin --help");
-  if (!arguments.folder.empty()) arguments.files.FindInFolder(arguments.folder);
-  if (board->parsed()) return PrintBoard(arguments.files, arguments.reading);
-  if (dump->parsed()) return Dump(arguments.files);
-  if (check->parsed()) {
-    return Check(arguments.files, arguments.format == "json" ? CheckFormat::kJson : CheckFormat::kText);
-  }
-  return Summary(arguments.files);
+  command
+      .add_option("--fail-on", words.failOn,
+                  "End with status 1 if there is a problem that is at least this bad (default: warning)")
+      ->check(CLI::IsMember({"error", "warning", "note", "never"}))
+      ->option_text("error|warning|note|never");
+  command.add_option("--allow", words.allowed, "Do not report problems with this code; may be repeated")
+      ->option_text("CODE");
+  command.add_flag("--ignored", words.ignored, "List how many lines of each keyword are not imported");
+  command.add_flag("--quiet", words.quiet, "Print no text; the exit status tells");
 }
+
+void AddEncoding(CLI::App& command, Arguments& arguments) {
+  command
+      .add_option("--encoding", arguments.files.EncodingWord(),
+                  "The encoding of the files (default: auto, UTF-8 if all are valid UTF-8, else Latin-1)")
+      ->check(CLI::IsMember({"auto", "utf-8", "latin-1"}))
+      ->option_text("auto|utf-8|latin-1");
+}
+
+/// The command line of the tool.
+class CommandLine {
+ public:
+  CommandLine() {
+    app_.set_version_flag("-V,--version", std::string("kestrin ") + kVersion);
+    app_.require_subcommand(0, 1);
+    app_.footer(std::string("Example:\n  kestrin summary examples/board\n\n") + kExitStatuses);
+    AddReadingOptions(*board_, arguments_.reading);
+    AddCheckOptions(*check_, arguments_.check);
+    for (CLI::App* command : {summary_, board_, check_}) AddEncoding(*command, arguments_);
+    help_->add_option("COMMAND", topic_, "The command to explain")->option_text(" ");
+  }
+
+  /// Parses the words and runs the command. Returns the exit status.
+  int Run(int count, char** words) {
+    try {
+      app_.parse(count, words);
+    } catch (const CLI::Success& asked) {
+      return FinishText(app_.exit(asked));
+    } catch (const CLI::ParseError& error) {
+      throw UsageError(std::string(error.what()) + "; try kestrin --help");
+    }
+    if (app_.get_subcommands().empty()) throw UsageError("missing command; try kestrin --help");
+    if (help_->parsed()) return Explain();
+    ExportSet& files = arguments_.files;
+    files.Add(arguments_.paths);
+    if (board_->parsed()) return PrintBoard(files, arguments_.reading);
+    if (check_->parsed()) return Check(files, arguments_.check);
+    if (summary_->parsed()) return Summary(files);
+    files.EncodingWord() = "latin-1";  // a dump has one character for each byte
+    return Dump(files);
+  }
+
+ private:
+  CLI::App* Add(const char* name, const char* description, const char* example) {
+    return AddCommand(app_, arguments_, name, description, example);
+  }
+
+  [[nodiscard]] int Explain() {
+    const auto found =
+        app_.get_subcommands([&](const CLI::App* command) { return command->get_name() == topic_; });
+    if (!topic_.empty() && found.empty())
+      throw UsageError("there is no command " + topic_ + "; try kestrin --help");
+    app_.clear();  // or else the application explains its command "help"
+    std::cout << (found.empty() ? app_.help() : found.front()->help());
+    return FinishText(kSuccess);
+  }
+
+  /// Like FinishOutput, for text that is printed by way of std::cout.
+  [[nodiscard]] static int FinishText(int exitStatus) {
+    std::cout.flush();
+    return FinishOutput(exitStatus);
+  }
+
+  Arguments arguments_;
+  std::string topic_;
+  CLI::App app_{"Imports a printed-circuit board from its four export files and shows their contents.",
+                "kestrin"};
+  CLI::App* summary_ =
+      Add("summary", "Print the contents of the files at a glance", "kestrin summary examples/board");
+  CLI::App* check_ = Add("check", "Find what is wrong with the files", "kestrin check examples/board");
+  CLI::App* board_ = Add("board", "Print the board that the files describe together as JSON",
+                         "kestrin board examples/board --rotation ccw");
+  CLI::App* dump_ = Add("dump", "Print the object model as JSON", "kestrin dump examples/board/board.tech");
+  CLI::App* help_ = app_.add_subcommand("help", "Explain the tool or a command");
+};
 
 }  // namespace
 }  // namespace kestrin::tool
@@ -125,7 +172,7 @@ int Run(int count, char** words) {
 int main(int count, char** words) {
   using namespace kestrin::tool;
   try {
-    return Run(count, words);
+    return CommandLine().Run(count, words);
   } catch (const UsageError& error) {
     return ReportError(error.what(), kUnusable);
   } catch (const std::exception& error) {

@@ -14,7 +14,7 @@ int ReportError(const std::string& what, int exitStatus) {
 
 int FinishOutput(int exitStatus) {
   if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return exitStatus;
-  return ReportError("cannot write to standard output", kIncomplete);
+  return ReportError("cannot write to standard output", kUnusable);
 }
 
 }  // namespace kestrin::tool

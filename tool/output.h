@@ -11,7 +11,7 @@ namespace kestrin::tool {
 int ReportError(const std::string& what, int exitStatus);
 
 /// Flushes standard output and returns the exit status. If not everything could be written, reports that and
-/// returns kIncomplete.
+/// returns kUnusable.
 [[nodiscard]] int FinishOutput(int exitStatus);
 
 }  // namespace kestrin::tool

@@ -1,13 +1,25 @@
 #pragma once
 
 /// @file
-/// Converting bytes of a file to text that can be printed. The encoding of a file is unknown, so each byte
-/// becomes the code point of the same number: ASCII below 128.
+/// Converting bytes of a file to text that can be printed.
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace kestrin::tool {
+
+/// How the bytes of a text become characters. The formats do not say which encoding their files have.
+enum class Encoding {
+  kLatin1,  ///< each byte is the character with its number
+  kUtf8,    ///< as it says; a byte that is not part of valid UTF-8 is the character with its number
+};
+
+/// Sets the encoding of the files that the tool reads, for the whole process. It is kLatin1 before.
+void SetEncoding(Encoding encoding);
+
+/// The number of bytes of the UTF-8 character at the start of some bytes; 0 if there is no valid one.
+[[nodiscard]] std::size_t Utf8CharacterAt(std::string_view bytes);
 
 /// Converts bytes to UTF-8.
 [[nodiscard]] std::string ToUtf8(std::string_view bytes);
@@ -15,10 +27,10 @@ namespace kestrin::tool {
 /// Converts bytes to UTF-8 and writes control characters as \xNN.
 [[nodiscard]] std::string ToTerminal(std::string_view bytes);
 
-/// Returns a path unchanged if it is valid UTF-8; otherwise converts its bytes.
+///@{
+/// The same for a path. It is UTF-8 where it is valid, whatever the encoding of files is.
 [[nodiscard]] std::string PathToUtf8(std::string_view path);
-
-/// The same with control characters written as \xNN.
 [[nodiscard]] std::string PathToTerminal(std::string_view path);
+///@}
 
 }  // namespace kestrin::tool

@@ -23,10 +23,12 @@ std::string WhyStopped(const std::string& path, const StrictParse& parse, const 
 
 }  // namespace
 
-StrictTraces ReadStrictly(const std::string& path) {
+StrictTraces ReadStrictly(const ExportSet& files, bool keepsSourceLines) {
+  const std::string& path = files.PathOf(ImportFile::kTraces);
   const auto start = std::chrono::steady_clock::now();
   InputFile file;
-  if (!file.Open(path.c_str())) throw UsageError("cannot open \"" + path + '"');
+  if (!file.Open(files.ReadablePathOf(ImportFile::kTraces).c_str()))
+    throw UsageError("cannot open \"" + path + '"');
   std::string readError;
   const auto read = [&](char* bytes, std::size_t size) -> std::size_t {
     try {
@@ -36,7 +38,7 @@ StrictTraces ReadStrictly(const std::string& path) {
       return 0;
     }
   };
-  StrictTraces traces{.path = path, .parse = ParseStrictly(read), .stopped = {}};
+  StrictTraces traces{.parse = ParseStrictly(read, keepsSourceLines), .stopped = {}};
   if (!readError.empty()) {  // the parser took the read error for the end of the file
     traces.parse.result = ParseResult::kRejected;
     if (!traces.parse.errors.empty() && traces.parse.errors.back().found == 0) traces.parse.errors.pop_back();

@@ -8,20 +8,20 @@
 #include <string>
 
 #include "kestrin/traces/strict/strict_parser.h"
+#include "tool/export_set.h"
 #include "tool/json_writer.h"
 
 namespace kestrin::tool {
 
 /// A Traces file that was read strictly.
 struct StrictTraces {
-  std::string path;
   StrictParse parse;
   std::string stopped;  ///< where and why the parser stopped early; empty if the file was accepted
   std::chrono::nanoseconds duration{};
 };
 
-/// Reads the file. Raises UsageError if it cannot be opened.
-[[nodiscard]] StrictTraces ReadStrictly(const std::string& path);
+/// Reads the Traces file of a set. Raises UsageError if it cannot be opened.
+[[nodiscard]] StrictTraces ReadStrictly(const ExportSet& files, bool keepsSourceLines);
 
 /// The line number of an error, counted from 1.
 [[nodiscard]] inline std::int64_t LineOf(const SyntaxError& error) { return error.line + 1; }

@@ -40,11 +40,11 @@ void PrintFiles(const Imported& imported) {
     if (file.end == ReadingEnd::kNotRead) continue;
     table.AddRow({kind.name, std::to_string(file.linesRead), std::to_string(file.Imported()),
                   std::to_string(file.Ignored()), std::to_string(file.Skipped()), Milliseconds(file.duration),
-                  PathToTerminal(file.path)});
+                  PathToTerminal(imported.files.PathOf(kind.file))});
   }
   if (const auto& strict = imported.strictTraces) {
     table.AddRow({"Traces", std::to_string(strict->parse.line), "", "", "", Milliseconds(strict->duration),
-                  PathToTerminal(strict->path)});
+                  PathToTerminal(imported.files.PathOf(ImportFile::kTraces))});
   }
   table.Print();
   if (imported.strictTraces) {
@@ -55,9 +55,8 @@ void PrintFiles(const Imported& imported) {
 }  // namespace
 
 int Summary(const ExportSet& files) {
-  files.CheckReadable();
-  Imported imported;
-  const std::string stopped = Import(imported, files);
+  Imported imported(files);
+  const std::string stopped = Import(imported);
   const CPC_KESTRIN_GET& session = imported.session;
   PrintFiles(imported);
   if (const CMTech* tech = session.GetTech()) PrintTech(*tech);

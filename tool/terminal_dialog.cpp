@@ -1,9 +1,12 @@
 #include "tool/terminal_dialog.h"
 
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
+#include <string_view>
 
 namespace kestrin::tool {
 namespace {
@@ -12,13 +15,26 @@ namespace {
 const std::string kNoWrap = "\x1b[?7l";
 const std::string kWrap = "\x1b[?7h";
 
+/// Whether progress can be drawn: a terminal that understands control sequences.
+bool CanDraw() {
+  const char* terminal = std::getenv("TERM");
+  return isatty(STDERR_FILENO) != 0 && terminal != nullptr && std::string_view(terminal) != "dumb" &&
+         std::getenv("NO_COLOR") == nullptr;
+}
+
+/// The width of a bar, so that its line fits the terminal.
+int BarWidth() {
+  constexpr int kUsual = 40;
+  constexpr int kOthers = 18;  // characters beside the bar
+  winsize size{};
+  if (ioctl(STDERR_FILENO, TIOCGWINSZ, &size) != 0 || size.ws_col == 0) return kUsual;
+  return std::clamp(size.ws_col - kOthers, 1, kUsual);
+}
+
 }  // namespace
 
 TerminalDialog::TerminalDialog(const ExportSet& files)
-    : files_(files),
-      shown_(isatty(STDERR_FILENO) != 0),
-      status_(*this),
-      bars_{Bar(this), Bar(this), Bar(this), Bar(this)} {}
+    : files_(files), shown_(CanDraw()), status_(*this), bars_{Bar(this), Bar(this), Bar(this), Bar(this)} {}
 
 TerminalDialog::~TerminalDialog() { Wipe(); }
 
@@ -48,16 +64,16 @@ LRESULT TerminalDialog::Bar::WindowProc(UINT message, WPARAM wParam, LPARAM /*lP
 void TerminalDialog::Draw() {
   if (!shown_) return;
   Wipe();
+  const int width = BarWidth();
   std::string picture = kNoWrap + status_.text + "\n";
   linesDrawn_ = 1;
   for (const FileKind& kind : kFileKinds) {
     if (!files_.Has(kind.file)) continue;
-    constexpr int kWidth = 40;
     const int percent = bars_[static_cast<std::size_t>(kind.file)].percent;
-    const auto filled = static_cast<std::size_t>(percent * kWidth / 100);
+    const auto filled = static_cast<std::size_t>(percent * width / 100);
     CString line;
     line.Format("  %-9s[%s%s] %3d%%\n", kind.name, std::string(filled, '#').c_str(),
-                std::string(kWidth - filled, '.').c_str(), percent);
+                std::string(static_cast<std::size_t>(width) - filled, '.').c_str(), percent);
     picture += line;
     ++linesDrawn_;
   }

@@ -264,6 +264,8 @@ struct Board {
   std::vector<Point> points;    ///< of all tracks, in the order of the tracks
   std::vector<Via> vias;        ///< of all nets, in the order of the nets
   ///@}
+  /// The pins of net records that an earlier record has, too. The first net has the pin.
+  std::vector<NetPin> repeatedPins;
   /// The number of components whose pins were left out. Files that name large geometries very often would
   /// otherwise make a board with far more pins than the files have lines.
   std::size_t componentsWithoutRoom = 0;

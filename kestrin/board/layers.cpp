@@ -103,6 +103,8 @@ void ReadLayers(const BoardModels& models, Board& board) {
   FindOuterSignalLayers(board);
 }
 
+bool IsSideLayer(std::string_view layer) { return !OtherSide(layer).empty(); }
+
 const Layer* Board::FindLayer(int number) const {
   const auto found = std::lower_bound(layers.begin(), layers.end(), number,
                                       [](const Layer& layer, int wanted) { return layer.number < wanted; });

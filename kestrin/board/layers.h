@@ -3,6 +3,8 @@
 /// @file
 /// The layers of a board.
 
+#include <string_view>
+
 namespace kestrin {
 
 struct Board;
@@ -10,5 +12,8 @@ struct BoardModels;
 
 /// Adds the layers and the names of logical layers to the board.
 void ReadLayers(const BoardModels& models, Board& board);
+
+/// Whether a name is one of the eighteen of the two sides, such as "PAD_1".
+[[nodiscard]] bool IsSideLayer(std::string_view layer);
 
 }  // namespace kestrin

@@ -144,7 +144,9 @@ void ReadNets(const CMNetList* nets, const Footprints& footprints, NetTable& tab
       NetPin& added = board.netPins.emplace_back();
       added.netRecord = netRecord;
       added.pinRecord = pinRecord;
-      if (!assignment.Assign(texts.Next(pin), net, added)) board.netPins.pop_back();
+      if (assignment.Assign(texts.Next(pin), net, added)) return;
+      board.repeatedPins.push_back(std::move(added));
+      board.netPins.pop_back();
     });
     runs.push_back({net, {first, ToIndex(board.netPins.size()) - first}});
   });

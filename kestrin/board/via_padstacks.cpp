@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "kestrin/board/copper.h"
+#include "kestrin/board/drawing_layer.h"
 #include "kestrin/board/for_each_record.h"
 #include "kestrin/board/read_board.h"
 #include "kestrin/geometry/geometry_model.h"
@@ -9,20 +10,11 @@
 namespace kestrin {
 namespace {
 
-std::string_view LayerOf(const CMGeomDrawObj& object) {
-  const std::string_view kind = object.m_sType.View();
-  if (kind == "LINE") return static_cast<const CMGeomPath&>(object).m_sLayer.View();
-  if (kind == "POLYGON") return static_cast<const CMGeomPolygon&>(object).m_sLayer.View();
-  if (kind == "ARC") return static_cast<const CMGeomArc&>(object).m_sLayer.View();
-  if (kind == "CIRCLE") return static_cast<const CMGeomCircle&>(object).m_sLayer.View();
-  return {};
-}
-
 /// Convention: a via joins the layers on which it has a pad.
 std::vector<Index> LayersOf(const CMGeomVia& via, const Board& board) {
   std::vector<Index> layers;
   ForEachRecord(via.m_pDrawObjs, [&](const CMGeomDrawObj& object, Index) {
-    const auto found = board.layersByName.find(ComparedName(LayerOf(object)));
+    const auto found = board.layersByName.find(LayerOf(object));
     if (found != board.layersByName.end()) layers.push_back(found->second);
   });
   std::sort(layers.begin(), layers.end());

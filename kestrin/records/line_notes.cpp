@@ -8,7 +8,7 @@ namespace kestrin {
 
 LineNotes::~LineNotes() {
   CloseBlock();
-  auto& values = lines_.values_;
+  auto& values = table_.values;
   std::sort(values.begin(), values.end(), [](const auto& left, const auto& right) {
     return std::tie(left.address, left.line) < std::tie(right.address, right.line);
   });
@@ -18,7 +18,7 @@ void LineNotes::OpenBlock(const void* block, std::size_t size) {
   CloseBlock();
   blockAddress_ = Address(block);
   // Where a block was before, its records are all deleted.
-  auto& blocks = lines_.blocks_;
+  auto& blocks = table_.blocks;
   auto overlapping = blocks.lower_bound(blockAddress_);
   if (overlapping != blocks.begin()) {
     const auto before = std::prev(overlapping);
@@ -30,21 +30,21 @@ void LineNotes::OpenBlock(const void* block, std::size_t size) {
   blocks[blockAddress_] = {size, Count(), Count()};
 }
 
-void LineNotes::AddValue(const void* value) { lines_.values_.push_back({Address(value), CurrentLine()}); }
+void LineNotes::AddValue(const void* value) { table_.values.push_back({Address(value), CurrentLine()}); }
 
 std::size_t LineNotes::Count() const {
-  return SourceLines::Chunk::NotesBefore(lines_.chunks_.size()) - static_cast<std::size_t>(chunkEnd_ - next_);
+  return LineNoteChunk::NotesBefore(table_.notes.size()) - static_cast<std::size_t>(chunkEnd_ - next_);
 }
 
 void LineNotes::OpenChunk() {
-  const std::size_t index = lines_.chunks_.size();
-  next_ = lines_.chunks_.emplace_back(index).Begin();
-  chunkEnd_ = next_ + SourceLines::Chunk::SizeOf(index);
+  const std::size_t index = table_.notes.size();
+  next_ = table_.notes.emplace_back(index).Begin();
+  chunkEnd_ = next_ + LineNoteChunk::SizeOf(index);
 }
 
 void LineNotes::CloseBlock() {
-  const auto block = lines_.blocks_.find(blockAddress_);
-  if (block != lines_.blocks_.end()) block->second.endOfNotes = Count();
+  const auto block = table_.blocks.find(blockAddress_);
+  if (block != table_.blocks.end()) block->second.endOfNotes = Count();
 }
 
 }  // namespace kestrin

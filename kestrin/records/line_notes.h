@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "kestrin/records/source_lines.h"
+#include "kestrin/records/line_table.h"
 
 namespace kestrin {
 
@@ -17,7 +17,8 @@ class LineNotes {
  public:
   /// The current line is the value that the reference has when a record is made. It and the lines must
   /// outlive this object.
-  LineNotes(SourceLines& lines, const std::int64_t& currentLine) : lines_(lines), currentLine_(currentLine) {}
+  LineNotes(SourceLines& lines, const std::int64_t& currentLine)
+      : table_(*lines.table_), currentLine_(currentLine) {}
   LineNotes(const LineNotes&) = delete;
   LineNotes& operator=(const LineNotes&) = delete;
   ~LineNotes();
@@ -46,11 +47,11 @@ class LineNotes {
   void OpenChunk();
   void CloseBlock();
 
-  SourceLines& lines_;
+  SourceLines::Table& table_;
   const std::int64_t& currentLine_;
   std::uintptr_t blockAddress_ = 0;
-  SourceLines::Note* next_ = nullptr;  // the next free place in the last chunk
-  SourceLines::Note* chunkEnd_ = nullptr;
+  LineNote* next_ = nullptr;  // the next free place in the last chunk
+  LineNote* chunkEnd_ = nullptr;
 };
 
 }  // namespace kestrin

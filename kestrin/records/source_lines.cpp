@@ -6,6 +6,7 @@
 #include <new>
 
 #include "kestrin/base/huge_pages.h"
+#include "kestrin/records/line_table.h"
 
 namespace kestrin {
 namespace {
@@ -16,45 +17,45 @@ std::align_val_t AlignmentOf(std::size_t bytes) {
 
 }  // namespace
 
-SourceLines::Chunk::Chunk(std::size_t index) {
-  const std::size_t bytes = SizeOf(index) * sizeof(Note);
-  notes_ = {static_cast<Note*>(::operator new(bytes, AlignmentOf(bytes))), Free{bytes}};
+LineNoteChunk::LineNoteChunk(std::size_t index) {
+  const std::size_t bytes = SizeOf(index) * sizeof(LineNote);
+  notes_ = {static_cast<LineNote*>(::operator new(bytes, AlignmentOf(bytes))), Free{bytes}};
   if (bytes >= kHugePage) PreferHugePages(notes_.get(), bytes);
 }
 
-std::size_t SourceLines::Chunk::IndexFor(std::size_t note) {
+std::size_t LineNoteChunk::IndexFor(std::size_t note) {
   return static_cast<std::size_t>(std::bit_width(note / kFirstSize + 1)) - 1;
 }
 
-void SourceLines::Chunk::Free::operator()(Note* notes) const noexcept {
+void LineNoteChunk::Free::operator()(LineNote* notes) const noexcept {
   ::operator delete(notes, AlignmentOf(bytes));
 }
 
-SourceLines::SourceLines() = default;
+SourceLines::SourceLines() : table_(std::make_unique<Table>()) {}
 SourceLines::~SourceLines() = default;
 
 std::int64_t SourceLines::LineOf(const void* record) const {
   const auto address = reinterpret_cast<std::uintptr_t>(record);
-  const auto next = blocks_.upper_bound(address);
-  if (next != blocks_.begin()) {
+  const auto next = table_->blocks.upper_bound(address);
+  if (next != table_->blocks.begin()) {
     const auto& [start, block] = *std::prev(next);
-    if (const std::uint32_t line = LineIn(block, address - start)) return line;
+    if (const std::uint32_t line = table_->LineIn(block, address - start)) return line;
   }
-  return LineOfValue(address);
+  return table_->LineOfValue(address);
 }
 
-const SourceLines::Note& SourceLines::NoteAt(std::size_t number) const {
-  const std::size_t chunk = Chunk::IndexFor(number);
-  return chunks_[chunk].Begin()[number - Chunk::NotesBefore(chunk)];
+const LineNote& SourceLines::Table::NoteAt(std::size_t number) const {
+  const std::size_t chunk = LineNoteChunk::IndexFor(number);
+  return notes[chunk].Begin()[number - LineNoteChunk::NotesBefore(chunk)];
 }
 
-std::uint32_t SourceLines::LineIn(const Block& block, std::uintptr_t place) const {
+std::uint32_t SourceLines::Table::LineIn(const Block& block, std::uintptr_t place) const {
   if (place >= block.size) return 0;
   std::size_t first = block.firstNote;
   std::size_t end = block.endOfNotes;
   while (first < end) {
     const std::size_t middle = first + (end - first) / 2;
-    const Note& note = NoteAt(middle);
+    const LineNote& note = NoteAt(middle);
     if (note.place == place) return note.line;
     if (note.place < place) {
       first = middle + 1;
@@ -65,11 +66,11 @@ std::uint32_t SourceLines::LineIn(const Block& block, std::uintptr_t place) cons
   return 0;
 }
 
-std::uint32_t SourceLines::LineOfValue(std::uintptr_t address) const {
+std::uint32_t SourceLines::Table::LineOfValue(std::uintptr_t address) const {
   const auto next =
-      std::upper_bound(values_.begin(), values_.end(), address,
+      std::upper_bound(values.begin(), values.end(), address,
                        [](std::uintptr_t wanted, const Value& value) { return wanted < value.address; });
-  return next != values_.begin() && std::prev(next)->address == address ? std::prev(next)->line : 0;
+  return next != values.begin() && std::prev(next)->address == address ? std::prev(next)->line : 0;
 }
 
 }  // namespace kestrin

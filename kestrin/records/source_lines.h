@@ -3,11 +3,8 @@
 /// @file
 /// Which line of a file made a record.
 
-#include <cstddef>
 #include <cstdint>
-#include <map>
 #include <memory>
-#include <vector>
 
 #include "kestrin/base/export.h"
 
@@ -48,53 +45,8 @@ class KESTRIN_EXPORT SourceLines {
  private:
   friend class LineNotes;
 
-  /// The place of a record in its block of memory.
-  struct Note {
-    std::uint32_t place;
-    std::uint32_t line;
-  };
-  /// Notes are stored in chunks, each twice as large as the one before, so that large ones get huge pages.
-  class Chunk {
-   public:
-    /// Makes the chunk with this index, without any notes.
-    explicit Chunk(std::size_t index);
-    [[nodiscard]] Note* Begin() const { return notes_.get(); }
-    [[nodiscard]] static std::size_t SizeOf(std::size_t index) { return kFirstSize << index; }
-    /// The number of notes in the chunks before this one.
-    [[nodiscard]] static std::size_t NotesBefore(std::size_t index) { return SizeOf(index) - kFirstSize; }
-    /// The index of the chunk that has a note.
-    [[nodiscard]] static std::size_t IndexFor(std::size_t note);
-
-   private:
-    struct Free {
-      std::size_t bytes;
-      void operator()(Note* notes) const noexcept;
-    };
-    static constexpr std::size_t kFirstSize = 4096;
-
-    std::unique_ptr<Note, Free> notes_;
-  };
-
-  /// A block of records, and the part of the notes that is about them, in the order of their places.
-  struct Block {
-    std::size_t size = 0;
-    std::size_t firstNote = 0;
-    std::size_t endOfNotes = 0;
-  };
-
-  /// The address of something outside the blocks, or inside of a record.
-  struct Value {
-    std::uintptr_t address;
-    std::uint32_t line;
-  };
-
-  [[nodiscard]] const Note& NoteAt(std::size_t number) const;
-  [[nodiscard]] std::uint32_t LineIn(const Block& block, std::uintptr_t place) const;
-  [[nodiscard]] std::uint32_t LineOfValue(std::uintptr_t address) const;
-
-  std::vector<Chunk> chunks_;               // the notes, in the order in which the records were made
-  std::map<std::uintptr_t, Block> blocks_;  // by their addresses; they do not overlap
-  std::vector<Value> values_;               // in the order of their addresses, then of their lines
+  struct Table;
+  std::unique_ptr<Table> table_;
 };
 
 }  // namespace kestrin

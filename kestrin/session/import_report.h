@@ -22,6 +22,12 @@ enum class ImportFile : std::uint8_t { kTech, kNeutral, kGeometry, kTraces };
 /// The number of files in an export set.
 inline constexpr std::size_t kImportFileCount = 4;
 
+/// The name of a file for people: "Tech".
+[[nodiscard]] constexpr std::string_view NameOf(ImportFile file) {
+  constexpr std::array<std::string_view, kImportFileCount> kNames{"Tech", "Neutral", "Geometry", "Traces"};
+  return kNames[static_cast<std::size_t>(file)];
+}
+
 /// How the reading of a file ended.
 enum class ReadingEnd : std::uint8_t {
   kNotRead,    ///< the file has not been read

@@ -232,7 +232,7 @@ TEST(SourceLines, OfOtherRecordsSurviveThatAHostDeletesSome) {
   RecordArray<CMTracesNET>& nets = *session.GetTraces()->m_pNetArray;
   const std::unique_ptr<CMTracesNET> removed(nets.GetAt(1));
   nets.RemoveAt(1);
-  nets.Add(new CMTracesNET);
+  nets.Add(std::make_unique<CMTracesNET>().release());
   EXPECT_EQ(KeptLines(session.GetSourceLines(ImportFile::kTraces), *session.GetTraces()), (Lines{1, 3, 0}));
 }
 

@@ -24,7 +24,7 @@ class RecordsIn {
  private:
   template <HasFields Record>
   void AddFieldsOf(const Record& record) {
-    ForEachField(record, [this](const char* /*name*/, const auto& value) { AddFrom(value); });
+    ForEachField(record, [this](const char* /*name*/, const auto& value) { this->AddFrom(value); });
   }
   template <class Value>
   void AddFrom(const Value& value) {

@@ -42,11 +42,13 @@ TEST(ToolStrict, ListsSyntaxErrorsBesideSkippedLines) {
   EXPECT_EQ(text.status, 1);
   EXPECT_EQ(text.err,
             "kestrin: " + file + ":4: import stopped: the line has too few values for its record\n");
-  EXPECT_EQ(text.out, tech + ":1: unknown-record: unknown record\n    what\n" + file +
-                          ":4: syntax-error: found a real number (3.5), expected a whole number\n" + tech +
-                          ": 1 line read, 1 skipped\n  unknown-record: 1\n" + file +
-                          ": 4 lines read, 0 skipped\n" + file +
-                          ": strict reader: 6 lines read, accepted with 1 syntax error\n");
+  EXPECT_EQ(text.out, file +
+                          ":4: error: found a real number (3.5), expected a whole number [syntax-error]\n" +
+                          tech + ": warning: no line of the Tech file was imported [nothing-imported]\n" +
+                          tech + ":1: warning: unknown record [unknown-record]\n    what\n" + tech +
+                          ": 1 line read, 1 skipped\n" + file + ": 4 lines read, 0 skipped\n" + file +
+                          ": strict reader: accepted with 1 syntax error\n" +
+                          "1 error, 2 warnings: the import stopped early\n");
   rapidjson::Document document;
   document.Parse(RunTool("check --strict --format json --traces " + file).out.c_str());
   ASSERT_FALSE(document.HasParseError());

@@ -4,11 +4,13 @@
 #include <string>
 
 #include "support/temporary_folder.h"
+#include "tests/support/content_of.h"
 #include "tests/support/process.h"
 
 namespace kestrin {
 namespace {
 
+using test::ContentOf;
 using test::RunTool;
 using test::TemporaryFolder;
 using namespace std::string_literals;
@@ -23,7 +25,6 @@ TEST(Tool, WrongUsageAndUnreadableFilesPrintOneLineAndReturn2) {
   const TemporaryFolder folder;
   for (const char* name : {"e.tech", "b.tech", "d.tech", "c.tech"}) static_cast<void>(folder.File(name, ""));
   const std::string file = folder.File("a.tech", "");
-  ASSERT_EQ(std::system(("mkfifo " + folder.Path("fifo")).c_str()), 0);
   struct Case {
     std::string arguments;
     std::string complaint;
@@ -31,15 +32,19 @@ TEST(Tool, WrongUsageAndUnreadableFilesPrintOneLineAndReturn2) {
   const Case cases[] = {
       {"", "missing command"},
       {"frobnicate", "frobnicate"},
-      {"dump", "no file to read; name one with --tech, --neutral, --geometry or --traces"},
+      {"dump", "no file to read; name a folder, files, or - with an option such as --traces"},
       {"dump --tech", "--tech"},
       {"dump --tech " + file + " --volume 11", "--volume"},
       {"dump --tech " + folder.Path("missing"),
        "cannot open \"" + folder.Path("missing") + "\": No such file"},
-      {"dump --tech " + folder.Path(), "is not a regular file"},
-      {"check --tech " + folder.Path("fifo"), "is not a regular file"},
-      {"summary " + folder.Path("missing"),
-       "cannot read folder \"" + folder.Path("missing") + "\": No such file"},
+      {"dump --tech " + folder.Path(), "is a folder, not a file"},
+      {"summary " + folder.Path("missing"), "cannot open \"" + folder.Path("missing") + "\": No such file"},
+      {"check -", "the ending of \"-\" does not tell which file it is; name it with --tech"},
+      {"check --tech - --neutral -", "only one file can be standard input"},
+      {"dump " + folder.Path("a.tech") + " " + folder.Path("b.tech"), "are both the Tech file; name one"},
+      {"dump " + folder.Path() + " " + kBoard, "are both folders; name one"},
+      {"board --encoding ebcdic --tech " + file, "--encoding"},
+      {"help frobnicate", "there is no command frobnicate"},
       {"summary " + folder.Path(), "both end in .tech; choose one with --tech"},
       {"summary " + folder.Path() + " --tech " + file,
        "no .neutral file in \"" + folder.Path() + "\"; name one with --neutral"},
@@ -60,13 +65,15 @@ TEST(Tool, WrongUsageAndUnreadableFilesPrintOneLineAndReturn2) {
 }
 
 TEST(Tool, HasHelpOnEveryLevel) {
-  for (const char* arguments : {"--help", "summary --help", "dump --help", "check --help", "board --help"}) {
+  for (const char* arguments :
+       {"--help", "help", "help check", "summary --help", "dump --help", "check --help", "board --help"}) {
     const auto result = RunTool(arguments);
     EXPECT_EQ(result.status, 0);
     EXPECT_NE(result.out.find("Example:"), std::string::npos) << arguments;
     EXPECT_EQ(result.out.find("TEXT"), std::string::npos) << arguments;  // what CLI11 calls a value
   }
   EXPECT_EQ(RunTool("--version").out, "kestrin " KESTRIN_VERSION "\n");
+  EXPECT_EQ(RunTool("-V").out, "kestrin " KESTRIN_VERSION "\n");
 }
 
 TEST(Tool, DumpsTheModelAsJson) {
@@ -149,8 +156,8 @@ TEST(Tool, ChecksWhatAnImportSkips) {
   const std::string file = folder.File("a.tech", "$$define_rule_via(V)\n\nwhat\x07 is \xE9 this\n");
   const auto text = RunTool("check --tech " + file);
   EXPECT_EQ(text.status, 1);
-  EXPECT_EQ(text.out, file + ":3: unknown-record: unknown record\n" + "    what\\x07 is é this\n" + file +
-                          ": 3 lines read, 1 skipped\n  unknown-record: 1\n");
+  EXPECT_EQ(text.out, file + ":3: warning: unknown record [unknown-record]\n" + "    what\\x07 is é this\n" +
+                          file + ": 3 lines read, 1 skipped\n1 warning: lines were skipped\n");
 
   const auto json = RunTool("check --format json --tech " + file);
   EXPECT_EQ(json.status, 1);
@@ -166,6 +173,10 @@ TEST(Tool, ChecksWhatAnImportSkips) {
 
 TEST(Tool, ReportsThatItsOutputCannotBeWrittenOrAFileNotRead) {
   const std::string ofTheBoard = " --tech " + kBoard + "/board.tech";
+  for (const std::string& arguments : {"--help"s, "help"s, "summary" + ofTheBoard, "check" + ofTheBoard}) {
+    const int status = std::system((KESTRIN_TOOL " " + arguments + " >/dev/full 2>/dev/null").c_str());
+    EXPECT_EQ(WEXITSTATUS(status), 2) << arguments;
+  }
   for (const std::string command : {"summary", "dump", "board", "check", "check --format json"}) {
     const auto unwritten = RunTool(command + ofTheBoard + " 2>&1 >/dev/full | cat");
     EXPECT_EQ(unwritten.out, "kestrin: cannot write to standard output\n") << command;
@@ -233,16 +244,18 @@ TEST(Tool, ShowsProgressOnATerminalOnlyAndErasesIt) {
   const TemporaryFolder folder;
   const std::string command = "script -qec '" KESTRIN_TOOL " dump --tech " + kBoard + "/board.tech >" +
                               folder.Path("out") + "' " + folder.Path("terminal") + " >/dev/null";
-  ASSERT_EQ(std::system(command.c_str()), 0);
-  std::stringstream terminal;
-  terminal << std::ifstream(folder.Path("terminal")).rdbuf();
-  const std::string shown = terminal.str();
+  ASSERT_EQ(std::system(("TERM=xterm " + command).c_str()), 0);
+  const std::string shown = ContentOf(folder.Path("terminal"));
   EXPECT_NE(shown.find("Parsing Tech File"), std::string::npos) << shown;
   EXPECT_NE(shown.find("] "), std::string::npos);
   EXPECT_EQ(shown.find("Neutral"), std::string::npos);
   const auto lastWipe = shown.rfind("\x1b[2A\x1b[J");
   ASSERT_NE(lastWipe, std::string::npos);
   EXPECT_EQ(shown.find("Tech", lastWipe), std::string::npos);
+  for (const std::string setting : {"TERM=dumb ", "TERM=xterm NO_COLOR=1 "}) {
+    ASSERT_EQ(std::system((setting + command).c_str()), 0);
+    EXPECT_EQ(ContentOf(folder.Path("terminal")).find("Parsing"), std::string::npos) << setting;
+  }
 }
 
 }  // namespace

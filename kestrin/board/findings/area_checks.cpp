@@ -1,0 +1,70 @@
+#include "kestrin/board/findings/checks.h"
+#include "kestrin/board/polygons.h"
+#include "kestrin/geometry/geometry_model.h"
+#include "kestrin/traces/traces_model.h"
+
+namespace kestrin {
+namespace {
+
+constexpr std::size_t kLeastPoints = 3;
+
+std::string CountOfPoints(std::size_t count) {
+  return std::to_string(count) + (count == 1 ? " point" : " points");
+}
+
+/// Checks an outline of a geometry. An empty one is none.
+void CheckOutline(const NumberArray& numbers, std::string_view what, const void* record,
+                  Collector& findings) {
+  if (numbers.IsEmpty()) return;
+  const std::size_t points = PolygonOf(numbers, 1.0).size();
+  const bool isOdd = numbers.GetSize() % 2 != 0;
+  if (points >= kLeastPoints && !isOdd) return;
+  findings.Add(FindingCode::kDegenerateArea, [&] {
+    return Finding{.message = std::string(what) + " has " + CountOfPoints(points) +
+                              (isOdd ? " and a last coordinate without its other half" : ""),
+                   .at = {findings.PlaceOf(ImportFile::kGeometry, record)}};
+  });
+}
+
+template <class List>
+void CheckVertices(const List& areas, std::string_view what, const CMTracesFIL& fill, Collector& findings) {
+  ForEachRecord(areas, [&](const auto& area, Index) {
+    if (static_cast<std::size_t>(area.m_pVerArray->GetSize()) > kLeastPoints) return;
+    const std::size_t points = VerticesOf(area, 1.0).size();
+    if (points >= kLeastPoints) return;
+    findings.Add(FindingCode::kDegenerateArea, [&] {
+      return Finding{.message = std::string(what) + " of a fill of net " +
+                                Quoted(ComparedName(fill.m_sName1.View())) + " has " + CountOfPoints(points),
+                     .at = {findings.PlaceOf(ImportFile::kTraces, &area)}};
+    });
+  });
+}
+
+void CheckOutlinesOf(const CMGeom& geometry, Collector& findings) {
+  const CMGeomBoard& board = *geometry.m_pBoard;
+  CheckOutline(*board.m_pPlacementOutline, "the placement outline of the board", board.m_pPlacementOutline,
+               findings);
+  CheckOutline(*board.m_pRoutingOutline, "the routing outline of the board", board.m_pRoutingOutline,
+               findings);
+  ForEachRecord(geometry.m_pComponents, [&](const CMGeomComponent& component, Index) {
+    ForEachRecord(component.m_pPlacementOutlines, [&](const CMGeomPlacementOutline& outline, Index) {
+      const std::string_view name = ComparedName(component.m_sName.View());
+      CheckOutline(*outline.m_pCoords, "the placement outline of " + Quoted(name), &outline, findings);
+    });
+  });
+}
+
+}  // namespace
+
+void CheckAreas(const CheckedSet& set, const Board& /*board*/, Collector& findings) {
+  if (set.models.geometry != nullptr) CheckOutlinesOf(*set.models.geometry, findings);
+  if (set.models.traces == nullptr) return;
+  ForEachRecord(set.models.traces->m_pFilArray, [&](const CMTracesFIL& fill, Index) {
+    CheckVertices(fill.m_pAreArray, "an area", fill, findings);
+    CheckVertices(fill.m_pArsArray, "an area", fill, findings);
+    CheckVertices(fill.m_pIslArray, "a hole", fill, findings);
+    CheckVertices(fill.m_pIssArray, "a hole", fill, findings);
+  });
+}
+
+}  // namespace kestrin

@@ -1,0 +1,82 @@
+#include <algorithm>
+#include <cstdio>
+
+#include "kestrin/base/file_handle.h"
+#include "kestrin/board/findings/checks.h"
+#include "kestrin/board/findings/line_kinds.h"
+#include "kestrin/framework/stdio_file.h"
+#include "kestrin/geometry/command_line.h"
+#include "kestrin/geometry/page_unit.h"
+
+namespace kestrin {
+namespace {
+
+/// The file of which a file's lines are records, if most are of another one than they should be.
+std::optional<ImportFile> OtherKindOf(ImportFile file, const FileReport& report) {
+  if (report.Imported() > report.linesRead / 2) return std::nullopt;
+  const LineKinds kinds = CountLineKinds(report.path);
+  const auto most = std::max_element(kinds.imported.begin(), kinds.imported.end());
+  const auto other = static_cast<ImportFile>(most - kinds.imported.begin());
+  if (other == file || *most <= kinds.lines / 2) return std::nullopt;
+  return *most > kinds.imported[static_cast<std::size_t>(file)] ? std::optional(other) : std::nullopt;
+}
+
+void CheckKind(ImportFile file, const FileReport& report, Collector& findings) {
+  if (const auto other = OtherKindOf(file, report)) {
+    return findings.Add(FindingCode::kWrongFile, [&] {
+      return Finding{.message = "most lines are records of a " + std::string(NameOf(*other)) +
+                                " file, but the file was read as the " + std::string(NameOf(file)) + " file",
+                     .at = {{file}}};
+    });
+  }
+  if (report.Imported() > 0) return;
+  findings.Add(FindingCode::kNothingImported, [&] {
+    return Finding{.message = "no line of the " + std::string(NameOf(file)) + " file was imported",
+                   .at = {{file}}};
+  });
+}
+
+void CheckEnd(ImportFile file, const FileReport& report, Collector& findings) {
+  const FileHandle bytes(std::fopen(report.path.c_str(), "rb"));
+  if (bytes == nullptr || std::fseek(bytes.get(), -1, SEEK_END) != 0 || std::fgetc(bytes.get()) == '\n')
+    return;
+  findings.Add(FindingCode::kNoFinalNewline, [&] {
+    return Finding{.message = "the " + std::string(NameOf(file)) +
+                              " file does not end with a line feed; it may be cut off",
+                   .at = {{file, report.linesRead}}};
+  });
+}
+
+/// The models do not tell unknown units of geometries from missing ones.
+void CheckPages(const FileReport& report, Collector& findings) {
+  CStdioFile file;
+  if (file.Open(report.path.c_str()) == 0) return;
+  std::int64_t number = 0;
+  while (const auto line = file.ReadLine()) {
+    ++number;
+    const auto option = line->find('@');
+    if (option == std::string_view::npos || CutCommandLine(*line).word != "$$page" ||
+        !UnitOfPage(*line).empty())
+      continue;
+    findings.Add(FindingCode::kUnknownUnit, [&] {
+      return Finding{.message = "the unit of a geometry is unknown: " + std::string(line->substr(option)),
+                     .at = {{ImportFile::kGeometry, number}}};
+    });
+  }
+}
+
+}  // namespace
+
+void CheckFiles(const CheckedSet& set, const Board& /*board*/, Collector& findings) {
+  if (set.report == nullptr) return;
+  for (std::size_t i = 0; i < kImportFileCount; ++i) {
+    const auto file = static_cast<ImportFile>(i);
+    const FileReport& report = set.report->Of(file);
+    if (report.end == ReadingEnd::kNotRead || report.end == ReadingEnd::kNotOpened) continue;
+    CheckKind(file, report, findings);
+    CheckEnd(file, report, findings);
+    if (file == ImportFile::kGeometry) CheckPages(report, findings);
+  }
+}
+
+}  // namespace kestrin

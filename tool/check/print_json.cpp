@@ -1,0 +1,128 @@
+#include <algorithm>
+
+#include "tool/check/print.h"
+#include "tool/json_writer.h"
+#include "tool/readable_text.h"
+
+namespace kestrin::tool {
+namespace {
+
+constexpr int kVersion = 2;
+
+std::string_view WordOf(Severity severity) {
+  constexpr std::string_view kWords[] = {"error", "warning", "note"};
+  return kWords[static_cast<std::size_t>(severity)];
+}
+
+std::string_view WordOf(ReadingEnd end) {
+  constexpr std::string_view kWords[] = {"not-read", "not-opened", "stopped", "complete"};
+  return kWords[static_cast<std::size_t>(end)];
+}
+
+/// Writes a list; the action writes each element.
+template <class List, class Write>
+void WriteList(JsonWriter& json, const char* name, const List& list, Write write) {
+  json.Key(name);
+  json.StartArray();
+  for (const auto& element : list) write(element);
+  json.EndArray();
+}
+
+void WriteSkipped(JsonWriter& json, const Checked& checked, const FileReport& report) {
+  json.Key("codes");
+  json.StartArray();
+  for (std::size_t i = 0; i < kSkipCodes.size(); ++i) {
+    const SkippedLines& skipped = report.Skipped(static_cast<SkipCode>(i));
+    if (skipped.count == 0 || !checked.Reports(kSkipCodes[i].name)) continue;
+    JsonObject group(json);
+    group.Member("code", kSkipCodes[i].name)
+        .Member("text", kSkipCodes[i].text)
+        .Member("count", skipped.count);
+    WriteList(json, "lines", skipped.first, [&](const SkippedLine& line) {
+      JsonObject(json)
+          .Member("line", line.number)
+          .Member("reason", std::string_view(line.reason))
+          .Member("text", CString(line.text));
+    });
+  }
+  json.EndArray();
+}
+
+void WriteFile(JsonWriter& json, const Checked& checked, ImportFile file) {
+  const FileReport& report = checked.imported.ReportOf(file);
+  JsonObject object(json);
+  object.Member("file", std::string_view(PathToUtf8(checked.imported.files.PathOf(file))))
+      .Member("lines", report.linesRead)
+      .Member("imported", report.Imported())
+      .Member("ignored", report.Ignored())
+      .Member("skipped", report.Skipped())
+      .Member("end", WordOf(report.end));
+  if (report.end == ReadingEnd::kStopped) {
+    object.Member("error", std::string_view(PathToUtf8(checked.stopped)));
+  }
+  WriteSkipped(json, checked, report);
+}
+
+/// The last line that the strict reader read, counted from 1 as everywhere. The parser counts line ends, of
+/// which the last may be missing.
+std::int64_t LastLine(const Checked& checked) {
+  const StrictParse& parse = checked.imported.strictTraces->parse;
+  if (parse.result == ParseResult::kAccepted)
+    return std::max(parse.line, checked.imported.ReportOf(ImportFile::kTraces).linesRead);
+  return parse.errors.empty() ? parse.line + 1 : LineOf(parse.errors.back());
+}
+
+void WriteStrict(JsonWriter& json, const Checked& checked, const StrictTraces& strict) {
+  json.Key("strict");
+  JsonObject object(json);
+  object.Member("file", std::string_view(PathToUtf8(checked.imported.files.PathOf(ImportFile::kTraces))))
+      .Member("result", static_cast<int>(strict.parse.result))
+      .Member("error", std::string_view(strict.parse.error))
+      .Member("line", LastLine(checked));
+  WriteList(json, "errors", strict.parse.errors, [&](const SyntaxError& error) {
+    JsonObject(json).Member("line", LineOf(error)).Member("reason", CString(error.Describe()));
+  });
+}
+
+void WriteFinding(JsonWriter& json, const Checked& checked, const Finding& finding) {
+  const FindingKind& kind = KindOf(finding.code);
+  JsonObject object(json);
+  object.Member("severity", WordOf(kind.severity))
+      .Member("code", kind.name)
+      .Member("message", CString(finding.message.c_str()));
+  WriteList(json, "at", finding.at, [&](const FindingPlace& place) {
+    JsonObject(json)
+        .Member("file", std::string_view(PathToUtf8(checked.imported.files.PathOf(place.file))))
+        .Member("line", place.line);
+  });
+}
+
+}  // namespace
+
+void PrintProblemsAsJson(const Checked& checked) {
+  JsonWriter json;
+  json.StartObject();
+  json.Key("format");
+  json.Utf8("kestrin-check");
+  json.Key("version");
+  json.Int(kVersion);
+  WriteList(json, "files", checked.imported.FilesRead(),
+            [&](ImportFile file) { WriteFile(json, checked, file); });
+  if (const auto& strict = checked.imported.strictTraces) WriteStrict(json, checked, *strict);
+  WriteList(json, "findings", checked.findings.list, [&](const Finding& finding) {
+    if (checked.Reports(KindOf(finding.code).name)) WriteFinding(json, checked, finding);
+  });
+  json.Key("counts");
+  json.StartObject();
+  for (std::size_t i = 0; i < kFindingKinds.size(); ++i) {
+    const FindingKind& kind = kFindingKinds[i];
+    if (checked.findings.counts[i] == 0 || !checked.Reports(kind.name)) continue;
+    json.Key(kind.name.data());
+    json.Int(static_cast<std::int64_t>(checked.findings.counts[i]));
+  }
+  json.EndObject();
+  json.EndObject();
+  json.Finish();
+}
+
+}  // namespace kestrin::tool

@@ -1,0 +1,25 @@
+#pragma once
+
+/// @file
+/// Making a file of what can be read only once.
+
+#include <string>
+
+namespace kestrin::tool {
+
+/// A temporary file with the bytes of standard input or of a pipe. It is removed with the object.
+class TemporaryCopy {
+ public:
+  /// Copies the bytes of a path; "-" is standard input. Raises UsageError if they cannot be read or stored.
+  explicit TemporaryCopy(const std::string& source);
+  TemporaryCopy(const TemporaryCopy&) = delete;
+  TemporaryCopy& operator=(const TemporaryCopy&) = delete;
+  ~TemporaryCopy();
+
+  [[nodiscard]] const std::string& Path() const { return path_; }
+
+ private:
+  std::string path_;
+};
+
+}  // namespace kestrin::tool
