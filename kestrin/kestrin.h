@@ -4,6 +4,7 @@
 /// Includes every header that a host needs: the import session, the models, the board that they describe, the
 /// strict Traces reader, and the framework classes that these use.
 
+#include "kestrin/board/findings.h"
 #include "kestrin/board/read_board.h"
 #include "kestrin/framework/archive.h"
 #include "kestrin/framework/stdio_file.h"

@@ -3,33 +3,20 @@
 #include <algorithm>
 #include <cmath>
 
-#include "kestrin/base/numbers.h"
 #include "kestrin/board/millimetres.h"
 #include "kestrin/board/polylines.h"
+#include "kestrin/board/vertices.h"
 #include "kestrin/board/widths.h"
 #include "kestrin/traces/traces_model.h"
 
 namespace kestrin {
 namespace {
 
-constexpr double kUnknown = 0.0;  // no width of a track is 0
-
-/// The contents of a SEG record.
-struct Vertex {
-  Point point;
-  int layer = 0;
-  bool isVia = false;
-  double width = kUnknown;
-};
-
 /// Reads polylines into the lists of a board, net by net.
 class PolylineReader {
  public:
   PolylineReader(const CopperSurvey& survey, const NameIndex& viaPadstacks, Board& board)
-      : board_(board),
-        unit_(board.units.traces),
-        widthStep_(board.reading.widthStep.value_or(0.0)),
-        viaPadstacks_(viaPadstacks) {
+      : board_(board), vertices_(board.units.traces, board.reading.widthStep, viaPadstacks) {
     // Usually a track ends only with its polyline or at a via. The next track repeats the point.
     board.points.reserve(survey.points + survey.texts);
     board.tracks.reserve(survey.polylines + survey.texts);
@@ -47,7 +34,8 @@ class PolylineReader {
     bool isFirst = true;
     Vertex begin;
     ForEachRecord(polyline.m_pSegArray, [&](const CMTracesSEG& record, Index) {
-      const Vertex end = Read(record);
+      const Vertex end = vertices_.Read(record);
+      if (end.via) board_.vias.push_back({.position = end.point, .padstack = *end.via});
       if (!isFirst) AddLeg(begin, end, origin);
       isFirst = false;
       begin = end;
@@ -62,47 +50,8 @@ class PolylineReader {
   }
 
  private:
-  [[nodiscard]] Vertex Read(const CMTracesSEG& record) {
-    Vertex vertex{.point = PointAt(record.m_dValue1, record.m_dValue2, unit_), .layer = record.m_nValue3};
-    const std::string_view text = record.m_sValue4.View();
-    if (text.empty()) {
-      vertex.width = WidthOfSteps(record.m_dValue4);
-    } else if (IsDecimalNumber(text)) {
-      vertex.width = Width(ToDouble(text));
-    } else if (const auto padstack = PadstackNamed(text)) {
-      vertex.isVia = true;
-      board_.vias.push_back({.position = vertex.point, .padstack = *padstack});
-    }
-    return vertex;
-  }
-
-  /// The padstack of a name. Most vias repeat the name of the last one.
-  [[nodiscard]] std::optional<Index> PadstackNamed(std::string_view name) {
-    if (name != lastName_) {
-      lastName_ = name;
-      padstackOfLastName_ = viaPadstacks_.Find(ComparedName(name));
-    }
-    return padstackOfLastName_;
-  }
-
-  /// The width of a number of steps. Most points repeat the number of the last one.
-  [[nodiscard]] double WidthOfSteps(double steps) {
-    if (steps != lastSteps_) {
-      lastSteps_ = steps;
-      widthOfLastSteps_ = Width(steps * widthStep_);
-    }
-    return widthOfLastSteps_;
-  }
-
-  /// The width in millimetres; unknown unless it is positive and finite.
-  [[nodiscard]] double Width(double inFile) const {
-    const double width = Rounded(inFile * unit_);
-    return width > 0.0 && std::isfinite(width) ? width : kUnknown;
-  }
-
   void AddLeg(const Vertex& begin, const Vertex& end, const Track& origin) {
-    const int layer = begin.isVia ? end.layer : begin.layer;  // at a via the layer changes
-    const double width = begin.width != kUnknown ? begin.width : end.width;
+    const auto [layer, width] = LegBetween(begin, end);
     if (layer != layer_ || width != width_) EndTrack(origin);
     if (layer == 0) return;
     if (first_ == board_.points.size()) {
@@ -119,7 +68,7 @@ class PolylineReader {
     Track& track = board_.tracks.emplace_back(origin);
     track.points = {first_, count};
     track.layer = layer_;
-    if (width_ != kUnknown) track.width = width_;
+    if (width_ != kUnknownWidth) track.width = width_;
     AddLength(board_.PointsOf(track));
     first_ += count;
   }
@@ -149,16 +98,10 @@ class PolylineReader {
   }
 
   Board& board_;
-  double unit_;
-  double widthStep_;  // 0 if unknown
-  const NameIndex& viaPadstacks_;
-  std::string_view lastName_;
-  std::optional<Index> padstackOfLastName_;
-  double lastSteps_ = 0.0;
-  double widthOfLastSteps_ = kUnknown;
+  VertexReader vertices_;
   Index first_ = 0;                   // the first point of the track that is being read
   int layer_ = 0;                     // of that track
-  double width_ = kUnknown;           // of that track
+  double width_ = kUnknownWidth;      // of that track
   std::vector<LayerLength> lengths_;  // of the net
 };
 
