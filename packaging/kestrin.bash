@@ -13,11 +13,12 @@ _kestrin() {
     --width-step) return ;;
     *)
       if [ "$COMP_CWORD" = 1 ]; then
-        mapfile -t COMPREPLY < <(compgen -W 'summary check board dump help --help --version' -- "$word")
+        mapfile -t COMPREPLY < <(compgen -W 'summary check board diff dump help --help --version' -- "$word")
         return
       fi
       case ${COMP_WORDS[1]} in
-        help) mapfile -t COMPREPLY < <(compgen -W 'summary check board dump' -- "$word"); return ;;
+        help) mapfile -t COMPREPLY < <(compgen -W 'summary check board diff dump' -- "$word"); return ;;
+        diff) mapfile -t COMPREPLY < <(compgen -W '--format --all --encoding --help' -- "$word") ;;
         dump) mapfile -t COMPREPLY < <(compgen -W "$files --strict --help" -- "$word") ;;
         summary) mapfile -t COMPREPLY < <(compgen -W "$files --strict --encoding --help" -- "$word") ;;
         board)

@@ -29,10 +29,14 @@ BoardOptions OptionsOf(const ReadingWords& words) {
 
 }  // namespace
 
-Board BoardOf(const Imported& imported, const BoardOptions& options) {
+BoardModels ModelsIn(const Imported& imported) {
   BoardModels models = ModelsOf(imported.session);
   models.traces = imported.Traces();
-  return ReadBoard(models, options);
+  return models;
+}
+
+Board BoardOf(const Imported& imported, const BoardOptions& options) {
+  return ReadBoard(ModelsIn(imported), options);
 }
 
 int PrintBoard(const ExportSet& files, const ReadingWords& words) {

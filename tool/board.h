@@ -24,6 +24,9 @@ struct ReadingWords {
 inline constexpr const char* kCounterClockwise = "ccw";
 inline constexpr const char* kClockwise = "cw";
 
+/// The models of an import. They are valid as long as it is.
+[[nodiscard]] BoardModels ModelsIn(const Imported& imported);
+
 /// Reads the board of an import.
 [[nodiscard]] Board BoardOf(const Imported& imported, const BoardOptions& options = {});
 

@@ -7,6 +7,7 @@
 #include "kestrin/version.h"
 #include "tool/board.h"
 #include "tool/check/check.h"
+#include "tool/diff/diff.h"
 #include "tool/dump.h"
 #include "tool/exit_status.h"
 #include "tool/export_set.h"
@@ -17,11 +18,20 @@
 namespace kestrin::tool {
 namespace {
 
+/// The arguments of diff, which compares two sets.
+struct DiffWords {
+  std::string before;
+  std::string after;
+  std::string format = "text";
+  bool all = false;
+};
+
 struct Arguments {
   std::vector<std::string> paths;
   ExportSet files;
   CheckWords check;
   ReadingWords reading;
+  DiffWords diff;
 };
 
 constexpr char kExitStatuses[] =
@@ -91,6 +101,19 @@ void AddCheckOptions(CLI::App& command, CheckWords& words) {
   command.add_flag("--quiet", words.quiet, "Print no text; the exit status tells");
 }
 
+void AddDiffOptions(CLI::App& command, DiffWords& words) {
+  const char* const meaning = "A folder with an export set, or one of its files";
+  command.add_option("BEFORE", words.before, meaning)->required()->option_text(" ");
+  command.add_option("AFTER", words.after, meaning)->required()->option_text(" ");
+  command.add_option("--format", words.format, "The output format (default: text)")
+      ->check(CLI::IsMember({"text", "json"}))
+      ->option_text("text|json");
+  command.add_flag("--all", words.all, "Print all differences, not only the first of each kind");
+  command.footer(
+      "Example:\n  kestrin diff boards/a boards/b\n\nExit status: 0 if there is no difference; 1 if there "
+      "is one; 2 if something is wrong.");
+}
+
 void AddEncoding(CLI::App& command, Arguments& arguments) {
   command
       .add_option("--encoding", arguments.files.EncodingWord(),
@@ -108,7 +131,8 @@ class CommandLine {
     app_.footer(std::string("Example:\n  kestrin summary examples/board\n\n") + kExitStatuses);
     AddReadingOptions(*board_, arguments_.reading);
     AddCheckOptions(*check_, arguments_.check);
-    for (CLI::App* command : {summary_, board_, check_}) AddEncoding(*command, arguments_);
+    AddDiffOptions(*diff_, arguments_.diff);
+    for (CLI::App* command : {summary_, board_, check_, diff_}) AddEncoding(*command, arguments_);
     help_->add_option("COMMAND", topic_, "The command to explain")->option_text(" ");
   }
 
@@ -123,6 +147,7 @@ class CommandLine {
     }
     if (app_.get_subcommands().empty()) throw UsageError("missing command; try kestrin --help");
     if (help_->parsed()) return Explain();
+    if (diff_->parsed()) return CompareSets();
     ExportSet& files = arguments_.files;
     files.Add(arguments_.paths);
     if (board_->parsed()) return PrintBoard(files, arguments_.reading);
@@ -135,6 +160,15 @@ class CommandLine {
  private:
   CLI::App* Add(const char* name, const char* description, const char* example) {
     return AddCommand(app_, arguments_, name, description, example);
+  }
+
+  [[nodiscard]] int CompareSets() {
+    const DiffWords& words = arguments_.diff;
+    ExportSet before = arguments_.files;
+    ExportSet after = arguments_.files;
+    before.Add({words.before});
+    after.Add({words.after});
+    return Diff(before, after, words.format, words.all);
   }
 
   [[nodiscard]] int Explain() {
@@ -163,6 +197,7 @@ class CommandLine {
   CLI::App* board_ = Add("board", "Print the board that the files describe together as JSON",
                          "kestrin board examples/board --rotation ccw");
   CLI::App* dump_ = Add("dump", "Print the object model as JSON", "kestrin dump examples/board/board.tech");
+  CLI::App* diff_ = app_.add_subcommand("diff", "Print what changed between two export sets");
   CLI::App* help_ = app_.add_subcommand("help", "Explain the tool or a command");
 };
 

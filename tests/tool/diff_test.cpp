@@ -1,0 +1,195 @@
+#include <gtest/gtest.h>
+#include <rapidjson/document.h>
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "support/temporary_folder.h"
+#include "tests/support/content_of.h"
+#include "tests/support/process.h"
+
+namespace kestrin {
+namespace {
+
+using test::ContentOf;
+using test::RunTool;
+using test::TemporaryFolder;
+
+const std::string kBoard = KESTRIN_EXAMPLES "/board";
+
+/// A file of the sample board in which a text is replaced, wherever it occurs.
+struct Edit {
+  std::string kind;
+  std::string text;
+  std::string replacement;
+};
+
+/// A copy of the sample board with edits.
+class Edited {
+ public:
+  explicit Edited(const std::vector<Edit>& edits) {
+    for (const std::string kind : {"tech", "neutral", "geometry", "traces"}) {
+      std::string content = ContentOf(kBoard + "/board." + kind);
+      for (const Edit& edit : edits) {
+        if (edit.kind != kind) continue;
+        std::size_t place = content.find(edit.text);
+        EXPECT_NE(place, std::string::npos) << edit.text;
+        for (; place != std::string::npos; place = content.find(edit.text, place + edit.replacement.size()))
+          content.replace(place, edit.text.size(), edit.replacement);
+      }
+      static_cast<void>(folder_.File("board." + kind, content));
+    }
+  }
+  [[nodiscard]] std::string Path() const { return folder_.Path(); }
+
+ private:
+  TemporaryFolder folder_;
+};
+
+std::string TextOf(const rapidjson::Value& value) {
+  std::ostringstream text;
+  if (value.IsString()) text << value.GetString();
+  if (value.IsNumber()) text << value.GetDouble();
+  return text.str();
+}
+
+/// A line for each change: "component U_3 changed x:1>2 y:3>4". An empty value is null.
+std::string Changes(const std::string& arguments) {
+  const std::string json = RunTool("diff --format json " + arguments).out;
+  rapidjson::Document document;
+  document.Parse(json.c_str());
+  EXPECT_FALSE(document.HasParseError()) << json;
+  if (document.HasParseError()) return json;
+  std::ostringstream text;
+  const auto& shift = document["shift"];
+  if (shift.IsArray()) text << "shift " << shift[0].GetDouble() << ' ' << shift[1].GetDouble() << '\n';
+  for (const auto& change : document["changes"].GetArray()) {
+    text << change["kind"].GetString() << ' ' << change["name"].GetString() << ' '
+         << change["change"].GetString();
+    for (const auto& detail : change["details"].GetArray()) {
+      text << ' ' << detail["what"].GetString() << ':' << TextOf(detail["before"]) << '>'
+           << TextOf(detail["after"]);
+    }
+    text << '\n';
+  }
+  return text.str();
+}
+
+TEST(ToolDiff, ReportsExactlyTheEdit) {
+  struct Case {
+    std::vector<Edit> edits;
+    const char* changes;
+  };
+  const Case cases[] = {
+      {{{"neutral", "SENS6 32.0 32.0 1 0", "SENS6 33.2 32.0 1 90"}},
+       "component U_3 changed x:32>33.2 rotation:0>90\n"},
+      {{{"neutral", "COMP R_2 RS-5002", "COMP R_2 RS-9"}}, "component R_2 changed part:RS-5002>RS-9\n"},
+      {{{"neutral", "TESTPAD_10 57.0 18.75 2 0", "TESTPAD_10 57.0 18.75 1 0"}},
+       "component TP_2 changed side:bottom>top\n"},
+      {{{"neutral", "COMP R_2 ", "COMP R_9 "}, {"neutral", "'R_2-", "'R_9-"}},
+       "component R_2 removed\ncomponent R_9 added\n"},
+      {{{"neutral", "\"470\"", "\"680\""}}, "property R_2 changed VALUE:470>680\n"},
+      {{{"neutral", " (VALUE,\"470\")", ""}}, "property R_2 removed VALUE:470>\n"},
+      {{{"neutral", "(VALUE,\"470\")", "(VALUE,\"470\") (TOL,\"1\")"}}, "property R_2 added TOL:>1\n"},
+      {{{"neutral", "NET 'SDA'", "NET 'I2C_SDA'"}, {"traces", "NET 'SDA'", "NET 'I2C_SDA'"}},
+       "net SDA renamed name:SDA>I2C_SDA\n"},
+      {{{"neutral", "NET 'SDA'", "NET 'SDA'\nN_PIN 'X_1-1' 1 1 PAD_1 P"}}, "pin X_1-1 added net:>SDA\n"},
+      {{{"neutral", "N_PIN 'R_2-2' 19.0 6.0 PAD_1 SMD_12X14\n", ""}}, "pin R_2-2 changed net:LED_A>\n"},
+      {{{"traces", "SEG 12.25 15.0 1 80", "SEG 12.25 15.0 1 50"}}, "wire VIN changed width:0.8>0.5\n"},
+      {{{"traces", "SEG 18.25 23.0 1 80 SIGNAL_1 U_2-3\nSEG 18.25 21.0 1",
+         "SEG 18.25 23.0 2 80 SIGNAL_1 U_2-3\nSEG 18.25 21.0 2"}},
+       "wire VIN changed layer:1>2\n"},
+      {{{"traces", "SEG 12.25 15.0 1 80", "SEG 12.5 15.0 1 80"}}, "wire VIN removed\nwire VIN added\n"},
+      {{{"traces", "SEG 26.75 20.5 1 VIA_M03", "SEG 26.75 20.5 1 VIA_B05"}},
+       "wire GND changed via:VIA_M03>VIA_B05\n"},
+      {{{"traces", "VER 13.0 27.5", "VER 13.0 27.25"}}, "fill VCC 3V3 removed\nfill VCC 3V3 added\n"},
+      {{{"geometry",
+         "$$create_component(\"CHIP_0805\");\n$$page(0.0, 0.0, @mm);\n$$attribute(\"COMPONENT_HEIGHT\", "
+         "[0.8]);",
+         "$$create_component(\"CHIP_0805\");\n$$page(0.0, 0.0, @mm);\n$$attribute(\"COMPONENT_HEIGHT\", "
+         "[0.9]);"}},
+       "geometry CHIP_0805 changed m_dHeight:0.8>0.9\n"},
+      {{{"geometry", "$$create_pin(\"SMD_05X15\");\n$$page(0.0, 0.0, @mm);",
+         "$$create_pin(\"SMD_05X15\");\n$$page(0.0, 0.0, @in);"}},
+       "padstack SMD_05X15 changed m_sUnits:MM>IN\n"},
+      {{{"geometry", "$$create_board(\"SENSOR_NODE\")", "$$create_board(\"NODE\")"}},
+       "board SENSOR_NODE changed name:SENSOR_NODE>NODE\n"},
+      {{{"tech", "\"INNER_1\", \"SIGNAL_2\"", "\"MIDDLE\", \"SIGNAL_2\""}},
+       "layer 2 changed name:INNER_1>MIDDLE\n"},
+  };
+  for (const Case& c : cases) {
+    const Edited after(c.edits);
+    EXPECT_EQ(Changes(kBoard + ' ' + after.Path()), c.changes) << c.edits.front().replacement;
+    EXPECT_EQ(RunTool("diff " + kBoard + ' ' + after.Path()).status, *c.changes == '\0' ? 0 : 1);
+  }
+}
+
+TEST(ToolDiff, FindsNoDifferenceInAnotherWayToWriteTheSame) {
+  const std::vector<std::vector<Edit>> cases = {
+      {{"neutral", "32.0 32.0 1 0", "32 32.00 1 0"}},
+      {{"neutral", "\"470\"", "\"470.0\""}},
+      {{"neutral", "\n", "\r\n"}, {"traces", "\n", "\r\n"}},
+      {{"traces", "WIR 2 18.25 23.0 12.0 15.0", "WIR 17 18.25 23.0 12.0 15.0"}},
+      {{"traces",
+        "SEG 12.0 15.0 1 80 SIGNAL_1 C_1-1\nSEG 6.0 15.0 1 80 SIGNAL_1\nSEG 3.5 17.5 1 80 SIGNAL_1 J_1-1",
+        "SEG 3.5 17.5 1 80 SIGNAL_1 J_1-1\nSEG 6.0 15.0 1 80 SIGNAL_1\nSEG 12.0 15.0 1 80 SIGNAL_1 C_1-1"}},
+      {{"traces", "XRF 2 U_2\n", ""}},
+  };
+  for (const std::vector<Edit>& edits : cases) {
+    const auto diff = RunTool("diff " + kBoard + ' ' + Edited(edits).Path());
+    EXPECT_EQ(diff.out, "no difference\n") << edits.front().replacement;
+    EXPECT_EQ(diff.status, 0);
+  }
+}
+
+TEST(ToolDiff, TakesAShiftOfTheBoardOut) {
+  const TemporaryFolder folder;
+  const std::string neutral =
+      "###Component\nCOMP A p s G 1 1 1 0\nCOMP B p s G 2 1 1 0\nCOMP C p s G 3 1 1 0\n";
+  const std::string moved =
+      "###Component\nCOMP A p s G 11 0.5 1 0\nCOMP B p s G 12 0.5 1 0\nCOMP C p s G 13 0.5 1 0\n";
+  const std::string one =
+      "###Component\nCOMP A p s G 1 1 1 0\nCOMP B p s G 2.5 1 1 0\nCOMP C p s G 3 1 1 0\n";
+  const std::string traces = "UNITS MM\n# NET N\nWIR 1 0 0 0 0\nSEG 1 1 1 0.2\nSEG 2 2 1 0.2\n";
+  const std::string movedTraces = "UNITS MM\n# NET N\nWIR 1 0 0 0 0\nSEG 11 0.5 1 0.2\nSEG 12 1.5 1 0.2\n";
+  const std::string a = folder.File("a.neutral", neutral);
+  EXPECT_EQ(Changes(a + ' ' + folder.File("b.neutral", moved)), "shift 10 -0.5\n");
+  EXPECT_EQ(Changes(a + ' ' + folder.File("c.neutral", one)), "component B changed x:2>2.5\n");
+  const std::string set = folder.Path("set");
+  const std::string movedSet = folder.Path("moved");
+  ASSERT_EQ(std::system(("mkdir " + set + " " + movedSet).c_str()), 0);
+  for (const std::string& path : {set, movedSet})
+    ASSERT_EQ(std::system((": >" + path + "/x.geometry").c_str()), 0);
+  static_cast<void>(folder.File("set/x.neutral", neutral));
+  static_cast<void>(folder.File("set/x.traces", traces));
+  static_cast<void>(folder.File("moved/x.neutral", moved));
+  static_cast<void>(folder.File("moved/x.traces", movedTraces));
+  EXPECT_EQ(Changes(set + ' ' + movedSet), "shift 10 -0.5\n");
+}
+
+TEST(ToolDiff, SaysWhatChangedInWords) {
+  const Edited after({{"neutral", "SENS6 32.0 32.0 1 0", "SENS6 33.2 32.0 1 90"},
+                      {"neutral", "\"470\"", "\"680\""},
+                      {"neutral", "NET 'SDA'", "NET 'I2C_SDA'"},
+                      {"traces", "NET 'SDA'", "NET 'I2C_SDA'"},
+                      {"traces", " 1 80 ", " 1 60 "}});
+  const auto diff = RunTool("diff " + kBoard + ' ' + after.Path());
+  EXPECT_EQ(diff.status, 1);
+  EXPECT_EQ(diff.out,
+            "1 component\n  component U_3 moved by (1.2, 0) mm and turned by 90\n"
+            "1 property\n  R_2: VALUE 470 is now 680\n"
+            "1 net\n  net SDA is now I2C_SDA (same 2 pins)\n"
+            "2 wires\n  VIN: 2 wires have another width\n");
+}
+
+TEST(ToolDiff, EndsWith2IfASetCannotBeRead) {
+  EXPECT_EQ(RunTool("diff " + kBoard + " /nowhere").status, 2);
+  EXPECT_EQ(RunTool("diff " + kBoard).status, 2);
+  const TemporaryFolder folder;
+  const std::string cut = folder.File("a.traces", "UNITS MM\nXRF 1\n");
+  EXPECT_EQ(RunTool("diff " + cut + ' ' + cut).status, 2);
+}
+
+}  // namespace
+}  // namespace kestrin
