@@ -1,6 +1,5 @@
 #include "kestrin/geometry/bracket_scans.h"
 
-#include "kestrin/geometry/point_values.h"
 #include "kestrin/text/contains.h"
 #include "kestrin/text/trim.h"
 
@@ -12,21 +11,7 @@ bool Scan(ValueCut values, const BracketScan& scan, std::vector<double>& numbers
   const auto append = [&](const PointValue& value, bool emptyIsZero) {
     if (emptyIsZero || !value.isEmpty) numbers.push_back(value.number);
   };
-  bool bracketed = false;
-  bool open = false;
-  while (const auto value = NextPointValue(values)) {
-    if (value->bracket == Bracket::kOpening) {
-      append(*value, scan.bareBracketIsZero);
-      bracketed = open = true;
-    } else if (value->bracket == Bracket::kClosing) {
-      if (open || scan.readsStrayClose) append(*value, scan.bareBracketIsZero);
-      if (open && scan.stopsAtClose) break;
-      open = false;
-    } else if (open) {
-      append(*value, scan.emptyValueIsZero);
-    }
-  }
-  return bracketed;
+  return ScanPoints([&] { return NextPointValue(values); }, scan, append);
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "kestrin/geometry/pending_points.h"
+#include "kestrin/geometry/point_values.h"
 #include "kestrin/geometry/values.h"
 
 namespace kestrin {
@@ -31,6 +32,28 @@ inline constexpr BracketScan kOutlineScan         {true,  true,  false, true,  t
 inline constexpr BracketScan kKeepoutScan         {true,  true,  true,  false, true };
 inline constexpr BracketScan kPlacementOutlineScan{true,  false, true,  false, true };
 // clang-format on
+
+/// Calls add for each number of a list of points, with the next value and whether an empty one counts as 0.
+/// Returns whether a "[" was found. Each call of next returns a value with its bracket, or nothing at the
+/// end.
+template <class Next, class Add>
+bool ScanPoints(Next next, const BracketScan& scan, Add add) {
+  bool bracketed = false;
+  bool open = false;
+  while (const auto value = next()) {
+    if (value->bracket == Bracket::kOpening) {
+      add(*value, scan.bareBracketIsZero);
+      bracketed = open = true;
+    } else if (value->bracket == Bracket::kClosing) {
+      if (open || scan.readsStrayClose) add(*value, scan.bareBracketIsZero);
+      if (open && scan.stopsAtClose) break;
+      open = false;
+    } else if (open) {
+      add(*value, scan.emptyValueIsZero);
+    }
+  }
+  return bracketed;
+}
 
 /// Reads a list of points from the values of a line and replaces the numbers with it. If there is no "[", the
 /// pending values are appended.

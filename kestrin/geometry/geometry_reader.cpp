@@ -31,21 +31,23 @@ constexpr GeometryRow kRows[] = {
     {"$$create_drawing", kEvery, Any(), kNobody, CreateNamed<&CurrentGeometry::CreateDrawing>},
     {"$$create_test_fixture", kEvery, Any(), kNobody, CreateIgnored},
     {"$$page", kEvery, Any(), To<UnitOfOpen, SetUnit>()},
-    {"$$initial", kEvery, Any(), kNobody, BeginPoints},
-    {"$$terminal", kEvery, Any(), kNobody, ContinuePoints},
-    {"$$add", kEvery, Any(), To<Adds, PlaceGeometry>()},
-    {"$$path", kEvery, Any(), To<DrawObjs, AddPath>(), kConsumesPoints},
-    {"$$arc", kEvery, Any(), To<DrawObjs, AddArc>(), kConsumesPoints},
-    {"$$polygon", kEvery, Any(), To<DrawObjs, AddPolygon>(), kConsumesPoints},
-    {"$$circle", kEvery, Any(), To<DrawObjs, AddCircle>(), kConsumesPoints},
-    {"$$text", kUnquoted, Any(), To<Texts, AddText>()},
-    {"$$template_path_width", kEvery, Any(), kNobody, SetPathWidth},
+    {"$$initial", kEvery, Any(), kNobody, BeginPoints, Reads{{}, InitialPoints}},
+    {"$$terminal", kEvery, Any(), kNobody, ContinuePoints, Reads{{}, TerminalPoints}},
+    {"$$add", kEvery, Any(), To<Adds, PlaceGeometry>(), Reads{".dd.iii"}},
+    {"$$path", kEvery, Any(), To<DrawObjs, AddPath>(), kConsumesPoints,
+     Reads{".r", PointsFrom<3, kPathScan>}},
+    {"$$arc", kEvery, Any(), To<DrawObjs, AddArc>(), kConsumesPoints, Reads{".rrrrrrr"}},
+    {"$$polygon", kEvery, Any(), To<DrawObjs, AddPolygon>(), kConsumesPoints,
+     Reads{{}, PointsFrom<2, kPolygonScan>}},
+    {"$$circle", kEvery, Any(), To<DrawObjs, AddCircle>(), kConsumesPoints, Reads{".rrrr"}},
+    {"$$text", kUnquoted, Any(), To<Texts, AddText>(), Reads{"..ddd.idd..dd"}},
+    {"$$template_path_width", kEvery, Any(), kNobody, SetPathWidth, Reads{{}, PathWidth}},
     GeometryRow("$$internal_name"),
     GeometryRow("$$template_line_style"),
     GeometryRow("$$template_dimension"),
     GeometryRow("$$template_layer"),
     GeometryRow("$$add_dimension"),
-    {"$$attribute", kUnquoted, Any(), kNobody, ReadAttribute, "a name"},
+    {"$$attribute", kUnquoted, Any(), kNobody, ReadAttribute, Reads{}, "a name"},
 };
 constexpr NameTable kCommands(kRows);
 
@@ -61,6 +63,19 @@ LineOutcome OutcomeOfOtherLine(std::string_view line) {
 }
 
 }  // namespace
+
+void GeometryReader::ForEachMisreadNumber(std::string_view /*line*/, const NumberAction& action) {
+  struct CleanedValues {
+    [[nodiscard]] bool HasAtLeast(std::size_t count) const { return values.HasAtLeast(count); }
+    [[nodiscard]] std::size_t Count() const { return values.Count(); }
+    [[nodiscard]] std::string_view Text(std::size_t position) const { return values[position]; }
+    [[nodiscard]] std::string_view Raw(std::size_t position) const { return values.Raw(position); }
+    Values& values;
+  };
+  const auto& row = *static_cast<const GeometryRow*>(state_.rule);  // all rules of lines are rows
+  row.kinds.ForEachMisreadNumber(CleanedValues{state_.values}, action);
+  if (row.numbersInBrackets != nullptr) row.numbersInBrackets(state_, action);
+}
 
 LineOutcome GeometryReader::ReadLine(std::string_view line) {
   const auto [word, arguments] = CutCommandLine(line);

@@ -8,6 +8,7 @@
 #include "kestrin/geometry/geometry_model.h"
 #include "kestrin/geometry/reader_state.h"
 #include "kestrin/text/line_outcome.h"
+#include "kestrin/text/value_kinds.h"
 
 namespace kestrin {
 
@@ -22,6 +23,10 @@ class GeometryReader {
   void NoteLines(LineNotes& notes) { state_.records.NoteLines(notes); }
 
   LineOutcome ReadLine(std::string_view line);
+
+  /// Shows the values that are read as numbers but are not wholly numbers. The line must be the last one
+  /// read, and have been imported.
+  void ForEachMisreadNumber(std::string_view line, const NumberAction& action);
 
  private:
   ReaderState state_;

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "kestrin/geometry/line_numbers.h"
 #include "kestrin/geometry/owners.h"
 #include "kestrin/geometry/reader_state.h"
 #include "kestrin/text/record_table.h"
@@ -39,23 +40,27 @@ enum class Ownerless : std::uint8_t { kKeepsPoints, kConsumesPoints };
 /// A command or an attribute. The first value of an attribute is its name.
 struct GeometryRow : Record<ReaderState, GeometryHandler> {
   constexpr GeometryRow(std::string_view itsName, Commas itsCommas, ValueCount itsValues,
-                        OwnerAndHandler parts, std::string_view otherRequirement)
-      : GeometryRow(itsName, itsCommas, itsValues, parts, Ownerless::kKeepsPoints, otherRequirement) {}
-  constexpr GeometryRow(std::string_view itsName, Commas itsCommas, ValueCount itsValues,
-                        OwnerAndHandler parts, Ownerless itsOwnerless = Ownerless::kKeepsPoints,
+                        OwnerAndHandler parts, Ownerless itsOwnerless, Reads reads = {},
                         std::string_view otherRequirement = {})
-      : Record(itsName, itsValues, parts.owner, parts.read, otherRequirement),
+      : Record(itsName, itsValues, parts.owner, parts.read, reads.values, otherRequirement),
         commas(itsCommas),
-        ownerless(itsOwnerless) {}
+        ownerless(itsOwnerless),
+        numbersInBrackets(reads.inBrackets) {}
+  constexpr GeometryRow(std::string_view itsName, Commas itsCommas, ValueCount itsValues,
+                        OwnerAndHandler parts, Reads reads = {}, std::string_view otherRequirement = {})
+      : GeometryRow(itsName, itsCommas, itsValues, parts, Ownerless::kKeepsPoints, reads, otherRequirement) {}
   /// A row without an owner.
   constexpr GeometryRow(std::string_view itsName, Commas itsCommas, ValueCount itsValues, Nobody itsOwner,
-                        GeometryHandler handler, std::string_view otherRequirement = {})
-      : Record(itsName, itsValues, itsOwner, handler, otherRequirement), commas(itsCommas) {}
+                        GeometryHandler handler, Reads reads = {}, std::string_view otherRequirement = {})
+      : Record(itsName, itsValues, itsOwner, handler, reads.values, otherRequirement),
+        commas(itsCommas),
+        numbersInBrackets(reads.inBrackets) {}
   /// A row whose lines are ignored.
   constexpr explicit GeometryRow(std::string_view itsName) : Record(itsName) {}
 
   Commas commas = Commas::kEvery;  ///< the commas that separate its values
   Ownerless ownerless = Ownerless::kKeepsPoints;
+  ShowNumbers numbersInBrackets = nullptr;  ///< null if none are read
 };
 
 /// Reads a line according to its row. No values may have been cut yet, except for an attribute's name.

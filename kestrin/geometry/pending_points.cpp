@@ -4,27 +4,22 @@
 #include "kestrin/text/trim.h"
 
 namespace kestrin {
-namespace {
 
-/// The text between the first "[" and the first "]". Without a "[", everything before the "]"; without a "]",
-/// or if it comes first, nothing.
-std::string_view Bracketed(std::string_view arguments) {
+std::string_view PendingPoints::BracketedIn(std::string_view arguments) {
   const std::size_t close = arguments.find(']');
   if (close == std::string_view::npos) return {};
   const std::size_t start = arguments.find('[') + 1;  // npos + 1 is 0
   return start < close ? arguments.substr(start, close - start) : std::string_view();
 }
 
-}  // namespace
-
 void PendingPoints::Begin(std::string_view arguments) {
   Clear();
-  AddEach(Bracketed(arguments), [this](std::string_view value) { Add(value); });
+  AddEach(BracketedIn(arguments), [this](std::string_view value) { Add(value); });
 }
 
 void PendingPoints::Continue(std::string_view arguments) {
   // Blanks are removed. A value of blanks only is dropped.
-  AddEach(Bracketed(arguments), [this](std::string_view value) {
+  AddEach(BracketedIn(arguments), [this](std::string_view value) {
     const std::string_view text = WithoutBlanks(value);
     if (!text.empty()) Add(text);
   });

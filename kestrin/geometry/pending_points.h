@@ -35,6 +35,10 @@ class PendingPoints {
     if (number <= values_.size()) target = values_[number - 1].number;
   }
 
+  /// The part of a command's arguments that Begin and Continue read: the text between the first "[" and the
+  /// first "]". Without a "[", everything before the "]"; without a "]", or if it comes first, nothing.
+  [[nodiscard]] static std::string_view BracketedIn(std::string_view arguments);
+
  private:
   template <class AddOther>
   void AddEach(std::string_view points, AddOther addOther);

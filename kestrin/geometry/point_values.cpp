@@ -5,18 +5,17 @@
 
 namespace kestrin {
 
+PointText PointTextOf(std::string_view rawValue) {
+  const std::string_view text = Cleaned(rawValue);
+  if (Contains(text, '[')) return {WithoutLeading(text, '['), Bracket::kOpening};
+  if (Contains(text, ']')) return {WithoutTrailing(text, ']'), Bracket::kClosing};
+  return {text, Bracket::kNone};
+}
+
 std::optional<PointValue> NextAnyPointValue(ValueCut& cut) {
   const auto raw = cut.Next();
   if (!raw) return std::nullopt;
-  std::string_view text = Cleaned(*raw);
-  Bracket bracket = Bracket::kNone;
-  if (Contains(text, '[')) {
-    bracket = Bracket::kOpening;
-    text = WithoutLeading(text, '[');
-  } else if (Contains(text, ']')) {
-    bracket = Bracket::kClosing;
-    text = WithoutTrailing(text, ']');
-  }
+  const auto [text, bracket] = PointTextOf(*raw);
   return PointValue{ToDouble(text), text.empty(), bracket};
 }
 

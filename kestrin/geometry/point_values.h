@@ -47,6 +47,13 @@ struct PointValue {
   return static_cast<std::size_t>(place - text.data());
 }
 
+/// The text of a value, cleaned and without its brackets.
+struct PointText {
+  std::string_view text;
+  Bracket bracket = Bracket::kNone;
+};
+[[nodiscard]] PointText PointTextOf(std::string_view rawValue);
+
 /// The next value of any form, or nothing at the end.
 [[nodiscard]] std::optional<PointValue> NextAnyPointValue(ValueCut& cut);
 

@@ -47,9 +47,9 @@ const NeutralReader::Row* NeutralReader::Find(Keyword keyword) {
       Row("C_PIN"),
       {"NET", Exactly(1), kNetsSection, &Reader::AddNet},
       Row("N_PROP"),
-      {"COMP", Exactly(8), kComponentSection, &Reader::AddComponent},
+      {"COMP", Exactly(8), kComponentSection, &Reader::AddComponent, "....ddii"},
       {"C_PROP", Any(), kCurrentComponent, &Reader::AddProperties},
-      {"P_ADDP", Exactly(8), kNobody, &Reader::AddPlacement},
+      {"P_ADDP", Exactly(8), kNobody, &Reader::AddPlacement, "...ddiii"},
       {"BOARD", Exactly(6), kBoardSection, &Reader::SetBoard},
       {"B_UNITS", Exactly(1), kNobody, &Reader::SetUnits},
       Row("N_VIA"),
@@ -81,6 +81,12 @@ LineOutcome NeutralReader::ReadLine(std::string_view line) {
   values_.Begin(rest_);
   if (!row->values.AcceptsValuesOf(values_)) return SkipForValueCount(*row);
   return owner == OwnerState::kThere ? (this->*row->read)() : LineOutcome::NoOwner(*row);
+}
+
+void NeutralReader::ForEachMisreadNumber(std::string_view line, const NumberAction& action) {
+  std::size_t position = 0;
+  const Row* row = Find(Keyword(NextToken(line, ' ', position).value_or(std::string_view())));
+  if (row != nullptr) row->kinds.ForEachMisreadNumber(ValuesFrom(values_, 0), action);
 }
 
 LineOutcome NeutralReader::SkipForValueCount(const Row& row) {

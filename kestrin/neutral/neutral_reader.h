@@ -37,6 +37,10 @@ class NeutralReader {
 
   LineOutcome ReadLine(std::string_view line);
 
+  /// Shows the values that are read as numbers but are not wholly numbers. The line must be the last one
+  /// read, and have been imported.
+  void ForEachMisreadNumber(std::string_view line, const NumberAction& action);
+
  private:
   using Row = Record<NeutralReader, LineOutcome (NeutralReader::*)()>;
   static const Row* Find(Keyword keyword);

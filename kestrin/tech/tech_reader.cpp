@@ -2,13 +2,13 @@
 
 #include <cstdint>
 #include <utility>
+#include <vector>
 
 #include "kestrin/base/numbers.h"
 #include "kestrin/records/append.h"
 #include "kestrin/text/comment.h"
 #include "kestrin/text/contains.h"
 #include "kestrin/text/fields.h"
-#include "kestrin/text/record_table.h"
 #include "kestrin/text/trim.h"
 
 namespace kestrin {
@@ -24,16 +24,21 @@ std::string_view ArgumentText(std::string_view line) {
 
 }  // namespace
 
-LineOutcome TechReader::ReadLine(std::string_view line) {
-  using Command = Record<TechReader, LineOutcome (TechReader::*)(std::string_view line)>;
+/// The row of the command that the line contains; null if there is none.
+const TechReader::Command* TechReader::Find(std::string_view line) {
   static constexpr Command kCommands[] = {
       // if a line contains several keywords, the first row wins
-      {"$$define_physical_layer", Any(), kNobody, &TechReader::AddLayer},
+      {"$$define_physical_layer", Any(), kNobody, &TechReader::AddLayer, "i"},
       {"$$define_rule_via", Any(), kNobody, &TechReader::AddViaRule},
   };
   for (const Command& command : kCommands) {
-    if (Contains(line, command.name)) return (this->*command.read)(line);
+    if (Contains(line, command.name)) return &command;
   }
+  return nullptr;
+}
+
+LineOutcome TechReader::ReadLine(std::string_view line) {
+  if (const Command* command = Find(line)) return (this->*command->read)(line);
   return IsBlankOrComment(line) ? LineOutcome::Ignored() : LineOutcome::Skipped(SkipCode::kUnknownRecord);
 }
 
@@ -61,6 +66,21 @@ LineOutcome TechReader::AddViaRule(std::string_view line) {
   });
   Append(*model_.m_pViaArray, std::move(via));
   return LineOutcome::Imported();
+}
+
+void TechReader::ForEachMisreadNumber(std::string_view line, const NumberAction& action) {
+  struct Arguments {
+    [[nodiscard]] bool HasAtLeast(std::size_t count) const { return texts.size() >= count; }
+    [[nodiscard]] std::size_t Count() const { return texts.size(); }
+    [[nodiscard]] std::string_view Text(std::size_t position) const { return texts[position - 1]; }
+    std::vector<std::string_view> texts;
+  };
+  const Command* command = Find(line);
+  if (command == nullptr || command->kinds.AreNone()) return;
+  Arguments arguments;
+  ForEachArgument(line,
+                  [&](std::int64_t, std::string_view argument) { arguments.texts.push_back(argument); });
+  command->kinds.ForEachMisreadNumber(arguments, action);
 }
 
 template <class Visit>

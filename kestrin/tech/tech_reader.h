@@ -9,6 +9,7 @@
 #include "kestrin/records/record_pool.h"
 #include "kestrin/tech/tech_model.h"
 #include "kestrin/text/line_outcome.h"
+#include "kestrin/text/record_table.h"
 
 namespace kestrin {
 
@@ -24,7 +25,12 @@ class TechReader {
 
   LineOutcome ReadLine(std::string_view line);
 
+  /// Shows the values that are read as numbers but are not wholly numbers, if the line is imported.
+  void ForEachMisreadNumber(std::string_view line, const NumberAction& action);
+
  private:
+  using Command = Record<TechReader, LineOutcome (TechReader::*)(std::string_view line)>;
+  static const Command* Find(std::string_view line);
   LineOutcome AddLayer(std::string_view line);
   LineOutcome AddViaRule(std::string_view line);
   /// Calls visit with the number of each argument, from 1, and its text.

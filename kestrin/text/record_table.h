@@ -2,14 +2,15 @@
 
 /// @file
 /// The rows of a reader's table. A row says everything about a record: its keyword, how many values it takes,
-/// which record it belongs to, and the handler that reads it.
+/// which record it belongs to, the handler that reads it, and which values it reads as numbers.
 ///
-///     {"N_PIN", AtLeast(5), kCurrentNet, &NeutralReader::AddPin},
+///     {"COMP", Exactly(8), kComponentSection, &NeutralReader::AddComponent, "....ddii"},
 
 #include <cstdint>
 #include <string_view>
 
 #include "kestrin/text/value_count.h"
+#include "kestrin/text/value_kinds.h"
 
 namespace kestrin {
 
@@ -45,13 +46,15 @@ struct Nobody {
 };
 inline constexpr Nobody kNobody;
 
-/// A row: a record's keyword, number of values, owner and handler.
+/// A row: a record's keyword, number of values, owner and handler, and which values the handler reads as
+/// numbers.
 template <class Reader, class Handler>
 struct Record : RecordRule {
   constexpr Record(std::string_view itsName, ValueCount itsValues, Owner<Reader> itsOwner, Handler handler,
-                   std::string_view otherRequirement = {})
+                   ValueKinds itsKinds = {}, std::string_view otherRequirement = {})
       : RecordRule{itsName, itsValues, itsOwner.requirement, otherRequirement},
         read(handler),
+        kinds(itsKinds),
         findOwner_(itsOwner.find) {}
   /// A record that has nothing for the model. Its lines are ignored.
   constexpr explicit Record(std::string_view itsName) : Record(itsName, Any(), kNobody, nullptr) {}
@@ -61,6 +64,7 @@ struct Record : RecordRule {
   }
 
   Handler read;  ///< null if the record has nothing for the model
+  ValueKinds kinds;
 
  private:
   OwnerState (*findOwner_)(const Reader& reader);

@@ -38,6 +38,7 @@ OwnerState OwnerAt(const void* owner) { return owner == nullptr ? OwnerState::kM
 const TracesReader::Row* TracesReader::Find(Keyword code) {
   using Reader = TracesReader;
   using Owner = kestrin::Owner<Reader>;
+  using Form = ValueKinds::Form;
   constexpr Owner kNet{"a net header before it", [](const Reader& reader) { return OwnerAt(reader.net_); }};
   constexpr Owner kFill{"a FIL, ARE or ARS before it and after the last net header",
                         [](const Reader& reader) { return OwnerAt(reader.fill_); }};
@@ -45,17 +46,31 @@ const TracesReader::Row* TracesReader::Find(Keyword code) {
                             [](const Reader& reader) { return OwnerAt(reader.segments_); }};
   constexpr Owner kVertices{"a FIL, ARE, ARS, ISL or ISS before it",
                             [](const Reader& reader) { return OwnerAt(reader.vertices_); }};
+  static constexpr const char* kWire = "idddd";
+  static constexpr const char* kIncomplete = "iddiddt";
+  constexpr ValueKinds kArea(Form{Exactly(6), "...idi"}, Form{Exactly(8), "...idi.i"},
+                             Form{Exactly(13), "...idi.iidd.i"});
+  constexpr ValueKinds kFillHeader(Form{Exactly(16), "...iiiiidiii"}, Form{Exactly(21), "...iiiiidiii.iidd"});
   static constexpr Row kRows[] = {
       // the most frequent first
-      {"VER", AtLeast(2), kVertices, &Reader::AddVer},   {"SEG", AtLeast(1), kSegments, &Reader::AddSeg},
-      {"WIR", AtLeast(1), kNet, &Reader::AddWir},        {"ISL", AtLeast(1), kFill, &Reader::AddIsl},
-      {"ISS", AtLeast(1), kFill, &Reader::AddIss},       {"ARE", AtLeast(1), kNobody, &Reader::AddAre},
-      {"ARS", AtLeast(1), kNobody, &Reader::AddArs},     {"FIL", AtLeast(1), kNobody, &Reader::AddFil},
-      {"TTI", OneOf(3, 7), kFill, &Reader::AddTti},      {"INC", Exactly(7), kNet, &Reader::AddInc},
-      {"ANT", OneOf(5, 7), kNet, &Reader::AddAnt},       {"GUI", AtLeast(6), kNet, &Reader::AddGui},
-      {"CHG", AtLeast(6), kNet, &Reader::AddChg},        {"XRF", AtLeast(2), kNobody, &Reader::AddXrf},
-      {"TET", AtLeast(5), kNobody, &Reader::AddTet},     {"TTT", AtLeast(5), kNobody, &Reader::AddTtt},
-      {"UNITS", AtLeast(1), kNobody, &Reader::SetUnits}, {"ST", OneOf(4, 6, 8), kNobody, &Reader::SetSt},
+      {"VER", AtLeast(2), kVertices, &Reader::AddVer, "dd"},
+      {"SEG", AtLeast(1), kSegments, &Reader::AddSeg, "ddi"},  // value 4 may be a name
+      {"WIR", AtLeast(1), kNet, &Reader::AddWir, {{AtLeast(5), kWire}}},
+      {"ISL", AtLeast(1), kFill, &Reader::AddIsl, "i"},
+      {"ISS", AtLeast(1), kFill, &Reader::AddIss, "i"},
+      {"ARE", AtLeast(1), kNobody, &Reader::AddAre, kArea},
+      {"ARS", AtLeast(1), kNobody, &Reader::AddArs, kArea},
+      {"FIL", AtLeast(1), kNobody, &Reader::AddFil, kFillHeader},
+      {"TTI", OneOf(3, 7), kFill, &Reader::AddTti, {{Exactly(3), "dd"}, {Exactly(7), "dd.iddi"}}},
+      {"INC", Exactly(7), kNet, &Reader::AddInc, kIncomplete},
+      {"ANT", OneOf(5, 7), kNet, &Reader::AddAnt, {{Exactly(5), kWire}, {Exactly(7), kIncomplete}}},
+      {"GUI", AtLeast(6), kNet, &Reader::AddGui, "ddiddi"},
+      {"CHG", AtLeast(6), kNet, &Reader::AddChg, "ddiddi"},
+      {"XRF", AtLeast(2), kNobody, &Reader::AddXrf, "i"},
+      {"TET", AtLeast(5), kNobody, &Reader::AddTet, "i.ddd"},
+      {"TTT", AtLeast(5), kNobody, &Reader::AddTtt, "idiii"},
+      {"UNITS", AtLeast(1), kNobody, &Reader::SetUnits},
+      {"ST", OneOf(4, 6, 8), kNobody, &Reader::SetSt, {{Exactly(4), "ddii"}, {OneOf(6, 8), "iiiiii"}}},
   };
   static constexpr KeywordTable kTable(kRows);
   return kTable.Find(code);
@@ -68,6 +83,11 @@ LineOutcome TracesReader::ReadLine(std::string_view line) {
   const LineOutcome outcome = beginsQuoted ? SkipQuoted(line) : ReadRecord(line);
   values_.Finish();
   return outcome;
+}
+
+void TracesReader::ForEachMisreadNumber(std::string_view /*line*/, const NumberAction& action) {
+  const Row* row = Find(Keyword(values_.Text(0)));
+  if (row != nullptr) row->kinds.ForEachMisreadNumber(ValuesFrom(values_, 1), action);
 }
 
 LineOutcome TracesReader::ReadRecord(std::string_view line) {

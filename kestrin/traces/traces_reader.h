@@ -28,6 +28,10 @@ class TracesReader {
   /// Raises CInvalidArgException if the line has too few values for its record. The model is then unchanged.
   LineOutcome ReadLine(std::string_view line);
 
+  /// Shows the values that are read as numbers but are not wholly numbers. The line must be the last one
+  /// read, and have been imported.
+  void ForEachMisreadNumber(std::string_view line, const NumberAction& action);
+
  private:
   using Row = Record<TracesReader, LineOutcome (TracesReader::*)()>;
   static const Row* Find(Keyword code);

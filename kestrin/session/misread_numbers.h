@@ -1,0 +1,35 @@
+#pragma once
+
+/// @file
+/// Values that an import reads as numbers although they are not wholly numbers, such as "22,5".
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "kestrin/session/import_report.h"
+
+namespace kestrin {
+
+/// A value that is read as a number, but is not a number from its beginning to its end: "22,5" is read as
+/// 22, "abc" as 0, and "22.5" as 22 where a whole number is read.
+struct MisreadNumber {
+  ImportFile file = ImportFile::kTech;
+  std::int64_t line = 0;   ///< counted from 1
+  int value = 0;           ///< the position of the value in its line, counted from 1 as the file formats do
+  std::string text;        ///< the value, at most its first FileReport::kKeptBytes bytes
+  bool asInteger = false;  ///< whether a whole number is read
+};
+
+/// Finds such values in the lines that an import of the file takes, in file order. Returns the first ones, at
+/// most as many as wanted, and sets the count of all of them. Values that may be text as well are left out,
+/// and so are empty ones, and those that are first cut in a way of their own (BOARD, REFLOC).
+///
+/// Reads the file once more, with a reader and a model of its own, so the import itself is as fast as
+/// without. A file that cannot be opened has none. A line that stops an import ends the search. Raises
+/// CFileException on a read error.
+[[nodiscard]] std::vector<MisreadNumber> FindMisreadNumbers(ImportFile file, const char* path,
+                                                            std::size_t most, std::size_t& count);
+
+}  // namespace kestrin
