@@ -225,6 +225,9 @@ TEST(FindingsTest, FindFaultsOfUnitsAndFiles) {
       {{{kGeometry, "(V)\n$$page(0, 0, @mm)", "(V)\n$$page(0, 0, @foot)"}}, "unknown-unit G14\n"},
       {{{kGeometry, "(V)\n$$page(0, 0, @mm)", "(V)\n$$page(0, 0)"}}, ""},
       {{{kGeometry, "(V)\n$$page(0, 0, @mm)", "(V)\n$$page(0, 0, @mil)"}}, "unit-mismatch N2 G14\n"},
+      {{{kNeutral, "10 10 1 0", "10 10 1 0x"}}, "not-a-number N11\n"},
+      {{{kNeutral, "10 10 1 0", "10,0 10 1 0"}}, "not-a-number N11\n"},
+      {{{kNeutral, "20 10 1 90", "20 10 1 90.5"}}, "not-a-number N12\n"},
       {{{kTraces, "VER 26 2\n", "VER 26 2"}}, "no-final-newline T15\n"},
   });
 }

@@ -7,6 +7,7 @@
 #include "kestrin/framework/stdio_file.h"
 #include "kestrin/geometry/command_line.h"
 #include "kestrin/geometry/page_unit.h"
+#include "kestrin/session/misread_numbers.h"
 
 namespace kestrin {
 namespace {
@@ -47,6 +48,17 @@ void CheckEnd(ImportFile file, const FileReport& report, Collector& findings) {
   });
 }
 
+void CheckNumbers(ImportFile file, const FileReport& report, Collector& findings) {
+  std::size_t count = 0;
+  std::vector<Finding> first;
+  for (const MisreadNumber& number : FindMisreadNumbers(file, report.path.c_str(), Findings::kKept, count)) {
+    first.push_back({.message = "value " + std::to_string(number.value) + " is " + Quoted(number.text) +
+                                ", which is not a " + (number.asInteger ? "whole number" : "number"),
+                     .at = {{file, number.line}}});
+  }
+  findings.AddAll(FindingCode::kNotANumber, std::move(first), count);
+}
+
 /// The models do not tell unknown units of geometries from missing ones.
 void CheckPages(const FileReport& report, Collector& findings) {
   CStdioFile file;
@@ -75,6 +87,7 @@ void CheckFiles(const CheckedSet& set, const Board& /*board*/, Collector& findin
     if (report.end == ReadingEnd::kNotRead || report.end == ReadingEnd::kNotOpened) continue;
     CheckKind(file, report, findings);
     CheckEnd(file, report, findings);
+    CheckNumbers(file, report, findings);
     if (file == ImportFile::kGeometry) CheckPages(report, findings);
   }
 }
