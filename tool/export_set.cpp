@@ -116,7 +116,8 @@ void ExportSet::Open() {
     any = true;
     if (paths_[i] == "-" && std::exchange(usesStandardInput, true))
       throw UsageError("only one file can be standard input (-)");
-    if (!IsRegularFile(paths_[i])) copies_[i] = std::make_shared<const TemporaryCopy>(paths_[i]);
+    if (copies_[i] == nullptr && !IsRegularFile(paths_[i]))
+      copies_[i] = std::make_shared<const TemporaryCopy>(paths_[i]);
   }
   if (!any) throw UsageError("no file to read; name a folder, files, or - with an option such as --traces");
   if (strict_ && !Has(ImportFile::kTraces)) {

@@ -64,7 +64,7 @@ class ExportSet {
 
   /// Makes the files readable: copies standard input and pipes to temporary files, since an import reads its
   /// files more than once. Raises UsageError unless there is at least one file and each can be opened. Strict
-  /// reading also requires a Traces file.
+  /// reading also requires a Traces file. Does nothing the second time.
   void Open();
 
  private:

@@ -12,6 +12,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,6 +20,7 @@
 #include "kestrin/base/export.h"
 #include "kestrin/board/read_board.h"
 #include "kestrin/session/import_report.h"
+#include "kestrin/session/misread_numbers.h"
 
 namespace kestrin {
 
@@ -150,6 +152,8 @@ struct CheckedSet {
   BoardModels models;
   std::array<const SourceLines*, kImportFileCount> lines{};  ///< by ImportFile; without them, lines are 0
   const ImportReport* report = nullptr;  ///< without it, only the models are checked, not the files
+  /// By ImportFile: what another thread may have found during the import. What is missing is looked for.
+  std::array<std::optional<MisreadNumbers>, kImportFileCount> misread;
 };
 
 /// The models, lines and report of a session. They must outlive the result.

@@ -17,13 +17,11 @@ namespace {
 /// Keeps the first of the values and counts all.
 class Search {
  public:
-  Search(ImportFile file, std::size_t most, std::size_t& count) : file_(file), most_(most), count_(count) {
-    count_ = 0;
-  }
+  Search(ImportFile file, std::size_t most) : file_(file), most_(most) {}
 
   /// Reads the lines as an import does, which alone knows what becomes of each.
   template <class Reader>
-  std::vector<MisreadNumber> In(CStdioFile& lines, Reader reader) {
+  MisreadNumbers In(CStdioFile& lines, Reader reader) {
     std::int64_t number = 0;
     const NumberAction add = [&](int position, std::string_view text, NumberKind kind) {
       Add(number, position, text, kind);
@@ -41,24 +39,22 @@ class Search {
 
  private:
   void Add(std::int64_t line, int position, std::string_view text, NumberKind kind) {
-    if (count_++ >= most_) return;
-    found_.push_back({file_, line, position, std::string(text.substr(0, FileReport::kKeptBytes)),
-                      kind != NumberKind::kDecimal});
+    if (found_.count++ >= most_) return;
+    found_.first.push_back({file_, line, position, std::string(text.substr(0, FileReport::kKeptBytes)),
+                            kind != NumberKind::kDecimal});
   }
 
   ImportFile file_;
   std::size_t most_;
-  std::size_t& count_;
-  std::vector<MisreadNumber> found_;
+  MisreadNumbers found_;
 };
 
 }  // namespace
 
-std::vector<MisreadNumber> FindMisreadNumbers(ImportFile file, const char* path, std::size_t most,
-                                              std::size_t& count) {
-  Search search(file, most, count);
+MisreadNumbers FindMisreadNumbers(ImportFile file, const std::string& path, std::size_t most) {
+  Search search(file, most);
   CStdioFile lines;
-  if (lines.Open(path) == 0) return {};
+  if (lines.Open(path.c_str()) == 0) return {};
   switch (file) {
     case ImportFile::kTech: {
       CMTech tech;

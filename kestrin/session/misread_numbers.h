@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "kestrin/base/export.h"
 #include "kestrin/session/import_report.h"
 
 namespace kestrin {
@@ -22,14 +23,20 @@ struct MisreadNumber {
   bool asInteger = false;  ///< whether a whole number is read
 };
 
-/// Finds such values in the lines that an import of the file takes, in file order. Returns the first ones, at
-/// most as many as wanted, and sets the count of all of them. Values that may be text as well are left out,
-/// and so are empty ones, and those that are first cut in a way of their own (BOARD, REFLOC).
+/// The values of a file that are misread.
+struct MisreadNumbers {
+  std::vector<MisreadNumber> first;  ///< the first of them, in file order
+  std::size_t count = 0;             ///< how many there are
+};
+
+/// Finds such values in the lines that an import of the file takes. Keeps at most as many as wanted. Values
+/// that may be text as well are left out, and so are empty ones, and those that are first cut in a way of
+/// their own (BOARD, REFLOC).
 ///
 /// Reads the file once more, with a reader and a model of its own, so the import itself is as fast as
-/// without. A file that cannot be opened has none. A line that stops an import ends the search. Raises
-/// CFileException on a read error.
-[[nodiscard]] std::vector<MisreadNumber> FindMisreadNumbers(ImportFile file, const char* path,
-                                                            std::size_t most, std::size_t& count);
+/// without. It may run in another thread than the import. A file that cannot be opened has none. A line that
+/// stops an import ends the search. Raises CFileException on a read error.
+[[nodiscard]] KESTRIN_EXPORT MisreadNumbers FindMisreadNumbers(ImportFile file, const std::string& path,
+                                                               std::size_t most);
 
 }  // namespace kestrin

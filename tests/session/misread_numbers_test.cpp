@@ -25,15 +25,14 @@ std::string Described(const std::vector<MisreadNumber>& found) {
   return text;
 }
 
-class MisreadNumbers : public testing::Test {
+class MisreadNumbersTest : public testing::Test {
  protected:
   /// What is misread, as in "2/3 d[22,5]": line 2, value 3, as a decimal number.
   [[nodiscard]] std::string In(ImportFile file, const std::string& text) const {
-    std::size_t count = 0;
-    const auto found = FindMisreadNumbers(file, folder_.File("file", text).c_str(), 100, count);
-    EXPECT_EQ(count, found.size());
-    EXPECT_TRUE(found.empty() || found[0].file == file);
-    return Described(found);
+    const auto found = FindMisreadNumbers(file, folder_.File("file", text), 100);
+    EXPECT_EQ(found.count, found.first.size());
+    EXPECT_TRUE(found.first.empty() || found.first[0].file == file);
+    return Described(found.first);
   }
 
   struct Case {
@@ -47,7 +46,7 @@ class MisreadNumbers : public testing::Test {
   test::TemporaryFolder folder_;
 };
 
-TEST_F(MisreadNumbers, OfATechFile) {
+TEST_F(MisreadNumbersTest, OfATechFile) {
   ExpectEach(kTech, "",
              {{"$$define_physical_layer(2, \"TOP\", X);", ""},
               {"$$define_physical_layer( \"2.0\" , 22,5);", ""},
@@ -57,7 +56,7 @@ TEST_F(MisreadNumbers, OfATechFile) {
               {"$$define_rule_via(x, 22,5);\nx", ""}});
 }
 
-TEST_F(MisreadNumbers, OfANeutralFile) {
+TEST_F(MisreadNumbersTest, OfANeutralFile) {
   const std::string sections = "###Nets\n###Component\n";
   ExpectEach(kNeutral, sections,
              {{"COMP R_1 P S 22,5 1.5 -2e1 1 90", ""},
@@ -71,7 +70,7 @@ TEST_F(MisreadNumbers, OfANeutralFile) {
               {"###Board Information\nBOARD B r X:x Y:y z w", ""}});
 }
 
-TEST_F(MisreadNumbers, OfAGeometryFileInValues) {
+TEST_F(MisreadNumbersTest, OfAGeometryFileInValues) {
   ExpectEach(
       kGeometry, "$$create_component(C);\n",
       {{"$$path(L, 0,2, [1, 2]);\n$$path(L, 0.2 , [1, 2]);", ""},
@@ -91,7 +90,7 @@ TEST_F(MisreadNumbers, OfAGeometryFileInValues) {
        {"$$create_stackup(S);\n$$attribute(\"LAYER_DEFINITION\", x, [y]);", ""}});
 }
 
-TEST_F(MisreadNumbers, OfAGeometryFileInBrackets) {
+TEST_F(MisreadNumbersTest, OfAGeometryFileInBrackets) {
   const auto attribute = [](const std::string& name, const std::string& values) {
     return "$$attribute(\"" + name + "\", " + values + ");\n";
   };
@@ -117,7 +116,7 @@ TEST_F(MisreadNumbers, OfAGeometryFileInBrackets) {
               {attribute("COMPONENT_HEIGHT", "[x]"), ""}});
 }
 
-TEST_F(MisreadNumbers, OfATracesFile) {
+TEST_F(MisreadNumbersTest, OfATracesFile) {
   ExpectEach(
       kTraces, "# NET 'A'\nWIR 1 2 3 4 5\nFIL a b\n",
       {{"VER 1,5 2\nVER 1.5 -2e1 x", "4/1 d[1,5]"},
@@ -140,17 +139,15 @@ TEST_F(MisreadNumbers, OfATracesFile) {
   EXPECT_EQ(In(kTraces, "SEG x\nVER x y\nISL x\n"), "");
 }
 
-TEST_F(MisreadNumbers, TheFirstAreKeptAndAllAreCounted) {
+TEST_F(MisreadNumbersTest, TheFirstAreKeptAndAllAreCounted) {
   const std::string path = folder_.File("t", "XRF a b\r\nXRF " + std::string(300, 'x') + " b\r\nXRF c b\r\n");
-  std::size_t count = 7;
-  const auto found = FindMisreadNumbers(kTraces, path.c_str(), 2, count);
-  EXPECT_EQ(count, 3U);
-  EXPECT_EQ(Described(found), "1/1 i[a] 2/1 i[" + std::string(200, 'x') + "]");
-  EXPECT_TRUE(FindMisreadNumbers(kTraces, folder_.Path("missing").c_str(), 2, count).empty());
-  EXPECT_EQ(count, 0U);
+  const auto found = FindMisreadNumbers(kTraces, path, 2);
+  EXPECT_EQ(found.count, 3U);
+  EXPECT_EQ(Described(found.first), "1/1 i[a] 2/1 i[" + std::string(200, 'x') + "]");
+  EXPECT_EQ(FindMisreadNumbers(kTraces, folder_.Path("missing"), 2).count, 0U);
 }
 
-TEST_F(MisreadNumbers, GoodFilesHaveNone) {
+TEST_F(MisreadNumbersTest, GoodFilesHaveNone) {
   ASSERT_TRUE(test::GenerateBoard(folder_.Path(), 20'000));
   const ImportFile files[] = {kTech, kNeutral, kGeometry, kTraces};
   for (std::size_t i = 0; i < kImportFileCount; ++i) {
@@ -159,9 +156,7 @@ TEST_F(MisreadNumbers, GoodFilesHaveNone) {
     ASSERT_TRUE(test::WriteGenerated(generated, folder_.Path(kind), 300'000));
     for (const std::string& path :
          {test::BoardFile(kind), folder_.Path("board." + kind), folder_.Path(kind)}) {
-      std::size_t count = 0;
-      EXPECT_EQ(Described(FindMisreadNumbers(files[i], path.c_str(), 5, count)), "") << path;
-      EXPECT_EQ(count, 0U);
+      EXPECT_EQ(Described(FindMisreadNumbers(files[i], path, 5).first), "") << path;
     }
   }
 }

@@ -43,8 +43,10 @@ void CheckVias(const CheckedSet& set, const Board& board, Collector& findings) {
   for (const auto& [name, isUsed] : known) {
     if (isUsed) matches.Match();
   }
-  for (const auto& [name, via] : unknown) {
+  for (const auto& entry : unknown) {
     matches.Miss([&] {
+      const std::string& name = entry.first;
+      const UnknownVia& via = entry.second;
       return Finding{.message = Quoted(name) + " is neither a width nor a via; " + std::to_string(via.count) +
                                 (via.count == 1 ? " point of a track names it" : " points of tracks name it"),
                      .at = {findings.PlaceOf(ImportFile::kTraces, via.first)}};
@@ -77,11 +79,11 @@ void CheckReading(const CheckedSet& /*set*/, const Board& board, Collector& find
   if (reading.isConfirmed || reading.pinsCounted < kEnoughToTell) return;
   findings.Add(FindingCode::kUnconfirmedReading, [&] {
     const bool fits = reading.pinsTouching >= reading.pinsCounted - reading.pinsTouching;
-    return Finding{.message = "the placement of components is a guess: " +
-                              std::to_string(reading.pinsTouching) + " of " +
-                              std::to_string(reading.pinsCounted) + " pins touch copper of their net" +
-                              (fits ? ", and another reading fits as well" : ""),
-                   .at = {{ImportFile::kNeutral}, {ImportFile::kTraces}}};
+    return Finding{
+        .message = "the placement of components is a guess: " + std::to_string(reading.pinsTouching) +
+                   " of " + std::to_string(reading.pinsCounted) + " pins touch copper of their net" +
+                   (fits ? ", and another reading fits as well" : ""),
+        .at = {{ImportFile::kNeutral}, {ImportFile::kTraces}}};
   });
 }
 

@@ -48,15 +48,17 @@ void CheckEnd(ImportFile file, const FileReport& report, Collector& findings) {
   });
 }
 
-void CheckNumbers(ImportFile file, const FileReport& report, Collector& findings) {
-  std::size_t count = 0;
+void CheckNumbers(ImportFile file, const CheckedSet& set, Collector& findings) {
+  const auto& given = set.misread[static_cast<std::size_t>(file)];
+  const MisreadNumbers misread =
+      given ? *given : FindMisreadNumbers(file, set.report->Of(file).path, Findings::kKept);
   std::vector<Finding> first;
-  for (const MisreadNumber& number : FindMisreadNumbers(file, report.path.c_str(), Findings::kKept, count)) {
+  for (const MisreadNumber& number : misread.first) {
     first.push_back({.message = "value " + std::to_string(number.value) + " is " + Quoted(number.text) +
                                 ", which is not a " + (number.asInteger ? "whole number" : "number"),
                      .at = {{file, number.line}}});
   }
-  findings.AddAll(FindingCode::kNotANumber, std::move(first), count);
+  findings.AddAll(FindingCode::kNotANumber, std::move(first), misread.count);
 }
 
 /// The models do not tell unknown units of geometries from missing ones.
@@ -87,7 +89,7 @@ void CheckFiles(const CheckedSet& set, const Board& /*board*/, Collector& findin
     if (report.end == ReadingEnd::kNotRead || report.end == ReadingEnd::kNotOpened) continue;
     CheckKind(file, report, findings);
     CheckEnd(file, report, findings);
-    CheckNumbers(file, report, findings);
+    CheckNumbers(file, set, findings);
     if (file == ImportFile::kGeometry) CheckPages(report, findings);
   }
 }

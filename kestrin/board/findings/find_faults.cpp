@@ -30,7 +30,9 @@ constexpr Check kChecks[] = {
 }  // namespace
 
 CheckedSet CheckedSetOf(const CPC_KESTRIN_GET& session) {
-  CheckedSet set{.models = ModelsOf(session), .report = &session.GetReport()};
+  CheckedSet set;
+  set.models = ModelsOf(session);
+  set.report = &session.GetReport();
   for (std::size_t i = 0; i < kImportFileCount; ++i) {
     set.lines[i] = session.GetSourceLines(static_cast<ImportFile>(i));
   }

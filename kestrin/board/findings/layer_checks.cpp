@@ -99,12 +99,12 @@ void CheckNamesOfLayers(const CheckedSet& set, const Board& /*board*/, Collector
   if (set.models.tech == nullptr) return;
   std::map<std::string, const CMTechStackUpOrder*> seen;
   const auto check = [&](const std::string& layer, const CMTechStackUpOrder& record) {
-    const auto [first, isNew] = seen.emplace(layer, &record);
-    if (isNew || first->second == &record) return;
+    const CMTechStackUpOrder* const first = seen.emplace(layer, &record).first->second;
+    if (first == &record) return;
     findings.Add(FindingCode::kDuplicateLayer, [&] {
-      return Finding{.message = "physical layer " + layer + " is there more than once",
-                     .at = {findings.PlaceOf(ImportFile::kTech, &record),
-                            findings.PlaceOf(ImportFile::kTech, first->second)}};
+      return Finding{
+          .message = "physical layer " + layer + " is there more than once",
+          .at = {findings.PlaceOf(ImportFile::kTech, &record), findings.PlaceOf(ImportFile::kTech, first)}};
     });
   };
   ForEachRecord(set.models.tech->m_pStackupArray, [&](const CMTechStackUpOrder& record, Index) {
