@@ -26,10 +26,8 @@ class ModelBuilder {
   template <class Owner, class Record>
   using ListOf = RecordArray<Record>* Owner::*;
 
-  /// Notes the lines of records if there is an object for them, which must outlive this one.
-  explicit ModelBuilder(SourceLines* lines) {
-    if (lines != nullptr) records_.NoteLines(notes_.emplace(*lines, line_));
-  }
+  /// Notes the lines of records; to be called first. The lines must outlive this object.
+  void NoteLines(SourceLines& lines) { records_.NoteLines(notes_.emplace(lines, line_)); }
 
   /// The next call is about the record that begins on this line.
   [[nodiscard]] ModelBuilder& At(std::int64_t line) {

@@ -30,8 +30,8 @@ ParseResult ParseTokens(TracesScanner& scanner, ModelBuilder& model, const Error
 
 StrictParse TracesParser::Parse(const ErrorListener& listener, bool keepsSourceLines) {
   StrictParse parse;
-  auto lines = keepsSourceLines ? std::make_unique<SourceLines>() : nullptr;
-  ModelBuilder model(lines.get());
+  std::unique_ptr<SourceLines> lines;
+  ModelBuilder model;
   // Moved back at the end, unless an exception left it in an undefined state.
   std::unique_ptr<TracesScanner> scanner = std::move(scanner_);
   const auto keep = [&](const SyntaxError& error) {
@@ -39,6 +39,7 @@ StrictParse TracesParser::Parse(const ErrorListener& listener, bool keepsSourceL
     parse.errors.push_back(error);
   };
   try {
+    if (keepsSourceLines) model.NoteLines(*(lines = std::make_unique<SourceLines>()));
     if (scanner == nullptr) scanner = std::make_unique<TracesScanner>(std::ref(source_));
     parse.result = ParseTokens(*scanner, model, keep);
     if (!parse.errors.empty()) parse.error = ErrorText(parse.errors.back());
