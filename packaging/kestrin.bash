@@ -10,20 +10,27 @@ _kestrin() {
     --format) mapfile -t COMPREPLY < <(compgen -W 'text json' -- "$word"); return ;;
     --rotation | --bottom) mapfile -t COMPREPLY < <(compgen -W 'ccw cw' -- "$word"); return ;;
     --bottom-turn) mapfile -t COMPREPLY < <(compgen -W '0 180' -- "$word"); return ;;
-    --width-step) return ;;
+    --width-step | --width | --box | --net | --layers) return ;;
+    --view) mapfile -t COMPREPLY < <(compgen -W 'layers top bottom' -- "$word"); return ;;
+    --theme) mapfile -t COMPREPLY < <(compgen -W 'dark print' -- "$word"); return ;;
+    -o | --output) ;;
     *)
       if [ "$COMP_CWORD" = 1 ]; then
-        mapfile -t COMPREPLY < <(compgen -W 'summary check board diff dump help --help --version' -- "$word")
+        mapfile -t COMPREPLY < <(compgen -W 'summary check board draw diff dump help --help --version' -- "$word")
         return
       fi
       case ${COMP_WORDS[1]} in
-        help) mapfile -t COMPREPLY < <(compgen -W 'summary check board diff dump' -- "$word"); return ;;
+        help) mapfile -t COMPREPLY < <(compgen -W 'summary check board draw diff dump' -- "$word"); return ;;
         diff) mapfile -t COMPREPLY < <(compgen -W '--format --all --encoding --help' -- "$word") ;;
         dump) mapfile -t COMPREPLY < <(compgen -W "$files --strict --help" -- "$word") ;;
         summary) mapfile -t COMPREPLY < <(compgen -W "$files --strict --encoding --help" -- "$word") ;;
         board)
           mapfile -t COMPREPLY < <(
             compgen -W "$files --strict --encoding --rotation --bottom --bottom-turn --width-step --help" -- "$word") ;;
+        draw)
+          mapfile -t COMPREPLY < <(
+            compgen -W "$files --strict --encoding --output --view --layers --net --box --width --theme --tags --rotation \
+              --bottom --bottom-turn --width-step --help" -- "$word") ;;
         check)
           mapfile -t COMPREPLY < <(
             compgen -W "$files --strict --encoding --format --fail-on --allow --ignored --quiet --help" -- "$word") ;;

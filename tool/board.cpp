@@ -15,6 +15,8 @@ std::optional<Sense> SenseOf(const std::string& word) {
   return word == kClockwise ? Sense::kClockwise : Sense::kCounterClockwise;
 }
 
+}  // namespace
+
 BoardOptions OptionsOf(const ReadingWords& words) {
   BoardOptions options;
   options.rotation = SenseOf(words.rotation);
@@ -26,8 +28,6 @@ BoardOptions OptionsOf(const ReadingWords& words) {
   }
   return options;
 }
-
-}  // namespace
 
 BoardModels ModelsIn(const Imported& imported) {
   BoardModels models = ModelsOf(imported.session);

@@ -24,6 +24,10 @@ struct ReadingWords {
 inline constexpr const char* kCounterClockwise = "ccw";
 inline constexpr const char* kClockwise = "cw";
 
+/// The options that words of the command line mean. Raises UsageError if the width step is not positive and
+/// finite.
+[[nodiscard]] BoardOptions OptionsOf(const ReadingWords& words);
+
 /// The models of an import. They are valid as long as it is.
 [[nodiscard]] BoardModels ModelsIn(const Imported& imported);
 

@@ -8,6 +8,7 @@
 #include "tool/board.h"
 #include "tool/check/check.h"
 #include "tool/diff/diff.h"
+#include "tool/draw/draw.h"
 #include "tool/dump.h"
 #include "tool/exit_status.h"
 #include "tool/export_set.h"
@@ -32,6 +33,7 @@ struct Arguments {
   CheckWords check;
   ReadingWords reading;
   DiffWords diff;
+  draw::DrawWords draw;
 };
 
 constexpr char kExitStatuses[] =
@@ -101,6 +103,31 @@ void AddCheckOptions(CLI::App& command, CheckWords& words) {
   command.add_flag("--quiet", words.quiet, "Print no text; the exit status tells");
 }
 
+void AddDrawOptions(CLI::App& command, draw::DrawWords& words) {
+  command.add_option("-o,--output", words.output, "The picture; its name ends in .svg, .png, .pdf or .html")
+      ->required()
+      ->option_text("FILE");
+  command
+      .add_option("--view", words.view, "All layers, or the finished board from one side (default: layers)")
+      ->check(CLI::IsMember({"layers", "top", "bottom"}))
+      ->option_text("layers|top|bottom");
+  command.add_option("--layers", words.layers, "Draw only these layers (default: all)")
+      ->delimiter(',')
+      ->option_text("NAME,NAME");
+  command.add_option("--net", words.nets, "Dim everything that is not on this net; may be repeated")
+      ->expected(1)
+      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
+      ->option_text("NAME");
+  command.add_option("--box", words.box, "What to show, in millimetres (default: everything)")
+      ->option_text("X0,Y0,X1,Y1");
+  command.add_option("--width", words.width, "The width in pixels (default of a .png: 2000)")
+      ->option_text("NUMBER");
+  command.add_option("--theme", words.theme, "The colours (default: dark)")
+      ->check(CLI::IsMember({"dark", "print"}))
+      ->option_text("dark|print");
+  command.add_flag("--tags", words.hasTags, "In an .svg, say the nets of tracks, vias, areas and pads");
+}
+
 void AddDiffOptions(CLI::App& command, DiffWords& words) {
   const char* const meaning = "A folder with an export set, or one of its files";
   command.add_option("BEFORE", words.before, meaning)->required()->option_text(" ");
@@ -130,9 +157,11 @@ class CommandLine {
     app_.require_subcommand(0, 1);
     app_.footer(std::string("Example:\n  kestrin summary examples/board\n\n") + kExitStatuses);
     AddReadingOptions(*board_, arguments_.reading);
+    AddReadingOptions(*draw_, arguments_.reading);
+    AddDrawOptions(*draw_, arguments_.draw);
     AddCheckOptions(*check_, arguments_.check);
     AddDiffOptions(*diff_, arguments_.diff);
-    for (CLI::App* command : {summary_, board_, check_, diff_}) AddEncoding(*command, arguments_);
+    for (CLI::App* command : {summary_, board_, check_, diff_, draw_}) AddEncoding(*command, arguments_);
     help_->add_option("COMMAND", topic_, "The command to explain")->option_text(" ");
   }
 
@@ -151,6 +180,7 @@ class CommandLine {
     ExportSet& files = arguments_.files;
     files.Add(arguments_.paths);
     if (board_->parsed()) return PrintBoard(files, arguments_.reading);
+    if (draw_->parsed()) return draw::Draw(files, arguments_.reading, arguments_.draw);
     if (check_->parsed()) return Check(files, arguments_.check);
     if (summary_->parsed()) return Summary(files);
     files.EncodingWord() = "latin-1";  // a dump has one character for each byte
@@ -196,6 +226,8 @@ class CommandLine {
   CLI::App* check_ = Add("check", "Find what is wrong with the files", "kestrin check examples/board");
   CLI::App* board_ = Add("board", "Print the board that the files describe together as JSON",
                          "kestrin board examples/board --rotation ccw");
+  CLI::App* draw_ = Add("draw", "Draw the board as SVG, PNG, PDF or HTML",
+                        "kestrin draw examples/board --net GND -o gnd.svg");
   CLI::App* dump_ = Add("dump", "Print the object model as JSON", "kestrin dump examples/board/board.tech");
   CLI::App* diff_ = app_.add_subcommand("diff", "Print what changed between two export sets");
   CLI::App* help_ = app_.add_subcommand("help", "Explain the tool or a command");

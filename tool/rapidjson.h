@@ -14,3 +14,4 @@ using SizeType = std::size_t;
 #include <rapidjson/filewritestream.h>
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/stream.h>
+#include <rapidjson/stringbuffer.h>

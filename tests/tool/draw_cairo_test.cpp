@@ -1,0 +1,112 @@
+#include <cairo.h>
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+#include <iterator>
+#include <memory>
+#include <string>
+
+#include "support/temporary_folder.h"
+#include "tests/support/process.h"
+
+namespace kestrin {
+namespace {
+
+using test::RunTool;
+using test::TemporaryFolder;
+
+const std::string kBoard = KESTRIN_EXAMPLES "/board";
+
+/// A PNG of the sample board, 10 pixels a millimetre.
+class Png {
+ public:
+  explicit Png(const std::string& options) {
+    const TemporaryFolder folder;
+    const std::string path = folder.Path("a.png");
+    const auto drawn = RunTool("draw " + kBoard + " --box 0,0,60,40 --width 600 " + options + " -o " + path);
+    EXPECT_EQ(drawn.status, 0) << drawn.err;
+    surface_.reset(cairo_image_surface_create_from_png(path.c_str()));
+    EXPECT_EQ(cairo_surface_status(surface_.get()), CAIRO_STATUS_SUCCESS);
+  }
+
+  [[nodiscard]] int Width() const { return cairo_image_surface_get_width(surface_.get()); }
+  [[nodiscard]] int Height() const { return cairo_image_surface_get_height(surface_.get()); }
+
+  /// The colour at a point of the board, as seen from the top or from below: "rrggbb".
+  [[nodiscard]] std::string At(double x, double y, bool isFromBelow = false) const {
+    const auto column = static_cast<std::ptrdiff_t>((isFromBelow ? 60.0 - x : x) * 10.0);
+    const auto row = static_cast<std::ptrdiff_t>((40.0 - y) * 10.0);
+    const unsigned char* pixel = cairo_image_surface_get_data(surface_.get()) +
+                                 row * cairo_image_surface_get_stride(surface_.get()) + column * 4;
+    std::uint32_t colour = 0;
+    std::memcpy(&colour, pixel, sizeof colour);
+    std::array<char, 8> text{};
+    std::snprintf(text.data(), text.size(), "%06x", colour & 0xFFFFFFU);
+    return text.data();
+  }
+
+ private:
+  struct Destroyer {
+    void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
+  };
+  std::unique_ptr<cairo_surface_t, Destroyer> surface_;
+};
+
+TEST(DrawCairo, APngShowsTheLayersFromTheTop) {
+  const Png png("");
+  EXPECT_EQ(png.Width(), 600);
+  EXPECT_EQ(png.Height(), 400);
+  EXPECT_EQ(png.At(16.0, 29.0), "e5534b") << "U_2-4 on the top";
+  EXPECT_EQ(png.At(3.5, 22.5), "10151c") << "the hole of J_1-2";
+  EXPECT_EQ(png.At(3.5, 21.6), "e5534b") << "the ring around it";
+  EXPECT_NE(png.At(20.0, 12.0), "1a212b") << "a plane";
+  EXPECT_NE(png.At(20.0, 12.0), "4fb477") << "planes are translucent";
+  EXPECT_EQ(png.At(0.5, 0.5), "1a212b") << "outside the planes";
+}
+
+TEST(DrawCairo, APngShowsTheFinishedBoard) {
+  const Png top("--view top");
+  EXPECT_EQ(top.At(16.0, 29.0), "e2bd62");
+  EXPECT_EQ(top.At(3.5, 22.5), "10151c");
+  EXPECT_EQ(top.At(9.0, 15.0), "23794a") << "a track under the mask";
+  EXPECT_EQ(top.At(32.0, 21.3), "14532d") << "nothing of C_3";
+  const Png bottom("--view bottom --theme print");
+  EXPECT_EQ(bottom.At(32.0, 21.3, true), "e2bd62") << "C_3-1";
+  EXPECT_EQ(bottom.At(16.0, 29.0, true), "14532d") << "nothing of U_2";
+  EXPECT_EQ(bottom.At(48.0, 36.0, true), "ffffff") << "a hole";
+}
+
+TEST(DrawCairo, OtherNetsDim) {
+  const Png png("--net 'VCC 3V3'");
+  EXPECT_EQ(png.At(16.0, 29.0), "e5534b");
+  EXPECT_NE(png.At(3.5, 21.6), "e5534b");
+}
+
+TEST(DrawCairo, APdfIsAsLargeAsTheBoard) {
+  const TemporaryFolder folder;
+  const std::string path = folder.Path("a.pdf");
+  ASSERT_EQ(RunTool("draw " + kBoard + " --box 0,0,25.4,12.7 -o " + path).status, 0);
+  std::ifstream file(path, std::ios::binary);
+  const std::string pdf((std::istreambuf_iterator<char>(file)), {});
+  EXPECT_EQ(pdf.substr(0, 5), "%PDF-");
+  EXPECT_NE(pdf.find("/MediaBox [ 0 0 72 36 ]"), std::string::npos);
+}
+
+TEST(DrawCairo, AFullDiskLeavesNoFile) {
+  const TemporaryFolder folder;
+  for (const char* name : {"a.png", "a.pdf"}) {
+    const std::string draw =
+        KESTRIN_TOOL " draw " + kBoard + " -o " + folder.Path(name) + " 2>" + folder.Path("err");
+    ASSERT_EQ(std::system(("sh -c \"trap '' XFSZ; ulimit -f 4; exec " + draw + "\"; test $? = 2").c_str()),
+              0);
+    EXPECT_FALSE(std::ifstream(folder.Path(name)).is_open());
+  }
+}
+
+}  // namespace
+}  // namespace kestrin

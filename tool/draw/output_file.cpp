@@ -1,0 +1,61 @@
+#include "tool/draw/output_file.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <system_error>
+
+#include "tool/usage_error.h"
+
+namespace kestrin::tool::draw {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Where a path leads if it is a link: the link is to stay.
+std::string Followed(const std::string& path) {
+  std::error_code error;
+  if (!fs::is_symlink(path, error)) return path;
+  const fs::path target = fs::canonical(path, error);
+  return error ? path : target.string();
+}
+
+}  // namespace
+
+OutputFile::OutputFile(const std::string& path) : path_(path), target_(Followed(path)) {
+  constexpr int kMostTries = 100;
+  std::error_code error;
+  const fs::file_status status = fs::status(target_, error);
+  if (fs::exists(status) && !fs::is_regular_file(status)) Fail("it is not a regular file");
+  for (int i = 1; file_ == nullptr; ++i) {
+    partPath_ = target_ + ".part" + std::to_string(i);
+    file_ = FileHandle(std::fopen(partPath_.c_str(), "wbx"));
+    if (file_ == nullptr && (errno != EEXIST || i == kMostTries)) Fail(std::strerror(errno));
+  }
+}
+
+OutputFile::~OutputFile() {
+  if (file_ == nullptr) return;
+  file_.reset();
+  std::error_code ignored;
+  fs::remove(partPath_, ignored);
+}
+
+void OutputFile::Write(std::string_view bytes) {
+  if (std::fwrite(bytes.data(), 1, bytes.size(), file_.get()) != bytes.size()) Fail(std::strerror(errno));
+}
+
+void OutputFile::Complete() {
+  if (std::fflush(file_.get()) != 0) Fail(std::strerror(errno));
+  std::error_code error;
+  fs::rename(partPath_, target_, error);
+  if (error) Fail(error.message());
+  file_.reset();
+}
+
+void OutputFile::Fail(const std::string& why) const {
+  throw UsageError("cannot write \"" + path_ + "\": " + why);
+}
+
+}  // namespace kestrin::tool::draw

@@ -1,0 +1,262 @@
+#include "tool/draw/svg_writer.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <initializer_list>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "tool/draw/path_text.h"
+#include "tool/readable_text.h"
+
+namespace kestrin::tool::draw {
+namespace {
+
+using Shapes = std::span<const Shape>;
+
+std::string_view EscapeOf(char c) {
+  switch (c) {
+    case '&': return "&amp;";
+    case '<': return "&lt;";
+    case '>': return "&gt;";
+    case '"': return "&quot;";
+    default: return {};
+  }
+}
+
+/// Appends text for XML, between tags or between double quotes. Control characters cannot be written in XML.
+void AppendEscaped(std::string& text, std::string_view bytes) {
+  constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
+  for (const char c : bytes) {
+    const auto code = static_cast<unsigned char>(c);
+    if (code >= 0x80) {
+      text += ToUtf8({&c, 1});
+    } else if (code < 0x20) {
+      text += kReplacement;
+    } else if (const std::string_view escape = EscapeOf(c); !escape.empty()) {
+      text += escape;
+    } else {
+      text += c;
+    }
+  }
+}
+
+std::string HexOf(Colour colour) {
+  std::array<char, 8> text;
+  std::snprintf(text.data(), text.size(), "#%06x", colour & 0xFFFFFFU);
+  return text.data();
+}
+
+class SvgWriter {
+ public:
+  SvgWriter(const Picture& picture, OutputFile& file)
+      : picture_(picture),
+        file_(file),
+        numbers_(Steps(std::max(picture.box.Width(), picture.box.Height()))) {}
+
+  void Write() {
+    WriteHead();
+    for (const Coat& coat : picture_.coats) WriteCoat(coat);
+    text_ += "</svg>\n";
+    file_.Write(text_);
+  }
+
+ private:
+  void WriteHead();
+  void WriteCoat(const Coat& coat);
+  void WriteBatch(const Coat& coat, const Brush& brush, Shapes shapes);
+  void WriteStyle(const Coat& coat, const Brush& brush);
+  void WriteTags(const Owner& owner);
+  void WritePath(const Brush& brush, Shapes shapes);
+  void WriteText(const SceneText& text);
+  void Attribute(std::string_view name, double length);
+  void Attribute(std::string_view name, std::string_view text);
+  /// An attribute of names from the files.
+  void Name(std::string_view name, std::initializer_list<std::string_view> pieces);
+  void WriteOutIfLong() {
+    constexpr std::size_t kBlock = 65536;
+    if (text_.size() < kBlock) return;
+    file_.Write(text_);
+    text_.clear();
+  }
+
+  const Picture& picture_;
+  OutputFile& file_;
+  DecimalText numbers_;
+  std::string text_;
+};
+
+void SvgWriter::Attribute(std::string_view name, double length) {
+  text_ += ' ';
+  text_ += name;
+  text_ += "=\"";
+  numbers_.Append(text_, length);
+  text_ += '"';
+}
+
+void SvgWriter::Attribute(std::string_view name, std::string_view text) {
+  text_ += ' ';
+  text_ += name;
+  text_ += "=\"";
+  text_ += text;
+  text_ += '"';
+}
+
+void SvgWriter::Name(std::string_view name, std::initializer_list<std::string_view> pieces) {
+  text_ += ' ';
+  text_ += name;
+  text_ += "=\"";
+  for (const std::string_view piece : pieces) AppendEscaped(text_, piece);
+  text_ += '"';
+}
+
+void SvgWriter::WriteHead() {
+  const Box& box = picture_.box;
+  text_ += "<svg xmlns=\"http://www.w3.org/2000/svg\"";
+  text_ += " xmlns:inkscape=\"http://www.inkscape.org/namespaces/inkscape\"";
+  if (picture_.width) {
+    Attribute("width", std::to_string(*picture_.width));
+    Attribute("height", std::to_string(picture_.HeightInPixels()));
+  } else {
+    text_ += " width=\"";
+    numbers_.Append(text_, box.Width());
+    text_ += "mm\" height=\"";
+    numbers_.Append(text_, box.Height());
+    text_ += "mm\"";
+  }
+  text_ += " viewBox=\"";
+  for (const double length : {picture_.Left(), -box.y1, box.Width(), box.Height()}) {
+    numbers_.Append(text_, length);
+    text_ += ' ';
+  }
+  text_.back() = '"';
+  text_ += ">\n<title>";
+  AppendEscaped(text_, picture_.scene->board->name);
+  text_ += "</title>\n<rect";
+  Attribute("x", picture_.Left());
+  Attribute("y", -box.y1);
+  Attribute("width", box.Width());
+  Attribute("height", box.Height());
+  Attribute("fill", HexOf(picture_.background));
+  text_ += "/>\n";
+}
+
+void SvgWriter::WriteCoat(const Coat& coat) {
+  Attribute("<g id", "layer-" + coat.id);
+  text_.erase(text_.rfind(" <g"), 1);
+  Attribute("inkscape:groupmode", "layer");
+  Name("inkscape:label", {coat.label});
+  Attribute("fill", "none");
+  Attribute("stroke", HexOf(coat.colour));
+  Attribute("stroke-linecap", "round");
+  Attribute("stroke-linejoin", "round");
+  text_ += ">\n";
+  for (const auto& [brush, shapes] : coat.layer->batches) {
+    if (coat.parts.contains(brush.part)) WriteBatch(coat, brush, shapes);
+  }
+  if (coat.hasTexts && !coat.layer->texts.empty()) {
+    text_ += "<g";
+    Attribute("fill", HexOf(coat.colour));
+    Attribute("stroke", "none");
+    Attribute("font-family", "sans-serif");
+    text_ += ">\n";
+    for (const SceneText& text : coat.layer->texts) WriteText(text);
+    text_ += "</g>\n";
+  }
+  text_ += "</g>\n";
+}
+
+void SvgWriter::WriteStyle(const Coat& coat, const Brush& brush) {
+  if (brush.isDimmed) Attribute("opacity", kDimmed);
+  if (brush.form != Form::kFill) {
+    return Attribute("stroke-width", brush.width > 0.0 ? brush.width : picture_.ThinLine());
+  }
+  const Fill& fill = coat.FillOf(brush.part);
+  Attribute("fill", HexOf(coat.colour));
+  if (fill.opacity < 1.0) Attribute("fill-opacity", fill.opacity);
+  Attribute("fill-rule", "evenodd");
+  if (!fill.hasContour) return Attribute("stroke", "none");
+  if (coat.contour != coat.colour) Attribute("stroke", HexOf(coat.contour));
+  Attribute("stroke-width", picture_.ThinLine());
+}
+
+/// The number of shapes at the beginning of the list that make one path: an area and its holes; else all
+/// that nothing distinguishes.
+std::size_t ShapesOfOnePath(Shapes shapes, const Brush& brush, bool hasTags) {
+  const Owner& owner = shapes.front().owner;
+  const bool isAlone = brush.form == Form::kFill || owner.pin != kNone;
+  std::size_t count = 1;
+  while (count < shapes.size()) {
+    const Shape& next = shapes[count];
+    const bool joins =
+        isAlone ? next.isHole : next.owner.pin == kNone && (!hasTags || next.owner.net == owner.net);
+    if (!joins) break;
+    ++count;
+  }
+  return count;
+}
+
+void SvgWriter::WriteBatch(const Coat& coat, const Brush& brush, Shapes shapes) {
+  text_ += "<g";
+  WriteStyle(coat, brush);
+  text_ += ">\n";
+  while (!shapes.empty()) {
+    const std::size_t count = ShapesOfOnePath(shapes, brush, picture_.hasTags);
+    text_ += "<path";
+    WriteTags(shapes.front().owner);
+    WritePath(brush, shapes.first(count));
+    text_ += "/>\n";
+    shapes = shapes.subspan(count);
+  }
+  text_ += "</g>\n";
+}
+
+void SvgWriter::WriteTags(const Owner& owner) {
+  const Board& board = *picture_.scene->board;
+  if (owner.pin != kNone) {
+    Name("data-pin", {board.components[owner.component].name, "-", board.pins[owner.pin].name});
+  }
+  if (picture_.hasTags && owner.net != kNone) Name("data-net", {board.nets[owner.net].name});
+}
+
+void SvgWriter::WritePath(const Brush& brush, Shapes shapes) {
+  const bool isClosed = brush.form == Form::kFill || brush.form == Form::kContour;
+  text_ += " d=\"";
+  PathText path(text_, numbers_, picture_.isMirrored);
+  for (const Shape& shape : shapes) {
+    path.Add(shape.points, isClosed ? PathText::End::kClosed : PathText::End::kOpen);
+    WriteOutIfLong();
+  }
+  text_ += '"';
+}
+
+/// The font's y points down, as that of the picture does, and its origin is on the baseline.
+void SvgWriter::WriteText(const SceneText& text) {
+  constexpr std::array kAnchors{"start", "middle", "end"};
+  const double sign = picture_.isMirrored ? -1.0 : 1.0;
+  const double down = text.height * (2 - text.row) / 2.0;
+  const double x = text.position.x - text.cosY * down;
+  const double y = text.position.y - text.sinY * down;
+  text_ += "<text";
+  if (text.isDimmed) Attribute("opacity", kDimmed);
+  if (text.column != 0) Attribute("text-anchor", kAnchors[static_cast<std::size_t>(text.column)]);
+  Attribute("font-size", text.height / kCapitals);
+  text_ += " transform=\"matrix(";
+  for (const double number : {sign * text.cosX, -text.sinX, -sign * text.cosY, text.sinY, sign * x, -y}) {
+    numbers_.Append(text_, number);
+    text_ += ' ';
+  }
+  text_.back() = ')';
+  text_ += "\">";
+  AppendEscaped(text_, text.text);
+  text_ += "</text>\n";
+  WriteOutIfLong();
+}
+
+}  // namespace
+
+void WriteSvg(const Picture& picture, OutputFile& file) { SvgWriter(picture, file).Write(); }
+
+}  // namespace kestrin::tool::draw

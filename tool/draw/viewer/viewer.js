@@ -1,0 +1,369 @@
+"use strict";
+// The page: what is shown, and what mouse, touch and keys do.
+
+class Viewer {
+  constructor(board) {
+    this.board = board;
+    this.finder = new Finder(board);
+    this.lists = new Lists(board, (selected) => this.select([selected]));
+    this.canvas = document.getElementById("board");
+    this.shown = document.createElement("canvas"); // the last complete drawing, and where its camera was
+    this.shownCamera = null;
+    this.camera = new Camera();
+    this.selected = [];
+    this.job = null;
+    this.isFramePlanned = false;
+    const { first } = board.data;
+    this.view = first.view;
+    this.firstBox = this.boxInSteps(first.box);
+    const prefersLight = window.matchMedia("(prefers-color-scheme: light)");
+    this.setTheme(first.theme ?? (prefersLight.matches ? "light" : "dark"));
+    if (!first.theme) prefersLight.addEventListener("change", (e) => this.setTheme(e.matches ? "light" : "dark"));
+    this.showPanel();
+    this.listen();
+    this.setView(first.view);
+    if (first.nets.length > 0) this.select(first.nets.map((index) => ({ kind: Kind.net, index })), false);
+  }
+
+  boxInSteps([x0, y0, x1, y1]) {
+    const { steps } = this.board;
+    return { x0: x0 * steps, y0: y0 * steps, x1: x1 * steps, y1: y1 * steps };
+  }
+
+  // ---- What is shown
+
+  coats() {
+    return this.board.data.views[this.view].filter(({ layer }) => this.board.layers[layer].isShown);
+  }
+
+  setView(view) {
+    this.view = view;
+    for (const button of document.querySelectorAll("[data-view]")) {
+      button.setAttribute("aria-checked", String(button.dataset.view === view));
+      button.tabIndex = button.dataset.view === view ? 0 : -1;
+    }
+    const sign = view === "bottom" ? -1 : 1;
+    if (sign !== this.camera.sign) {
+      // The middle of the picture stays where it is.
+      const middle = this.camera.fromX(this.canvas.width / 2);
+      this.camera.sign = sign;
+      this.camera.left = this.canvas.width / 2 - middle * this.camera.scale * sign;
+    }
+    this.redraw();
+  }
+
+  setTheme(theme) {
+    this.theme = theme === "light" ? 1 : 0;
+    document.documentElement.dataset.theme = theme;
+    document.getElementById("theme").setAttribute("aria-pressed", String(theme === "light"));
+    this.redraw();
+  }
+
+  setShown(layer, isShown) {
+    this.board.layers[layer].isShown = isShown;
+    this.redraw();
+  }
+
+  fit(box = this.firstBox) {
+    this.camera.fit(box, this.canvas.width, this.canvas.height, this.camera.sign);
+    this.redraw();
+  }
+
+  select(selected, isZoomed = true) {
+    this.selected = selected;
+    const place = document.getElementById("details");
+    place.replaceChildren();
+    for (const one of selected) this.lists.showDetails(place, one);
+    document.getElementById("clear").hidden = selected.length === 0;
+    const box = emptyBox();
+    for (const one of selected) joinBox(box, this.board.boxOf(one));
+    if (isZoomed && box.x0 <= box.x1) {
+      const margin = Math.max(this.board.steps * 2, (box.x1 - box.x0) * 0.15, (box.y1 - box.y0) * 0.15);
+      this.fit({ x0: box.x0 - margin, y0: box.y0 - margin, x1: box.x1 + margin, y1: box.y1 + margin });
+    } else {
+      this.redraw();
+    }
+  }
+
+  // ---- Drawing
+  //
+  // A drawing of a large board takes longer than a frame. It is made in pieces on a canvas that nobody sees; until it is
+  // complete, the last complete one is shown, moved and scaled to where the camera is. While the camera moves, no new
+  // drawing is begun.
+
+  redraw(pause = 0) {
+    if (this.canvas === undefined || this.canvas.width === 0) return;
+    this.job = null;
+    this.startTime = performance.now() + pause;
+    this.canvas.setAttribute("aria-busy", "true");
+    this.planFrame();
+  }
+
+  redrawMoved() {
+    this.redraw(this.shownCamera === null ? 0 : 100);
+  }
+
+  planFrame() {
+    if (this.isFramePlanned) return;
+    this.isFramePlanned = true;
+    requestAnimationFrame(() => {
+      this.isFramePlanned = false;
+      this.drawFrame();
+    });
+  }
+
+  drawFrame() {
+    const isDone = performance.now() >= this.startTime && this.drawPieces();
+    if (isDone) {
+      this.shown = this.job.canvas;
+      this.shownCamera = this.job.camera;
+    }
+    this.showLast();
+    if (isDone) {
+      this.canvas.setAttribute("aria-busy", "false");
+    } else {
+      this.planFrame();
+    }
+  }
+
+  // Draws what fits into a frame. Browsers draw later than they are told, so the points count, too.
+  drawPieces() {
+    const mostPoints = 20000;
+    if (this.job === null) this.startJob();
+    const until = performance.now() + 10;
+    for (let points = 0; points < mostPoints && performance.now() < until;) {
+      const { done, value } = this.job.steps.next();
+      if (done) return true;
+      points += value;
+    }
+    return false;
+  }
+
+  startJob() {
+    const canvas = document.createElement("canvas");
+    canvas.width = this.canvas.width;
+    canvas.height = this.canvas.height;
+    const camera = this.camera.copy();
+    const context = canvas.getContext("2d");
+    this.job = { canvas, camera, steps: this.drawAll(new Painter(this.board, context, camera, this.theme), context) };
+  }
+
+  *drawAll(painter, context) {
+    const veil = 0.75;
+    const background = this.board.data.background[this.theme];
+    context.fillStyle = background;
+    context.fillRect(0, 0, context.canvas.width, context.canvas.height);
+    const coats = this.coats();
+    yield* painter.paint(coats);
+    if (this.selected.length === 0) return;
+    context.globalAlpha = veil;
+    context.fillStyle = background;
+    context.fillRect(0, 0, context.canvas.width, context.canvas.height);
+    context.globalAlpha = 1;
+    yield* painter.paint(coats, (shapes, shape) =>
+      this.selected.some((selected) => this.board.belongs(shapes, shape, selected)));
+  }
+
+  showLast() {
+    const context = this.canvas.getContext("2d");
+    context.fillStyle = this.board.data.background[this.theme];
+    context.fillRect(0, 0, this.canvas.width, this.canvas.height);
+    if (this.shownCamera === null) return void context.drawImage(this.job.canvas, 0, 0);
+    const from = this.shownCamera;
+    const factor = this.camera.scale / from.scale;
+    const turn = this.camera.sign * from.sign;
+    context.setTransform(factor * turn, 0, 0, factor, this.camera.left - from.left * factor * turn,
+      this.camera.top - from.top * factor);
+    context.drawImage(this.shown, 0, 0);
+    context.setTransform(1, 0, 0, 1, 0, 0);
+  }
+
+  // ---- The panel
+
+  showPanel() {
+    const { board, lists } = this;
+    const name = board.data.name || "Board";
+    document.title = `${name} – board viewer`;
+    document.getElementById("title").textContent = name;
+    this.canvas.setAttribute("aria-label", `Drawing of ${name}. Arrows move it, plus and minus zoom, 0 shows all.`);
+    document.getElementById("unconfirmed").hidden = board.data.isConfirmed;
+    document.getElementById("net-count").textContent = String(board.nets.length);
+    document.getElementById("component-count").textContent = String(board.components.length);
+    lists.showLayers(document.getElementById("layers"), (layer, isShown) => this.setShown(layer, isShown));
+    lists.showNets(document.getElementById("nets"), "");
+    lists.showParts(document.getElementById("parts"));
+  }
+
+  search(text) {
+    const most = 20;
+    const results = this.finder.search(text, most);
+    this.lists.showResults(document.getElementById("results"), results);
+    const isEmpty = text.trim() === "";
+    document.getElementById("result-count").textContent =
+      isEmpty ? "" : results.length === 0 ? "Nothing found" : `${results.length === most ? "First " : ""}${results.length} found`;
+    return results;
+  }
+
+  showPointer(x, y) {
+    const { board, camera } = this;
+    const millimetre = (steps) => (steps / board.steps).toFixed(2);
+    const reach = 4 * window.devicePixelRatio / camera.scale;
+    const found = this.finder.at(camera.fromX(x), camera.fromY(y), reach, this.coats());
+    const words = [`x ${millimetre(camera.fromX(x))} y ${millimetre(camera.fromY(y))} mm`];
+    if (found !== null) words.push(this.describe(found), found.layer.label);
+    document.getElementById("pointer").textContent = words.join(" · ");
+    return found;
+  }
+
+  describe({ kind, index }) {
+    const { board } = this;
+    if (kind === Kind.net) return `net ${board.nets[index].name}`;
+    if (kind === Kind.component) return `component ${board.components[index].name}`;
+    const net = board.pins[index].net;
+    return `pin ${board.pinName(index)}${net < 0 ? "" : `, net ${board.nets[net].name}`}`;
+  }
+
+  // ---- Mouse, touch, keys
+
+  listen() {
+    new ResizeObserver(() => this.resize()).observe(this.canvas.parentElement);
+    this.listenToPointers();
+    this.listenToKeys();
+    const on = (id, event, action) => document.getElementById(id).addEventListener(event, action);
+    on("zoom-in", "click", () => this.zoomMiddle(1.5));
+    on("zoom-out", "click", () => this.zoomMiddle(1 / 1.5));
+    on("fit", "click", () => this.fit());
+    on("theme", "click", () => this.setTheme(this.theme === 0 ? "light" : "dark"));
+    on("clear", "click", () => this.select([], false));
+    on("search", "input", (event) => this.search(event.target.value));
+    on("search", "keydown", (event) => {
+      if (event.key !== "Enter") return;
+      const [best] = this.search(event.target.value);
+      if (best !== undefined) this.select([best]);
+    });
+    on("net-filter", "input", (event) => this.lists.showNets(document.getElementById("nets"), event.target.value));
+    for (const button of document.querySelectorAll("[data-view]")) {
+      button.addEventListener("click", () => this.setView(button.dataset.view));
+    }
+  }
+
+  resize() {
+    const { width, height } = this.canvas.parentElement.getBoundingClientRect();
+    const isFirst = this.canvas.dataset.sized === undefined;
+    this.canvas.dataset.sized = "yes";
+    this.canvas.width = Math.max(1, Math.round(width * window.devicePixelRatio));
+    this.canvas.height = Math.max(1, Math.round(height * window.devicePixelRatio));
+    if (isFirst) this.fit();
+    this.redraw();
+  }
+
+  zoomMiddle(factor) {
+    this.zoom(factor, this.canvas.width / 2, this.canvas.height / 2);
+  }
+
+  zoom(factor, x, y) {
+    const most = 400; // pixels of a step
+    if (factor > 1 && this.camera.scale * factor > most) return;
+    this.camera.zoom(factor, x, y);
+    this.redrawMoved();
+  }
+
+  move(dx, dy) {
+    this.camera.left += dx;
+    this.camera.top += dy;
+    this.redrawMoved();
+  }
+
+  listenToPointers() {
+    const down = new Map(); // the pointers that are pressed, by their id
+    let hasMoved = false;
+    const place = (event) => {
+      const box = this.canvas.getBoundingClientRect();
+      return {
+        x: (event.clientX - box.left) * window.devicePixelRatio,
+        y: (event.clientY - box.top) * window.devicePixelRatio,
+      };
+    };
+    const spread = () => {
+      const [a, b] = [...down.values()];
+      return { x: (a.x + b.x) / 2, y: (a.y + b.y) / 2, length: Math.hypot(a.x - b.x, a.y - b.y) || 1 };
+    };
+    this.canvas.addEventListener("pointerdown", (event) => {
+      this.canvas.setPointerCapture(event.pointerId);
+      down.set(event.pointerId, place(event));
+      hasMoved = false;
+    });
+    this.canvas.addEventListener("pointermove", (event) => {
+      const now = place(event);
+      const before = down.get(event.pointerId);
+      if (before === undefined) return void this.showPointer(now.x, now.y);
+      const old = down.size === 2 ? spread() : null;
+      if (Math.hypot(now.x - before.x, now.y - before.y) > 2) hasMoved = true;
+      down.set(event.pointerId, now);
+      if (old === null) return this.move(now.x - before.x, now.y - before.y);
+      const current = spread();
+      this.move(current.x - old.x, current.y - old.y);
+      this.zoom(current.length / old.length, current.x, current.y);
+    });
+    const release = (event) => {
+      const isClick = event.type === "pointerup" && down.size === 1 && !hasMoved;
+      down.delete(event.pointerId);
+      if (!isClick) return;
+      const now = place(event);
+      const found = this.showPointer(now.x, now.y);
+      this.select(found === null ? [] : [found], false);
+    };
+    this.canvas.addEventListener("pointerup", release);
+    this.canvas.addEventListener("pointercancel", release);
+    this.canvas.addEventListener("wheel", (event) => {
+      event.preventDefault();
+      const { x, y } = place(event);
+      this.zoom(Math.exp(-event.deltaY * (event.deltaMode === 1 ? 0.05 : 0.0015)), x, y);
+    }, { passive: false });
+  }
+
+  listenToKeys() {
+    const step = 80;
+    const keys = {
+      ArrowLeft: () => this.move(step, 0),
+      ArrowRight: () => this.move(-step, 0),
+      ArrowUp: () => this.move(0, step),
+      ArrowDown: () => this.move(0, -step),
+      "+": () => this.zoomMiddle(1.25),
+      "=": () => this.zoomMiddle(1.25),
+      "-": () => this.zoomMiddle(1 / 1.25),
+      0: () => this.fit(),
+    };
+    this.canvas.addEventListener("keydown", (event) => {
+      const action = keys[event.key];
+      if (action === undefined || event.ctrlKey || event.metaKey || event.altKey) return;
+      event.preventDefault();
+      action();
+    });
+    document.addEventListener("keydown", (event) => {
+      const isTyping = event.target instanceof HTMLInputElement && event.target.type !== "checkbox";
+      if (event.key === "Escape") this.select([], false);
+      if (event.key === "/" && !isTyping) {
+        event.preventDefault();
+        document.getElementById("search").focus();
+      }
+    });
+    this.listenToViewKeys();
+  }
+
+  // Arrows choose among radio buttons, as everywhere.
+  listenToViewKeys() {
+    const views = ["layers", "top", "bottom"];
+    const change = { ArrowLeft: -1, ArrowUp: -1, ArrowRight: 1, ArrowDown: 1 };
+    document.getElementById("views").addEventListener("keydown", (event) => {
+      if (change[event.key] === undefined) return;
+      event.preventDefault();
+      const next = views[(views.indexOf(this.view) + change[event.key] + views.length) % views.length];
+      this.setView(next);
+      document.querySelector(`[data-view="${next}"]`).focus();
+    });
+  }
+}
+
+new Viewer(new Board(JSON.parse(document.getElementById("data").textContent),
+  bytesOfText(document.getElementById("shapes").textContent)));
