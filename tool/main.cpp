@@ -98,6 +98,8 @@ void AddCheckOptions(CLI::App& command, CheckWords& words) {
       ->check(CLI::IsMember({"error", "warning", "note", "never"}))
       ->option_text("error|warning|note|never");
   command.add_option("--allow", words.allowed, "Do not report problems with this code; may be repeated")
+      ->expected(1)
+      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
       ->option_text("CODE");
   command.add_flag("--ignored", words.ignored, "List how many lines of each keyword are not imported");
   command.add_flag("--quiet", words.quiet, "Print no text; the exit status tells");
@@ -207,7 +209,7 @@ class CommandLine {
     if (!topic_.empty() && found.empty())
       throw UsageError("there is no command " + topic_ + "; try kestrin --help");
     app_.clear();  // or else the application explains its command "help"
-    std::cout << (found.empty() ? app_.help() : found.front()->help());
+    std::cout << (found.empty() ? app_.help() : found.front()->help(app_.get_name()));
     return FinishText(kSuccess);
   }
 

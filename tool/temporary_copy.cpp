@@ -1,28 +1,24 @@
 #include "tool/temporary_copy.h"
 
+#include <stdlib.h>
+
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
-#include <random>
 #include <system_error>
 #include <vector>
 
-#include "kestrin/base/file_handle.h"
 #include "tool/usage_error.h"
 
 namespace kestrin::tool {
 namespace {
 
-/// Creates an empty file that did not exist.
+/// Creates an empty file that only this user may read.
 FileHandle CreateFile(std::string& path) {
-  constexpr int kAttempts = 100;
-  std::random_device random;
-  for (int attempt = 0; attempt < kAttempts; ++attempt) {
-    path = (std::filesystem::temp_directory_path() / ("kestrin-" + std::to_string(random()))).string();
-    if (FileHandle file{std::fopen(path.c_str(), "wbx")}) return file;
-    if (errno != EEXIST) break;
-  }
+  path = (std::filesystem::temp_directory_path() / "kestrin-XXXXXX").string();
+  const int descriptor = mkstemp(path.data());
+  if (descriptor >= 0) return FileHandle(fdopen(descriptor, "wb"));
   throw UsageError("cannot create the temporary file \"" + path + "\": " + std::strerror(errno));
 }
 
@@ -43,16 +39,23 @@ TemporaryCopy::TemporaryCopy(const std::string& source) {
   const FileHandle opened(isStandardInput ? nullptr : std::fopen(source.c_str(), "rb"));
   if (!isStandardInput && opened == nullptr)
     throw UsageError("cannot open \"" + source + "\": " + std::strerror(errno));
-  const FileHandle copy = CreateFile(path_);
+  copy_ = CreateFile(path_);
   try {
-    Copy(isStandardInput ? stdin : opened.get(), copy.get(),
+    Copy(isStandardInput ? stdin : opened.get(), copy_.get(),
          isStandardInput ? "standard input" : "\"" + source + "\"");
   } catch (const UsageError&) {
     std::remove(path_.c_str());
     throw;
   }
+  // Without its name, the file disappears with the process, however that ends.
+  const std::string open = "/proc/self/fd/" + std::to_string(fileno(copy_.get()));
+  if (!std::filesystem::exists(open)) return;
+  std::remove(path_.c_str());
+  path_ = open;
 }
 
-TemporaryCopy::~TemporaryCopy() { std::remove(path_.c_str()); }
+TemporaryCopy::~TemporaryCopy() {
+  if (!path_.starts_with("/proc/")) std::remove(path_.c_str());
+}
 
 }  // namespace kestrin::tool

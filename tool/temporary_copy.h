@@ -5,6 +5,8 @@
 
 #include <string>
 
+#include "kestrin/base/file_handle.h"
+
 namespace kestrin::tool {
 
 /// A temporary file with the bytes of standard input or of a pipe. It is removed with the object.
@@ -19,6 +21,7 @@ class TemporaryCopy {
   [[nodiscard]] const std::string& Path() const { return path_; }
 
  private:
+  FileHandle copy_;
   std::string path_;
 };
 

@@ -165,6 +165,11 @@ TEST(FindingsTest, FindFaultsOfNetsAndComponents) {
   ExpectFindings({
       {{{kNeutral, "U2-1", "U9-1"}}, "unknown-component N6\n"},
       {{{kNeutral, "U2-1", "X"}}, "unknown-component N6\n"},
+      {{{kNeutral, "N_PIN U2-1",
+         "N_PIN J-1 a b c d\nN_PIN J-2 a b c d\nN_PIN J-3 a b c d\nN_PIN J-4 a b c d\nN_PIN J-5 a b c "
+         "d\nN_PIN U2-1"}},
+       "unknown-component N6\nunknown-component N7\nunknown-component N8\nunknown-component "
+       "N9\nunknown-component N10\n"},
       {{{kNeutral, "U2-2", "U2-3"}}, "unknown-pin N9\n"},
       {{{kNeutral, "N_PIN U1-2", "N_PIN U1-1 a b c d\nN_PIN U1-2"}}, "pin-in-two-nets N8 N5\n"},
       {{{kNeutral, "N_PIN U2-1", "N_PIN U1-1 a b c d\nN_PIN U2-1"}}, ""},
@@ -186,7 +191,11 @@ TEST(FindingsTest, FindFaultsOfNetsAndComponents) {
       {{{kNeutral, "###Comp", "NET ONE\nN_PIN U3-1 a b c d\n###Comp"},
         {kNeutral, "COMP U2", "COMP U3 p s G 5 5 1 0\nCOMP U2"}},
        ""},
-      {{{kNeutral, "U1-1", "V1-1"}, {kNeutral, "U1-2", "V1-2"}, {kNeutral, "U2-1", "V2-1"}}, "no-match N5\n"},
+      {{{kNeutral, "U1-1", "V1-1"},
+        {kNeutral, "U1-2", "V1-2"},
+        {kNeutral, "U2-1", "V2-1"},
+        {kNeutral, "U2-2", "V2-2"}},
+       "no-match N5\n"},
   });
 }
 
@@ -198,10 +207,16 @@ TEST(FindingsTest, FindFaultsOfGeometriesLayersAndCopper) {
        "duplicate-geometry G13 G10\n"},
       {{{kTech, "(2, BOTTOM", "(1, BOTTOM"}, {kTraces, "SEG 20 11 2", "SEG 20 11 1"}},
        "duplicate-layer S2 S1\n"},
-      {{{kTech, "BOTTOM, SIGNAL_2", "TOP, SIGNAL_2"}}, "duplicate-layer S2 S1\n"},
+      {{{kTech, "BOTTOM, SIGNAL_2", "TOP, SIGNAL_2"}}, "duplicate-layer S2 S1\nunknown-layer S3\n"},
       {{{kTraces, "SEG 20 11 2", "SEG 20 11 3"}}, "unknown-layer T6\n"},
       {{{kGeometry, "path(SIGNAL_1", "path(SIGNAL_9"}}, "unknown-layer G12\n"},
       {{{kGeometry, "path(SIGNAL_1", "path(PAD_2"}}, ""},
+      {{{kTech, "(V, TOP, BOTTOM)", "(V, TOP, INNER)"}}, "unknown-layer S3\n"},
+      {{{kGeometry, "$$create_pin",
+         "$$attribute(TRACE_KEEPOUT, SIGNAL_9, [0, 0, 1, 0, 1, 1])\n$$create_pin"}},
+       "unknown-layer G10\n"},
+      {{{kGeometry, "$$create_pin", "$$attribute(COMPONENT_BODY_OUTLINE, [0, 0, 1])\n$$create_pin"}},
+       "degenerate-area G10\n"},
       {{{kTraces, "FIL GND SIGNAL_1", "FIL GND X"}, {kTraces, "ARE GND SIGNAL_1", "ARE GND X"}},
        "unknown-layer T11\n"},
       {{{kTraces, "SEG 15 10 1 V", "SEG 15 10 1 W"}, {kTraces, "SEG 20 11 2", "SEG 20 11 1"}},
@@ -223,6 +238,9 @@ TEST(FindingsTest, FindFaultsOfUnitsAndFiles) {
       {{{kNeutral, "B_UNITS MM", "B_UNITS FOOT"}}, "unknown-unit N2\n"},
       {{{kTraces, "UNITS MM\n", ""}}, "unknown-unit T0\n"},
       {{{kGeometry, "(V)\n$$page(0, 0, @mm)", "(V)\n$$page(0, 0, @foot)"}}, "unknown-unit G14\n"},
+      {{{kGeometry, "(V)\n$$page(0, 0, @mm)",
+         "(V)\n$$page(0, 0, @foot)\n$$create_via(W)\n$$page(0, 0, @foot)"}},
+       "unknown-unit G14 G16\n"},
       {{{kGeometry, "(V)\n$$page(0, 0, @mm)", "(V)\n$$page(0, 0)"}}, ""},
       {{{kGeometry, "(V)\n$$page(0, 0, @mm)", "(V)\n$$page(0, 0, @mil)"}}, "unit-mismatch N2 G14\n"},
       {{{kNeutral, "10 10 1 0", "10 10 1 0x"}}, "not-a-number N11\n"},

@@ -57,7 +57,7 @@ TEST(ToolCheck, SaysWhatIsWrongWhereAndEndsWithAVerdict) {
   const auto check = RunTool("check " + set.Path());
   EXPECT_EQ(check.status, 1);
   EXPECT_NE(check.out.find(set.Path("neutral") + ":"), std::string::npos) << check.out;
-  EXPECT_NE(check.out.find(": warning: net \"GND\" is there more than once [duplicate-net]\n"),
+  EXPECT_NE(check.out.find(": warning: net \"GND\" is there more than once (also line 24) [duplicate-net]\n"),
             std::string::npos)
       << check.out;
   EXPECT_TRUE(check.out.ends_with(": nets and tracks do not agree\n")) << check.out;

@@ -88,7 +88,8 @@ TEST(ToolDiff, ReportsExactlyTheEdit) {
       {{{"neutral", "TESTPAD_10 57.0 18.75 2 0", "TESTPAD_10 57.0 18.75 1 0"}},
        "component TP_2 changed side:bottom>top\n"},
       {{{"neutral", "COMP R_2 ", "COMP R_9 "}, {"neutral", "'R_2-", "'R_9-"}},
-       "component R_2 removed\ncomponent R_9 added\n"},
+       "component R_2 removed\ncomponent R_9 added\npin R_9-1 changed net:>LED_DRV\npin R_9-2 changed "
+       "net:>LED_A\n"},
       {{{"neutral", "\"470\"", "\"680\""}}, "property R_2 changed VALUE:470>680\n"},
       {{{"neutral", " (VALUE,\"470\")", ""}}, "property R_2 removed VALUE:470>\n"},
       {{{"neutral", "(VALUE,\"470\")", "(VALUE,\"470\") (TOL,\"1\")"}}, "property R_2 added TOL:>1\n"},
@@ -115,6 +116,16 @@ TEST(ToolDiff, ReportsExactlyTheEdit) {
        "padstack SMD_05X15 changed m_sUnits:MM>IN\n"},
       {{{"geometry", "$$create_board(\"SENSOR_NODE\")", "$$create_board(\"NODE\")"}},
        "board SENSOR_NODE changed name:SENSOR_NODE>NODE\n"},
+      {{{"neutral", "COMP R_2 RS-5002", "COMP R_2 0603"}}, "component R_2 changed part:RS-5002>0603\n"},
+      {{{"geometry", "[0.5, 0.5, 59.5, 0.5,", "[0.5, 0.5, 59.0, 0.5,"}},
+       "board SENSOR_NODE changed routing outline:(0.5, 0.5) (59.5, 0.5) (59.5, 39.5) (0.5, 39.5)>(0.5, 0.5) "
+       "(59, 0.5) "
+       "(59.5, 39.5) (0.5, 39.5)\n"},
+      {{{"tech", "\"VIA_M03\", \"TOP\", \"INNER_1\"", "\"VIA_M03\", \"TOP\", \"BOTTOM\""}},
+       "via VIA_M03 changed rule:TOP, INNER_1>TOP, BOTTOM\n"},
+      {{{"neutral", "NET 'SDA'", "NET 'SDA'\nN_PIN 'R_9-1' 1 1 PAD_1 P"},
+        {"neutral", "COMP R_2 ", "COMP R_9 p s G 5 5 1 0\nCOMP R_2 "}},
+       "component R_9 added\npin R_9-1 added net:>SDA\n"},
       {{{"tech", "\"INNER_1\", \"SIGNAL_2\"", "\"MIDDLE\", \"SIGNAL_2\""}},
        "layer 2 changed name:INNER_1>MIDDLE\n"},
   };
@@ -183,9 +194,43 @@ TEST(ToolDiff, SaysWhatChangedInWords) {
             "2 wires\n  VIN: 2 wires have another width\n");
 }
 
+TEST(ToolDiff, ComparesNamesAsTexts) {
+  const TemporaryFolder folder;
+  const std::string pins = "N_PIN U1-1 a b c d\n";
+  const std::string a = folder.File("a.neutral", "###Nets\nNET 1\n" + pins + "NET 1.0\nN_PIN U2-1 a b c d\n");
+  const std::string b = folder.File("b.neutral", "###Nets\nNET 1\nNET 1.0\n" + pins + "N_PIN U2-1 a b c d\n");
+  const std::string c =
+      folder.File("c.neutral", "###Nets\nNET 01\n" + pins + "NET 1.0\nN_PIN U2-1 a b c d\n");
+  EXPECT_EQ(Changes(a + ' ' + b), "pin U1-1 changed net:1>1.0\n");
+  EXPECT_EQ(Changes(a + ' ' + c), "net 1 renamed name:1>01\n");
+  EXPECT_EQ(RunTool("diff " + a + ' ' + b).out, "1 pin\n  pin U1-1 is now in net 1.0, before in 1\n");
+}
+
+TEST(ToolDiff, ReadsWidthsOfBothSetsInTheSameStep) {
+  const TemporaryFolder folder;
+  const std::string begin = "UNITS MM\n# NET N\nWIR 1 0 0 0 0\n";
+  const std::string a = folder.File("a.traces", begin + "SEG 0 0 1 250\nSEG 1 0 1 250\n");
+  const std::string b = folder.File("b.traces", begin + "SEG 0 0 1 2500\nSEG 1 0 1 2500\n");
+  EXPECT_EQ(Changes(a + ' ' + b), "wire N changed width:0.25>2.5\n");
+}
+
+TEST(ToolDiff, SeesAViaThatMovesAlongItsWire) {
+  const TemporaryFolder folder;
+  const std::string begin = "UNITS MM\n# NET N\nWIR 1 0 0 0 0\nSEG 0 0 1 0.2\n";
+  ASSERT_EQ(std::system(("mkdir " + folder.Path("a") + " " + folder.Path("b")).c_str()), 0);
+  for (const std::string side : {"a", "b"}) {
+    static_cast<void>(folder.File(side + "/x.geometry", "$$create_via(V)\n"));
+    static_cast<void>(folder.File(side + "/x.neutral", "###Nets\nNET N\n"));
+  }
+  static_cast<void>(folder.File("a/x.traces", begin + "SEG 1 0 1 V\nSEG 2 0 1 0.2\nSEG 3 0 1 0.2\n"));
+  static_cast<void>(folder.File("b/x.traces", begin + "SEG 1 0 1 0.2\nSEG 2 0 1 V\nSEG 3 0 1 0.2\n"));
+  EXPECT_EQ(Changes(folder.Path("a") + ' ' + folder.Path("b")), "wire N changed via:V>\n");
+}
+
 TEST(ToolDiff, EndsWith2IfASetCannotBeRead) {
   EXPECT_EQ(RunTool("diff " + kBoard + " /nowhere").status, 2);
   EXPECT_EQ(RunTool("diff " + kBoard).status, 2);
+  EXPECT_EQ(RunTool("diff " + kBoard + "/board.neutral " + kBoard + "/board.traces").status, 2);
   const TemporaryFolder folder;
   const std::string cut = folder.File("a.traces", "UNITS MM\nXRF 1\n");
   EXPECT_EQ(RunTool("diff " + cut + ' ' + cut).status, 2);

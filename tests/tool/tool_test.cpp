@@ -65,8 +65,8 @@ TEST(Tool, WrongUsageAndUnreadableFilesPrintOneLineAndReturn2) {
 }
 
 TEST(Tool, HasHelpOnEveryLevel) {
-  for (const char* arguments :
-       {"--help", "help", "help check", "summary --help", "dump --help", "check --help", "board --help", "diff --help", "draw --help"}) {
+  for (const char* arguments : {"--help", "help", "help check", "summary --help", "dump --help",
+                                "check --help", "board --help", "diff --help", "draw --help"}) {
     const auto result = RunTool(arguments);
     EXPECT_EQ(result.status, 0);
     EXPECT_NE(result.out.find("Example:"), std::string::npos) << arguments;

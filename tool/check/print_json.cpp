@@ -77,7 +77,8 @@ void WriteStrict(JsonWriter& json, const Checked& checked, const StrictTraces& s
   JsonObject object(json);
   object.Member("file", std::string_view(PathToUtf8(checked.imported.files.PathOf(ImportFile::kTraces))))
       .Member("result", static_cast<int>(strict.parse.result))
-      .Member("error", std::string_view(strict.parse.error))
+      .Member("error", strict.parse.result == ParseResult::kExhausted ? std::string_view(strict.parse.error)
+                                                                      : std::string_view())
       .Member("line", LastLine(checked));
   WriteList(json, "errors", strict.parse.errors, [&](const SyntaxError& error) {
     JsonObject(json).Member("line", LineOf(error)).Member("reason", CString(error.Describe()));

@@ -39,6 +39,18 @@ void PrintFile(const Imported& imported, ImportFile file) {
               report.linesRead == 1 ? "" : "s", report.Skipped());
 }
 
+/// The group that says best what is wrong: one of the worst, but first those that explain others.
+const ProblemGroup& CauseOf(const std::vector<ProblemGroup>& groups) {
+  for (const FindingCode code :
+       {FindingCode::kWrongFile, FindingCode::kNothingImported, FindingCode::kNoMatch}) {
+    const auto found = std::find_if(groups.begin(), groups.end(), [&](const ProblemGroup& group) {
+      return group.code == KindOf(code).name;
+    });
+    if (found != groups.end() && found->severity == groups.front().severity) return *found;
+  }
+  return groups.front();
+}
+
 /// "3 errors, 12 warnings: nets and components do not agree".
 std::string VerdictOf(const Checked& checked, const std::vector<ProblemGroup>& groups) {
   std::array<std::size_t, std::size(kSeverityWords)> counts{};
@@ -52,7 +64,7 @@ std::string VerdictOf(const Checked& checked, const std::vector<ProblemGroup>& g
   }
   if (!checked.stopped.empty()) return (text.empty() ? "" : text + ": ") + "the import stopped early";
   if (groups.empty()) return "no problem found";
-  return text + ": " + std::string(groups.front().verdict);
+  return text + ": " + std::string(CauseOf(groups).verdict);
 }
 
 }  // namespace

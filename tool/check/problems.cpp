@@ -48,7 +48,7 @@ ProblemGroup SkippedLinesOf(const Checked& checked, SkipCode code) {
                      .first = {}};
   for (const FileKind& kind : kFileKinds) {
     const FileReport& report = checked.imported.ReportOf(kind.file);
-    if (IsWrongFile(checked.findings, kind.file)) continue;
+    if (checked.Reports("wrong-file") && IsWrongFile(checked.findings, kind.file)) continue;
     const SkippedLines& skipped = report.Skipped(code);
     group.count += static_cast<std::size_t>(skipped.count);
     for (const SkippedLine& line : skipped.first) {
@@ -59,6 +59,21 @@ ProblemGroup SkippedLinesOf(const Checked& checked, SkipCode code) {
     }
   }
   return group;
+}
+
+/// " (also line 12)", for the places after the first.
+std::string OtherPlacesOf(const Checked& checked, const Finding& finding) {
+  constexpr std::size_t kShown = 3;
+  std::string text;
+  for (std::size_t i = 1; i < finding.at.size(); ++i) {
+    const FindingPlace& place = finding.at[i];
+    if (place.line == 0) continue;
+    if (i > kShown) return text + ", ...)";
+    text += text.empty() ? " (also " : ", ";
+    if (place.file != finding.at.front().file) text += checked.imported.files.PathOf(place.file) + " ";
+    text += "line " + std::to_string(place.line);
+  }
+  return text.empty() ? text : text + ')';
 }
 
 ProblemGroup FindingsOf(const Checked& checked, FindingCode code) {
@@ -73,7 +88,7 @@ ProblemGroup FindingsOf(const Checked& checked, FindingCode code) {
     const FindingPlace& place = finding.at.front();
     group.first.push_back({.file = checked.imported.files.PathOf(place.file),
                            .line = place.line,
-                           .message = finding.message,
+                           .message = finding.message + OtherPlacesOf(checked, finding),
                            .text = {}});
   }
   return group;

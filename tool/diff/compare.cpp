@@ -43,7 +43,7 @@ Point SharedShift(std::vector<Point> shifts) {
   return 10 * most > 6 * shifts.size() && IsFinite(best) ? best : Point{};
 }
 
-/// Moves what is compared on the board. Wires and fills are compared by their records.
+/// Moves and rounds what is compared on the board. Wires and fills are compared by their records.
 void TakeOut(Board& board, Point shift) {
   for (Component& component : board.components) component.position = Moved(component.position, shift);
   for (Point& corner : board.outline) corner = Moved(corner, shift);
@@ -56,14 +56,20 @@ void TakeOut(Board& board, Point shift) {
 }  // namespace
 
 Sides ReadSides(const BoardModels& before, const BoardModels& after) {
-  Sides sides{.before = {before, ReadBoard(before)},
-              .after = {after, ReadBoard(after)},
-              .shift = {},
-              .renamedNets = {}};
-  if (!sides.after.board.reading.isConfirmed)
-    sides.after.board = ReadBoard(after, OptionsOf(sides.before.board.reading));
+  Sides sides;
+  sides.before = {before, ReadBoard(before)};
+  sides.after = {after, ReadBoard(after)};
+  const Reading& reading = sides.before.board.reading;
+  const Reading& other = sides.after.board.reading;
+  // With another step, all widths would seem to have changed, or none.
+  if (!other.isConfirmed || (reading.widthStep && other.widthStep != reading.widthStep)) {
+    BoardOptions options = other.isConfirmed ? OptionsOf(other) : OptionsOf(reading);
+    options.widthStep = reading.widthStep;
+    sides.after.board = ReadBoard(after, options);
+  }
   sides.shift = SharedShift(ShiftsOfComponents(sides.before.board, sides.after.board));
-  if (sides.shift != Point{}) TakeOut(sides.after.board, sides.shift);
+  TakeOut(sides.before.board, {});
+  TakeOut(sides.after.board, sides.shift);
   return sides;
 }
 

@@ -1,7 +1,10 @@
 #include <map>
+#include <optional>
 
+#include "kestrin/board/polygons.h"
 #include "kestrin/geometry/geometry_fields.h"
 #include "tool/diff/field_texts.h"
+#include "tool/diff/matching.h"
 #include "tool/diff/sides.h"
 
 namespace kestrin::tool {
@@ -22,20 +25,43 @@ std::string Joined(std::vector<std::string> names) {
   return joined;
 }
 
-/// The fields of the board geometry that the board does not have itself. Its outlines are in the unit of the
-/// file and not moved, so they are left to the board. If the board was moved, so were the contents of its
-/// lists.
+/// The number of elements of a list; nothing for what is no list.
+template <class T>
+std::optional<double> CountIn(const T& /*value*/) {
+  return std::nullopt;
+}
+template <class Type, class ArgType>
+std::optional<double> CountIn(const CArray<Type, ArgType>* list) {
+  return static_cast<double>(list->GetSize());
+}
+
+/// Compares the fields of the board geometry that the board does not have itself. If the board was moved, so
+/// were the contents of its lists, and only their sizes are compared.
 void CompareBoardGeometries(std::vector<Detail>& details, const CMGeomBoard& before, const CMGeomBoard& after,
                             bool isMoved) {
-  const auto texts = FieldTextsOf(before);
-  const auto otherTexts = FieldTextsOf(after);
-  for (std::size_t i = 0; i < texts.size(); ++i) {
-    const std::string_view name = texts[i].first;
+  const auto fieldsOf = [&](const CMGeomBoard& board) {
+    std::vector<std::pair<std::string_view, std::string>> fields;
+    ForEachField(board, [&](std::string_view name, const auto& value) {
+      const auto count = CountIn(value);
+      fields.emplace_back(name, isMoved && count ? TextOf(*count) : ContentOf(value));
+    });
+    return fields;
+  };
+  const auto fields = fieldsOf(before);
+  const auto others = fieldsOf(after);
+  for (std::size_t i = 0; i < fields.size(); ++i) {
+    const std::string_view name = fields[i].first;
     if (name == "m_sName" || name == "m_sUnits" || name.find("Outline") != std::string_view::npos) continue;
-    if (isMoved && name.starts_with("m_p")) continue;
-    if (!AreEqual(texts[i].second, otherTexts[i].second))
-      details.push_back({std::string(name), texts[i].second, otherTexts[i].second});
+    if (!AreEqual(fields[i].second, others[i].second))
+      details.push_back({std::string(name), ShownValueOf(fields[i].second), ShownValueOf(others[i].second)});
   }
+}
+
+/// The routing outline in millimetres. The board has the placement outline, if there is one.
+Polygon RoutingOutlineOf(const BoardSide& side, Point shift) {
+  Polygon outline = PolygonOf(*side.models.geometry->m_pBoard->m_pRoutingOutline, side.board.units.geometry);
+  for (Point& corner : outline) corner = Moved(corner, shift);
+  return outline;
 }
 
 void CompareLayers(const Board& before, const Board& after, Difference& difference) {
@@ -56,8 +82,8 @@ void CompareLayers(const Board& before, const Board& after, Difference& differen
       continue;
     }
     std::vector<Detail> details;
-    CompareValue(details, "name", layer->name, found->second->name);
-    CompareValue(details, "names", Joined(layer->names), Joined(found->second->names));
+    CompareName(details, "name", layer->name, found->second->name);
+    CompareName(details, "names", Joined(layer->names), Joined(found->second->names));
     if (!details.empty()) add(number, ChangeType::kChanged, std::move(details));
   }
   for (const auto& [number, layer] : otherLayers) {
@@ -71,9 +97,11 @@ void CompareBoards(const Sides& sides, Difference& difference) {
   const Board& before = sides.before.board;
   const Board& after = sides.after.board;
   std::vector<Detail> details;
-  CompareValue(details, "name", before.name, after.name);
-  CompareValue(details, "outline", PointsOf(before.outline), PointsOf(after.outline));
+  CompareName(details, "name", before.name, after.name);
+  CompareName(details, "outline", PointsOf(before.outline), PointsOf(after.outline));
   if (sides.before.models.geometry != nullptr && sides.after.models.geometry != nullptr) {
+    CompareName(details, "routing outline", PointsOf(RoutingOutlineOf(sides.before, {})),
+                PointsOf(RoutingOutlineOf(sides.after, sides.shift)));
     CompareBoardGeometries(details, *sides.before.models.geometry->m_pBoard,
                            *sides.after.models.geometry->m_pBoard, difference.shift.has_value());
   }
@@ -81,7 +109,8 @@ void CompareBoards(const Sides& sides, Difference& difference) {
     difference.changes.push_back(
         {ChangedKind::kBoard, before.name, ChangeType::kChanged, std::move(details)});
   }
-  CompareLayers(before, after, difference);
+  if ((sides.before.models.tech == nullptr) == (sides.after.models.tech == nullptr))
+    CompareLayers(before, after, difference);
 }
 
 }  // namespace kestrin::tool

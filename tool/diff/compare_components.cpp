@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <map>
 
 #include "kestrin/board/for_each_record.h"
@@ -56,13 +57,13 @@ void CompareProperties(const std::string& component, const Properties& before, c
 std::vector<Detail> DetailsOf(const Component& before, const Component& after) {
   const auto nameOf = [](Side side) { return side == Side::kTop ? "top" : "bottom"; };
   std::vector<Detail> details;
-  CompareValue(details, "part", before.part, after.part);
-  CompareValue(details, "symbol", before.symbol, after.symbol);
-  CompareValue(details, "geometry", before.geometry, after.geometry);
+  CompareName(details, "part", before.part, after.part);
+  CompareName(details, "symbol", before.symbol, after.symbol);
+  CompareName(details, "geometry", before.geometry, after.geometry);
   CompareValue(details, "x", before.position.x, after.position.x);
   CompareValue(details, "y", before.position.y, after.position.y);
   CompareValue(details, "rotation", before.rotation, after.rotation);
-  CompareValue(details, "side", nameOf(before.side), nameOf(after.side));
+  CompareName(details, "side", nameOf(before.side), nameOf(after.side));
   return details;
 }
 
@@ -91,8 +92,10 @@ void CompareComponents(const Sides& sides, Difference& difference) {
     }
     const Component& other = others[*found];
     std::vector<Detail> details = DetailsOf(component, other);
-    const auto references =
-        details.empty() && !difference.shift ? References::kCompared : References::kNotCompared;
+    const bool isInPlace = std::none_of(details.begin(), details.end(), [](const Detail& detail) {
+      return detail.what == "x" || detail.what == "y" || detail.what == "rotation" || detail.what == "side";
+    });
+    const auto references = isInPlace && !difference.shift ? References::kCompared : References::kNotCompared;
     if (!details.empty())
       changes.push_back({ChangedKind::kComponent, component.name, ChangeType::kChanged, std::move(details)});
     CompareProperties(component.name, PropertiesOf(RecordOf(sides.before, component), references),

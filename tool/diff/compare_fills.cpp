@@ -68,7 +68,7 @@ void CompareFills(const Sides& sides, Difference& difference) {
   std::vector<Matchable> before = FillsOf(sides.before, {}, &sides);
   std::vector<Matchable> after = FillsOf(sides.after, sides.shift, nullptr);
   Match(before, after, [](const Matchable& fill) { return std::string_view(fill.key); });
-  ReportUnmatched(ChangedKind::kFill, before, after, difference);
+  ReportUnmatched(ChangedKind::kFill, sides, before, after, difference);
 }
 
 }  // namespace kestrin::tool

@@ -2,27 +2,22 @@
 
 #include "kestrin/board/for_each_record.h"
 #include "kestrin/geometry/geometry_fields.h"
+#include "kestrin/tech/tech_model.h"
 #include "tool/diff/field_texts.h"
 #include "tool/diff/sides.h"
 
 namespace kestrin::tool {
 namespace {
 
-/// Appends a detail for each field that differs, but for the name. Long contents, such as those of drawings,
-/// are not shown.
+/// Appends a detail for each field that differs, but for the name.
 template <class Record>
 void CompareFields(std::vector<Detail>& details, const Record& before, const Record& after) {
-  constexpr std::size_t kLongestShown = 100;
-  const auto valueOf = [](std::string text) {
-    return text.empty() || text.size() > kLongestShown ? Value() : Value(std::move(text));
-  };
-  auto texts = FieldTextsOf(before);
-  auto otherTexts = FieldTextsOf(after);
+  const auto texts = FieldTextsOf(before);
+  const auto otherTexts = FieldTextsOf(after);
   for (std::size_t i = 0; i < texts.size(); ++i) {
     if (std::string_view(texts[i].first) == "m_sName" || AreEqual(texts[i].second, otherTexts[i].second))
       continue;
-    details.push_back(
-        {texts[i].first, valueOf(std::move(texts[i].second)), valueOf(std::move(otherTexts[i].second))});
+    details.push_back({texts[i].first, ShownValueOf(texts[i].second), ShownValueOf(otherTexts[i].second)});
   }
 }
 
@@ -57,6 +52,37 @@ void CompareLists(ChangedKind kind, const List& before, const List& after, Diffe
   }
 }
 
+/// The via rules of the Tech file, by the name of the via.
+std::map<std::string_view, std::string> ViaRulesOf(const BoardModels& models) {
+  std::map<std::string_view, std::string> rules;
+  if (models.tech == nullptr) return rules;
+  ForEachRecord(models.tech->m_pViaArray, [&](const CMTechVia& rule, Index) {
+    std::string& text = rules[ComparedName(rule.m_sArg1.View())];
+    text += (text.empty() ? "" : "; ") + ContentOf(rule.m_sArg2) + ", " + ContentOf(rule.m_sArgLast);
+  });
+  return rules;
+}
+
+void CompareViaRules(const Sides& sides, Difference& difference) {
+  const auto rules = ViaRulesOf(sides.before.models);
+  const auto others = ViaRulesOf(sides.after.models);
+  const auto add = [&](std::string_view via, std::string_view before, std::string_view after) {
+    difference.changes.push_back({ChangedKind::kVia,
+                                  std::string(via),
+                                  ChangeType::kChanged,
+                                  {{"rule", ValueOf(before), ValueOf(after)}}});
+  };
+  for (const auto& [via, rule] : rules) {
+    const auto found = others.find(via);
+    const std::string_view other =
+        found == others.end() ? std::string_view() : std::string_view(found->second);
+    if (rule != other) add(via, rule, other);
+  }
+  for (const auto& [via, rule] : others) {
+    if (!rules.contains(via)) add(via, {}, rule);
+  }
+}
+
 }  // namespace
 
 void CompareGeometries(const Sides& sides, Difference& difference) {
@@ -69,6 +95,8 @@ void CompareGeometries(const Sides& sides, Difference& difference) {
   CompareLists(ChangedKind::kGeometry, before.m_pPanels, after.m_pPanels, difference);
   CompareLists(ChangedKind::kPadstack, before.m_pPins, after.m_pPins, difference);
   CompareLists(ChangedKind::kVia, before.m_pVias, after.m_pVias, difference);
+  if (sides.before.models.tech != nullptr && sides.after.models.tech != nullptr)
+    CompareViaRules(sides, difference);
 }
 
 }  // namespace kestrin::tool

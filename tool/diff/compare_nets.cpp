@@ -71,19 +71,21 @@ void CompareNets(Sides& sides, Difference& difference) {
     const auto found = others.find(nameAfter);
     if (found == others.end()) {
       difference.changes.push_back({ChangedKind::kNet, net.name, ChangeType::kRemoved, {}});
+      sides.onlyBefore.insert(net.name);
       continue;
     }
     known.insert(found->first);
     std::vector<Detail> details;
-    CompareValue(details, "name", net.name, nameAfter);
+    CompareName(details, "name", net.name, nameAfter);
     const ChangeType type = details.empty() ? ChangeType::kChanged : ChangeType::kRenamed;
     CompareOpenConnections(details, net, *found->second);
     if (!details.empty())
       difference.changes.push_back({ChangedKind::kNet, net.name, type, std::move(details)});
   }
   for (const Net& net : sides.after.board.nets) {
-    if (!known.contains(net.name))
-      difference.changes.push_back({ChangedKind::kNet, net.name, ChangeType::kAdded, {}});
+    if (known.contains(net.name)) continue;
+    difference.changes.push_back({ChangedKind::kNet, net.name, ChangeType::kAdded, {}});
+    sides.onlyAfter.insert(net.name);
   }
 }
 

@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <iterator>
 #include <set>
 #include <unordered_map>
 
@@ -31,44 +33,38 @@ std::set<std::string_view> NamesOf(const Difference& difference, ChangedKind kin
 }  // namespace
 
 /// Compares the nets of pins. Where a pin is follows from its component and geometry, and so is not compared.
-/// A pin that only follows a net or a component that was added or removed is not reported, either.
+/// Nor are pins that came or went with their net, or went with their component.
 void ComparePins(const Sides& sides, Difference& difference) {
   const NetsOfPins before = NetsOfPinsOf(sides.before.board);
   const NetsOfPins after = NetsOfPinsOf(sides.after.board);
   const auto addedNets = NamesOf(difference, ChangedKind::kNet, ChangeType::kAdded);
   const auto removedNets = NamesOf(difference, ChangedKind::kNet, ChangeType::kRemoved);
   const auto removed = NamesOf(difference, ChangedKind::kComponent, ChangeType::kRemoved);
-  const auto added = NamesOf(difference, ChangedKind::kComponent, ChangeType::kAdded);
   std::vector<Change> changes;
-  const auto componentOf = [](const Board& board, const NetPin& pin) {
-    return pin.component ? std::string_view(board.components[*pin.component].name) : std::string_view();
-  };
-  const auto add = [&](const NetPin& pin, std::string_view from, std::string_view to) {
-    std::vector<Detail> details;
-    CompareValue(details, "net", from, to);
-    const ChangeType type = from.empty() ? ChangeType::kAdded
-                            : to.empty() ? ChangeType::kRemoved
-                                         : ChangeType::kChanged;
-    // A pin on the board does not come or go with its net.
-    changes.push_back(
-        {ChangedKind::kPin, pin.name, pin.pin ? ChangeType::kChanged : type, std::move(details)});
+  const auto add = [&](const NetPin& pin, ChangeType type, Value from, Value to) {
+    // A pin of a component does not come or go with its net.
+    changes.push_back({ChangedKind::kPin,
+                       pin.name,
+                       pin.pin ? ChangeType::kChanged : type,
+                       {{"net", std::move(from), std::move(to)}}});
   };
   for (const Net& net : sides.before.board.nets) {
     for (const NetPin& pin : sides.before.board.PinsOf(net)) {
       const auto found = after.find(pin.name);
-      const std::string_view now = found == after.end() ? std::string_view() : found->second;
-      if (now == sides.NameAfter(net.name)) continue;
-      const bool follows = now.empty() && (removedNets.contains(net.name) ||
-                                           removed.contains(componentOf(sides.before.board, pin)));
-      if (!follows) add(pin, net.name, now);
+      if (found != after.end()) {
+        if (found->second != sides.NameAfter(net.name))
+          add(pin, ChangeType::kChanged, net.name, std::string(found->second));
+        continue;
+      }
+      const bool isGone =
+          pin.component && removed.contains(sides.before.board.components[*pin.component].name);
+      if (!isGone && !removedNets.contains(net.name)) add(pin, ChangeType::kRemoved, net.name, {});
     }
   }
   for (const Net& net : sides.after.board.nets) {
+    if (addedNets.contains(net.name)) continue;
     for (const NetPin& pin : sides.after.board.PinsOf(net)) {
-      if (before.contains(pin.name)) continue;
-      const bool follows =
-          addedNets.contains(net.name) || added.contains(componentOf(sides.after.board, pin));
-      if (!follows) add(pin, {}, net.name);
+      if (!before.contains(pin.name)) add(pin, ChangeType::kAdded, {}, net.name);
     }
   }
   std::move(changes.begin(), changes.end(), std::back_inserter(difference.changes));

@@ -1,21 +1,23 @@
+#include <algorithm>
+
 #include "tool/diff/values.h"
 #include "tool/diff/wires.h"
 
 namespace kestrin::tool {
 namespace {
 
-/// The names of vias in the text of a wire, without the points that have none.
-std::string ViaNames(std::string_view vias) {
-  std::string names;
-  for (std::size_t begin = 0; begin < vias.size();) {
-    const std::size_t end = vias.find('\n', begin);
-    if (end > begin) names += (names.empty() ? "" : ", ") + std::string(vias.substr(begin, end - begin));
+/// The lines of a text, without line feeds.
+std::vector<std::string_view> LinesOf(std::string_view text) {
+  std::vector<std::string_view> lines;
+  for (std::size_t begin = 0; begin < text.size();) {
+    const std::size_t end = text.find('\n', begin);
+    lines.push_back(text.substr(begin, end - begin));
     begin = end + 1;
   }
-  return names;
+  return lines;
 }
 
-/// How two wires with the same path differ. Of several legs, the first that differs is shown.
+/// How two wires with the same path differ. Of several legs or points, the first that differs is shown.
 std::vector<Detail> DetailsOf(const Wire& before, const Wire& after) {
   std::vector<Detail> details;
   const auto compare = [&](const char* what, auto member) {
@@ -30,8 +32,10 @@ std::vector<Detail> DetailsOf(const Wire& before, const Wire& after) {
   };
   compare("layer", &Copper::layer);
   compare("width", &Copper::width);
-  if (before.Vias() != after.Vias())
-    CompareValue(details, "via", ViaNames(before.Vias()), ViaNames(after.Vias()));
+  const auto vias = LinesOf(before.Vias());
+  const auto otherVias = LinesOf(after.Vias());
+  const auto [via, otherVia] = std::mismatch(vias.begin(), vias.end(), otherVias.begin(), otherVias.end());
+  if (via != vias.end()) details.push_back({"via", ValueOf(*via), ValueOf(*otherVia)});
   return details;
 }
 
@@ -45,7 +49,7 @@ void CompareWires(const Sides& sides, Difference& difference) {
     difference.changes.push_back(
         {ChangedKind::kWire, wire.net, ChangeType::kChanged, DetailsOf(wire, wires.after[*wire.match])});
   }
-  ReportUnmatched(ChangedKind::kWire, wires.before, wires.after, difference);
+  ReportUnmatched(ChangedKind::kWire, sides, wires.before, wires.after, difference);
 }
 
 }  // namespace kestrin::tool

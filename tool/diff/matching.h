@@ -3,6 +3,7 @@
 /// @file
 /// Matching the elements of two multisets.
 
+#include <cmath>
 #include <cstddef>
 #include <cstring>
 #include <optional>
@@ -12,7 +13,7 @@
 #include <vector>
 
 #include "kestrin/board/millimetres.h"
-#include "tool/diff/difference.h"
+#include "tool/diff/sides.h"
 
 namespace kestrin::tool {
 
@@ -29,8 +30,13 @@ void AppendBytes(std::string& text, const T& value) {
   text.append(reinterpret_cast<const char*>(&value), sizeof value);
 }
 
+/// A point without a shift, rounded to a nanometre: an export in another unit rounds its coordinates.
 [[nodiscard]] inline Point Moved(Point point, Point shift) {
-  return {Rounded(point.x - shift.x), Rounded(point.y - shift.y)};
+  constexpr double kNanometres = 1e6;
+  const auto rounded = [&](double length) {
+    return std::abs(length) < kNanometres ? Rounded(std::round(length * kNanometres) / kNanometres) : length;
+  };
+  return {rounded(point.x - shift.x), rounded(point.y - shift.y)};
 }
 
 /// Matches those elements of two lists that have no match yet and have equal keys, each with one other.
@@ -50,15 +56,17 @@ void Match(std::vector<Element>& before, std::vector<Element>& after, KeyOf keyO
   }
 }
 
-/// Reports the elements without a match as removed or added.
+/// Reports the elements without a match as removed or added, unless their net was.
 template <class Element>
-void ReportUnmatched(ChangedKind kind, const std::vector<Element>& before, const std::vector<Element>& after,
-                     Difference& difference) {
+void ReportUnmatched(ChangedKind kind, const Sides& sides, const std::vector<Element>& before,
+                     const std::vector<Element>& after, Difference& difference) {
   for (const Element& element : before) {
-    if (!element.match) difference.changes.push_back({kind, element.net, ChangeType::kRemoved, {}});
+    if (!element.match && !sides.onlyBefore.contains(element.net))
+      difference.changes.push_back({kind, element.net, ChangeType::kRemoved, {}});
   }
   for (const Element& element : after) {
-    if (!element.match) difference.changes.push_back({kind, element.net, ChangeType::kAdded, {}});
+    if (!element.match && !sides.onlyAfter.contains(element.net))
+      difference.changes.push_back({kind, element.net, ChangeType::kAdded, {}});
   }
 }
 

@@ -55,8 +55,10 @@ std::string PropertyText(const Change& change) {
 std::string NetText(const Sides& sides, const Change& change) {
   std::string text;
   for (const Detail& detail : change.details) {
-    if (detail.what != "name")
-      text += ", open connections: " + TextOf(detail.before) + " before, " + TextOf(detail.after) + " after";
+    if (detail.what == "name") continue;
+    text += detail.before == detail.after
+                ? ": other open connections"
+                : ": " + TextOf(detail.after) + " open connections, before " + TextOf(detail.before);
   }
   if (change.type != ChangeType::kRenamed) return "net " + change.name + text;
   const auto& nets = sides.before.board.nets;
@@ -76,12 +78,28 @@ std::string PinText(const Change& change) {
   return "pin " + change.name + " is now in net " + TextOf(net.after) + ", before in " + TextOf(net.before);
 }
 
-/// The members of a geometry, without the prefixes of the model: "pin definitions" for "m_pPinDefs".
+/// A member as words: "pin defs" for "m_pPinDefs".
+std::string WordsOf(std::string_view what) {
+  if (!what.starts_with("m_")) return std::string(what);
+  std::string words;
+  for (const char c : what.substr(std::min<std::size_t>(3, what.size()))) {
+    const bool isCapital = c >= 'A' && c <= 'Z';
+    if (isCapital && !words.empty()) words += ' ';
+    words += isCapital ? static_cast<char>(c - 'A' + 'a') : c;
+  }
+  return words;
+}
+
+/// "geometry CHIP_0805: height 0.8 is now 0.9, pin defs differ".
 std::string OtherText(std::string_view kind, const Change& change) {
-  std::string text = std::string(kind) + ' ' + change.name;
-  std::string parts;
-  for (const Detail& detail : change.details) parts += (parts.empty() ? "" : ", ") + detail.what;
-  return parts.empty() ? text : text + ": " + parts + (change.details.size() == 1 ? " differs" : " differ");
+  std::string text;
+  for (const Detail& detail : change.details) {
+    const bool hasValues = !std::holds_alternative<std::monostate>(detail.before) ||
+                           !std::holds_alternative<std::monostate>(detail.after);
+    text += (text.empty() ? "" : ", ") + WordsOf(detail.what);
+    text += hasValues ? ' ' + TextOf(detail.before) + " is now " + TextOf(detail.after) : " changed";
+  }
+  return std::string(kind) + (change.name.empty() ? "" : ' ' + change.name) + ": " + text;
 }
 
 std::string TextOf(const Sides& sides, const Change& change, std::string_view kind) {
@@ -91,8 +109,6 @@ std::string TextOf(const Sides& sides, const Change& change, std::string_view ki
   if (change.type == ChangeType::kRemoved) return std::string(kind) + ' ' + change.name + " was removed";
   if (change.kind == ChangedKind::kComponent) return ComponentText(change);
   if (change.kind == ChangedKind::kNet) return NetText(sides, change);
-  if (change.kind == ChangedKind::kLayer && change.details.size() == 1)
-    return "layer " + change.name + ": " + NowText(change.details.front());
   return OtherText(kind, change);
 }
 

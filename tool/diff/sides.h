@@ -4,6 +4,7 @@
 /// The two boards of a comparison.
 
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -27,6 +28,10 @@ struct Sides {
 
   /// The names that nets of the first board have on the second, if they were renamed.
   std::map<std::string, std::string, std::less<>> renamedNets;
+
+  /// The nets that only one of the boards has. What belongs to them is not compared.
+  std::set<std::string, std::less<>> onlyBefore;
+  std::set<std::string, std::less<>> onlyAfter;
 
   /// The name of a net of the first board on the second.
   [[nodiscard]] std::string_view NameAfter(std::string_view net) const {

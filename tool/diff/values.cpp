@@ -2,6 +2,7 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <optional>
 
 namespace kestrin::tool {
@@ -11,12 +12,18 @@ std::optional<double> NumberOf(std::string_view text) {
   double number = 0.0;
   const char* const end = text.data() + text.size();
   const auto read = std::from_chars(text.data(), end, number);
-  return read.ec == std::errc() && read.ptr == end ? std::optional(number) : std::nullopt;
+  const bool isNumber = read.ec == std::errc() && read.ptr == end && std::isfinite(number);
+  return isNumber ? std::optional(number) : std::nullopt;
 }
+
+}  // namespace
 
 Value ValueOf(std::string_view text) { return text.empty() ? Value() : Value(std::string(text)); }
 
-}  // namespace
+Value ShownValueOf(std::string_view content) {
+  constexpr std::size_t kLongestShown = 100;
+  return content.size() > kLongestShown ? Value() : ValueOf(content);
+}
 
 bool AreEqual(std::string_view before, std::string_view after) {
   if (before == after) return true;
@@ -28,9 +35,9 @@ void CompareValue(std::vector<Detail>& details, const char* what, double before,
   if (before != after) details.push_back({what, before, after});
 }
 
-void CompareValue(std::vector<Detail>& details, std::string_view what, std::string_view before,
-                  std::string_view after) {
-  if (!AreEqual(before, after)) details.push_back({std::string(what), ValueOf(before), ValueOf(after)});
+void CompareName(std::vector<Detail>& details, const char* what, std::string_view before,
+                 std::string_view after) {
+  if (before != after) details.push_back({what, ValueOf(before), ValueOf(after)});
 }
 
 std::string TextOf(double number) {

@@ -11,14 +11,20 @@
 
 namespace kestrin::tool {
 
-/// Whether two texts are equal, or are numbers that are: "28" and "28.0".
+/// Whether two values of files are equal: as texts, or as numbers, such as "28" and "28.0".
 [[nodiscard]] bool AreEqual(std::string_view before, std::string_view after);
 
+/// A text as a value; nothing if it is empty.
+[[nodiscard]] Value ValueOf(std::string_view text);
+
+/// The content of a field as a value; nothing if it is too long to be shown, such as that of a drawing.
+[[nodiscard]] Value ShownValueOf(std::string_view content);
+
 ///@{
-/// Appends a detail if the values differ. An empty text counts as nothing.
+/// Appends a detail if numbers or names differ. Names are compared as texts: part 0603 is not part 603.
 void CompareValue(std::vector<Detail>& details, const char* what, double before, double after);
-void CompareValue(std::vector<Detail>& details, std::string_view what, std::string_view before,
-                  std::string_view after);
+void CompareName(std::vector<Detail>& details, const char* what, std::string_view before,
+                 std::string_view after);
 ///@}
 
 /// A number as people write it.

@@ -40,6 +40,13 @@ void CheckVertices(const List& areas, std::string_view what, const CMTracesFIL& 
   });
 }
 
+/// Checks the coordinates of keep-outs or placement outlines.
+template <class List>
+void CheckAreasIn(const List& areas, const std::string& what, Collector& findings) {
+  ForEachRecord(areas,
+                [&](const auto& area, Index) { CheckOutline(*area.m_pCoords, what, &area, findings); });
+}
+
 void CheckOutlinesOf(const CMGeom& geometry, Collector& findings) {
   const CMGeomBoard& board = *geometry.m_pBoard;
   CheckOutline(*board.m_pPlacementOutline, "the placement outline of the board", board.m_pPlacementOutline,
@@ -47,10 +54,17 @@ void CheckOutlinesOf(const CMGeom& geometry, Collector& findings) {
   CheckOutline(*board.m_pRoutingOutline, "the routing outline of the board", board.m_pRoutingOutline,
                findings);
   ForEachRecord(geometry.m_pComponents, [&](const CMGeomComponent& component, Index) {
-    ForEachRecord(component.m_pPlacementOutlines, [&](const CMGeomPlacementOutline& outline, Index) {
-      const std::string_view name = ComparedName(component.m_sName.View());
-      CheckOutline(*outline.m_pCoords, "the placement outline of " + Quoted(name), &outline, findings);
-    });
+    const std::string name = Quoted(ComparedName(component.m_sName.View()));
+    CheckOutline(*component.m_pBodyOutline, "the body outline of " + name, component.m_pBodyOutline,
+                 findings);
+    CheckAreasIn(component.m_pPlacementOutlines, "a placement outline of " + name, findings);
+    CheckAreasIn(component.m_pRoutingKeepouts, "a keep-out of " + name, findings);
+    CheckAreasIn(component.m_pTraceKeepouts, "a keep-out of " + name, findings);
+    CheckAreasIn(component.m_pViaKeepouts, "a keep-out of " + name, findings);
+  });
+  ForEachRecord(geometry.m_pGenericParts, [&](const CMGeomGenericPart& part, Index) {
+    const std::string name = Quoted(ComparedName(part.m_sName.View()));
+    CheckOutline(*part.m_pBodyOutline, "the body outline of " + name, part.m_pBodyOutline, findings);
   });
 }
 

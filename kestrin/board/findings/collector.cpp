@@ -31,11 +31,13 @@ Findings Collector::Finish() {
 }
 
 void NameMatches::Finish(Collector& findings) && {
-  const bool isOneMistake = missed_ > 1 && total_ - missed_ < missed_;
-  if (!isOneMistake) return findings.AddAll(code_, std::move(first_), missed_);
+  const std::size_t total = matched_.size() + missed_.size();
+  const bool isOneMistake = missed_.size() > 1 && matched_.size() < missed_.size();
+  if (!isOneMistake) return findings.AddAll(code_, std::move(first_), misses_);
   Finding finding = std::move(first_.front());
-  finding.message = std::to_string(missed_) + " of " + std::to_string(total_) + ' ' + std::string(kind_) +
-                    " do not name " + std::string(target_) + "; do the files belong to the same board?";
+  finding.message = std::to_string(missed_.size()) + " of " + std::to_string(total) + ' ' +
+                    std::string(kind_) + " do not name " + std::string(target_) +
+                    "; do the files belong to the same board?";
   findings.AddAll(FindingCode::kNoMatch, {std::move(finding)}, 1);
 }
 

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <string>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -35,10 +36,15 @@ class Collector {
   /// The line that made a record.
   [[nodiscard]] FindingPlace PlaceOf(ImportFile file, const void* record) const;
 
+  /// Says that a file is not what it should be, or not whole. Then nothing is compared with it.
+  void Doubt(ImportFile file) { isDoubtful_[static_cast<std::size_t>(file)] = true; }
+  [[nodiscard]] bool Trusts(ImportFile file) const { return !isDoubtful_[static_cast<std::size_t>(file)]; }
+
   [[nodiscard]] Findings Finish();
 
  private:
   const CheckedSet& set_;
+  std::array<bool, kImportFileCount> isDoubtful_{};
   std::array<std::vector<Finding>, kFindingKinds.size()> kept_;
   std::array<std::size_t, kFindingKinds.size()> counts_{};
 };
@@ -51,13 +57,14 @@ class NameMatches {
   NameMatches(FindingCode code, std::string_view kind, std::string_view target)
       : code_(code), kind_(kind), target_(target) {}
 
-  void Match() { ++total_; }
+  /// A name that matches, which may have matched before.
+  void Match(std::string_view name) { matched_.insert(name); }
 
-  /// A name that matches nothing. The action makes its finding.
+  /// A name that matches nothing. The action makes its finding. The name must outlive this object.
   template <class Make>
-  void Miss(Make make) {
-    ++total_;
-    if (++missed_ <= Findings::kKept) first_.push_back(make());
+  void Miss(std::string_view name, Make make) {
+    missed_.insert(name);
+    if (++misses_ <= Findings::kKept) first_.push_back(make());
   }
 
   /// Adds the findings.
@@ -67,8 +74,9 @@ class NameMatches {
   FindingCode code_;
   std::string_view kind_;
   std::string_view target_;
-  std::size_t total_ = 0;
-  std::size_t missed_ = 0;
+  std::unordered_set<std::string_view> matched_;
+  std::unordered_set<std::string_view> missed_;
+  std::size_t misses_ = 0;
   std::vector<Finding> first_;
 };
 

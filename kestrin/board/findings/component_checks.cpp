@@ -45,14 +45,14 @@ void CheckNamesOfComponents(const CheckedSet& set, const Board& board, Collector
 }
 
 void CheckGeometriesOfComponents(const CheckedSet& set, const Board& board, Collector& findings) {
-  if (set.models.geometry == nullptr) return;
-  NameMatches matches(FindingCode::kUnknownGeometry, "components", "a component geometry");
+  if (set.models.geometry == nullptr || !findings.Trusts(ImportFile::kGeometry)) return;
+  NameMatches matches(FindingCode::kUnknownGeometry, "geometries of components", "a component geometry");
   for (const Component& component : board.components) {
     if (component.geometryIndex) {
-      matches.Match();
+      matches.Match(component.geometry);
       continue;
     }
-    matches.Miss([&] {
+    matches.Miss(component.geometry, [&] {
       return Finding{.message = "component " + Quoted(component.name) + " has geometry " +
                                 Quoted(component.geometry) + ", which the Geometry file does not have",
                      .at = {PlaceOf(set, component, findings)}};

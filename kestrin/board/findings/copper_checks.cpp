@@ -41,10 +41,10 @@ void CheckVias(const CheckedSet& set, const Board& board, Collector& findings) {
   });
   NameMatches matches(FindingCode::kUnknownVia, "names of vias on tracks", "a via");
   for (const auto& [name, isUsed] : known) {
-    if (isUsed) matches.Match();
+    if (isUsed) matches.Match(name);
   }
   for (const auto& entry : unknown) {
-    matches.Miss([&] {
+    matches.Miss(entry.first, [&] {
       const std::string& name = entry.first;
       const UnknownVia& via = entry.second;
       return Finding{.message = Quoted(name) + " is neither a width nor a via; " + std::to_string(via.count) +
@@ -64,8 +64,8 @@ void CheckNetsOfFills(const CheckedSet& set, const Board& board, Collector& find
   NameMatches matches(FindingCode::kUnknownFillNet, "nets of fills", "a net");
   ForEachRecord(set.models.traces->m_pFilArray, [&](const CMTracesFIL& fill, Index) {
     const std::string_view name = ComparedName(fill.m_sName1.View());
-    if (nets.contains(name)) return matches.Match();
-    matches.Miss([&] {
+    if (nets.contains(name)) return matches.Match(name);
+    matches.Miss(name, [&] {
       return Finding{.message = "a fill names net " + Quoted(name) + ", which no file has",
                      .at = {findings.PlaceOf(ImportFile::kTraces, &fill)}};
     });
@@ -79,10 +79,13 @@ void CheckReading(const CheckedSet& /*set*/, const Board& board, Collector& find
   if (reading.isConfirmed || reading.pinsCounted < kEnoughToTell) return;
   findings.Add(FindingCode::kUnconfirmedReading, [&] {
     const bool fits = reading.pinsTouching >= reading.pinsCounted - reading.pinsTouching;
+    const bool areEnough = reading.pinsTouching >= kEnoughToTell;
     return Finding{
         .message = "the placement of components is a guess: " + std::to_string(reading.pinsTouching) +
                    " of " + std::to_string(reading.pinsCounted) + " pins touch copper of their net" +
-                   (fits ? ", and another reading fits as well" : ""),
+                   (!fits       ? ""
+                    : areEnough ? ", and another reading fits as well"
+                                : ", too few to be sure"),
         .at = {{ImportFile::kNeutral}, {ImportFile::kTraces}}};
   });
 }

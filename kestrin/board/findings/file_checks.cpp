@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cstdio>
+#include <map>
 
 #include "kestrin/base/file_handle.h"
 #include "kestrin/board/findings/checks.h"
@@ -23,7 +24,9 @@ std::optional<ImportFile> OtherKindOf(ImportFile file, const FileReport& report)
 }
 
 void CheckKind(ImportFile file, const FileReport& report, Collector& findings) {
+  if (report.end == ReadingEnd::kStopped) findings.Doubt(file);
   if (const auto other = OtherKindOf(file, report)) {
+    findings.Doubt(file);
     return findings.Add(FindingCode::kWrongFile, [&] {
       return Finding{.message = "most lines are records of a " + std::string(NameOf(*other)) +
                                 " file, but the file was read as the " + std::string(NameOf(file)) + " file",
@@ -31,6 +34,7 @@ void CheckKind(ImportFile file, const FileReport& report, Collector& findings) {
     });
   }
   if (report.Imported() > 0) return;
+  findings.Doubt(file);
   findings.Add(FindingCode::kNothingImported, [&] {
     return Finding{.message = "no line of the " + std::string(NameOf(file)) + " file was imported",
                    .at = {{file}}};
@@ -61,20 +65,27 @@ void CheckNumbers(ImportFile file, const CheckedSet& set, Collector& findings) {
   findings.AddAll(FindingCode::kNotANumber, std::move(first), misread.count);
 }
 
-/// The models do not tell unknown units of geometries from missing ones.
+/// Finds unknown units of geometries, which the models do not tell from missing ones. One finding for each
+/// word.
 void CheckPages(const FileReport& report, Collector& findings) {
+  constexpr std::size_t kMostPlaces = 100;
   CStdioFile file;
   if (file.Open(report.path.c_str()) == 0) return;
+  std::map<std::string, std::vector<FindingPlace>> unknown;
   std::int64_t number = 0;
   while (const auto line = file.ReadLine()) {
     ++number;
     const auto option = line->find('@');
-    if (option == std::string_view::npos || CutCommandLine(*line).word != "$$page" ||
-        !UnitOfPage(*line).empty())
-      continue;
+    if (option == std::string_view::npos) continue;
+    const auto [word, arguments] = CutCommandLine(*line);
+    if (word != "$$page" || !UnitOfPage(arguments).empty()) continue;
+    std::vector<FindingPlace>& places = unknown[std::string(arguments.substr(arguments.find('@')))];
+    if (places.size() < kMostPlaces) places.push_back({ImportFile::kGeometry, number});
+  }
+  for (const auto& unit : unknown) {
     findings.Add(FindingCode::kUnknownUnit, [&] {
-      return Finding{.message = "the unit of a geometry is unknown: " + std::string(line->substr(option)),
-                     .at = {{ImportFile::kGeometry, number}}};
+      return Finding{.message = "the unit " + Quoted(unit.first) + " of geometries is unknown",
+                     .at = unit.second};
     });
   }
 }

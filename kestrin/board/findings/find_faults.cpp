@@ -5,6 +5,7 @@ namespace kestrin {
 namespace {
 
 constexpr Check kChecks[] = {
+    &CheckFiles,  // first, as it says which files not to trust
     &CheckComponentsOfPins,
     &CheckPinsOfNets,
     &CheckPinsInTwoNets,
@@ -24,7 +25,6 @@ constexpr Check kChecks[] = {
     &CheckReading,
     &CheckUnitsAgree,
     &CheckUnitsAreKnown,
-    &CheckFiles,
 };
 
 }  // namespace

@@ -19,8 +19,8 @@ class PadstackCheck {
   void Check(const CString& padstack, const void* record, std::string_view owner, const CString& ownerName) {
     const std::string_view name = ComparedName(padstack.View());
     if (name.empty()) return;
-    if (pins_.Find(name)) return matches_.Match();
-    matches_.Miss([&] {
+    if (pins_.Find(name)) return matches_.Match(name);
+    matches_.Miss(name, [&] {
       return Finding{.message = std::string(owner) + ' ' + Quoted(ComparedName(ownerName.View())) +
                                 " names padstack " + Quoted(name) + ", which does not exist",
                      .at = {findings_.PlaceOf(ImportFile::kGeometry, record)}};

@@ -41,10 +41,11 @@ class LayersInUse {
 
   void Report(Collector& findings) {
     NameMatches matches(FindingCode::kUnknownLayer, "layers in use", "a layer of the Tech file");
-    for (std::size_t i = missing_.size(); i < used_.size(); ++i) matches.Match();
+    for (const std::string& layer : present_) matches.Match(layer);
     for (const Missing& missing : missing_) {
-      matches.Miss(
-          [&] { return Finding{.message = "the Tech file has no " + missing.layer, .at = {missing.place}}; });
+      matches.Miss(missing.layer, [&] {
+        return Finding{.message = "the Tech file has no " + missing.layer, .at = {missing.place}};
+      });
     }
     std::move(matches).Finish(findings);
   }
@@ -56,12 +57,16 @@ class LayersInUse {
   };
 
   /// Whether this is the first use of a layer that is missing.
-  bool Use(const std::string& layer, bool isThere) { return used_.insert(layer).second && !isThere; }
+  bool Use(const std::string& layer, bool isThere) {
+    if (isThere) present_.insert(layer);
+    return !isThere && absent_.insert(layer).second;
+  }
 
   const Collector& findings_;
   std::set<int> numbers_;
   std::set<std::string, std::less<>> names_;
-  std::set<std::string, std::less<>> used_;
+  std::set<std::string> present_;
+  std::set<std::string> absent_;
   std::vector<Missing> missing_;
   int lastNumber_ = 0;
 };
@@ -70,6 +75,12 @@ void UseLayersOf(const CMTraces& traces, LayersInUse& layers) {
   ForEachRecord(traces.m_pNetArray, [&](const CMTracesNET& header, Index) {
     ForEachPolyline(header, [&](const auto& polyline, WireKind, Index) {
       ForEachRecord(polyline.m_pSegArray,
+                    [&](const CMTracesSEG& point, Index) { layers.UseNumber(point.m_nValue3, point); });
+    });
+  });
+  ForEachRecord(traces.m_pNetArray, [&](const CMTracesNET& header, Index) {
+    ForEachRecord(header.m_pIncArray, [&](const CMTracesINCANT& open, Index) {
+      ForEachRecord(open.m_pSegArray,
                     [&](const CMTracesSEG& point, Index) { layers.UseNumber(point.m_nValue3, point); });
     });
   });
@@ -88,6 +99,21 @@ void UseLayersOf(const Geometry& geometry, LayersInUse& layers) {
   });
 }
 
+/// The layers of keep-outs or placement outlines, which are their names.
+template <class List>
+void UseNamesOf(const List& areas, LayersInUse& layers) {
+  ForEachRecord(areas, [&](const auto& area, Index) {
+    layers.UseName(ComparedName(area.m_sName.View()), ImportFile::kGeometry, &area);
+  });
+}
+
+void UseLayersOf(const CMTech& tech, LayersInUse& layers) {
+  ForEachRecord(tech.m_pViaArray, [&](const CMTechVia& rule, Index) {
+    layers.UseName(ComparedName(rule.m_sArg2.View()), ImportFile::kTech, &rule);
+    layers.UseName(ComparedName(rule.m_sArgLast.View()), ImportFile::kTech, &rule);
+  });
+}
+
 template <class List>
 void UseLayersOfAll(const List& geometries, LayersInUse& layers) {
   ForEachRecord(geometries, [&](const auto& geometry, Index) { UseLayersOf(geometry, layers); });
@@ -98,27 +124,36 @@ void UseLayersOfAll(const List& geometries, LayersInUse& layers) {
 void CheckNamesOfLayers(const CheckedSet& set, const Board& /*board*/, Collector& findings) {
   if (set.models.tech == nullptr) return;
   std::map<std::string, const CMTechStackUpOrder*> seen;
-  const auto check = [&](const std::string& layer, const CMTechStackUpOrder& record) {
-    const CMTechStackUpOrder* const first = seen.emplace(layer, &record).first->second;
+  ForEachRecord(set.models.tech->m_pStackupArray, [&](const CMTechStackUpOrder& record, Index) {
+    const std::string number = std::to_string(record.m_nPhysicalLayerNumber);
+    const std::string name = Quoted(ComparedName(record.m_sPhysicalLayerName.View()));
+    const CMTechStackUpOrder* const sameNumber = seen.emplace(number, &record).first->second;
+    const CMTechStackUpOrder* const sameName = seen.emplace(name, &record).first->second;
+    const CMTechStackUpOrder* const first = sameNumber != &record ? sameNumber : sameName;
     if (first == &record) return;
     findings.Add(FindingCode::kDuplicateLayer, [&] {
       return Finding{
-          .message = "physical layer " + layer + " is there more than once",
+          .message = "physical layer " + (first == sameNumber ? number : name) + " is there more than once",
           .at = {findings.PlaceOf(ImportFile::kTech, &record), findings.PlaceOf(ImportFile::kTech, first)}};
     });
-  };
-  ForEachRecord(set.models.tech->m_pStackupArray, [&](const CMTechStackUpOrder& record, Index) {
-    check(std::to_string(record.m_nPhysicalLayerNumber), record);
-    check(Quoted(ComparedName(record.m_sPhysicalLayerName.View())), record);
   });
 }
 
 void CheckLayersInUse(const CheckedSet& set, const Board& board, Collector& findings) {
   if (set.models.tech == nullptr || set.models.tech->m_pStackupArray->IsEmpty()) return;
   LayersInUse layers(board, findings);
+  UseLayersOf(*set.models.tech, layers);
   if (set.models.traces != nullptr) UseLayersOf(*set.models.traces, layers);
   if (const CMGeom* geometry = set.models.geometry) {
     UseLayersOf(*geometry->m_pBoard, layers);
+    UseNamesOf(geometry->m_pBoard->m_pPlacementKeepouts, layers);
+    UseNamesOf(geometry->m_pBoard->m_pRoutingKeepouts, layers);
+    ForEachRecord(geometry->m_pComponents, [&](const CMGeomComponent& component, Index) {
+      UseNamesOf(component.m_pPlacementOutlines, layers);
+      UseNamesOf(component.m_pRoutingKeepouts, layers);
+      UseNamesOf(component.m_pTraceKeepouts, layers);
+      UseNamesOf(component.m_pViaKeepouts, layers);
+    });
     UseLayersOfAll(geometry->m_pComponents, layers);
     UseLayersOfAll(geometry->m_pPins, layers);
     UseLayersOfAll(geometry->m_pVias, layers);

@@ -45,13 +45,15 @@ void ForEachPin(const Board& board, Action action) {
 }  // namespace
 
 void CheckComponentsOfPins(const CheckedSet& set, const Board& board, Collector& findings) {
-  NameMatches matches(FindingCode::kUnknownComponent, "pins of nets", "a component");
+  NameMatches matches(FindingCode::kUnknownComponent, "references of pins", "a component");
   ForEachPin(board, [&](const Net& net, const NetPin& pin) {
-    if (pin.component) return matches.Match();
-    matches.Miss([&] {
-      const std::string reference = ComparedReference(PinRecord(set, pin).m_sRef.View());
-      return Finding{.message = "net " + Quoted(net.name) + " has pin " + Quoted(pin.name) +
-                                ", but there is no component " + Quoted(reference),
+    if (pin.component) return matches.Match(board.components[*pin.component].name);
+    const std::string_view reference = ComparedName(PinRecord(set, pin).m_sRef.View());
+    matches.Miss(reference, [&] {
+      const std::string why = reference.empty()
+                                  ? ", which names no component"
+                                  : ", but there is no component " + Quoted(ComparedReference(reference));
+      return Finding{.message = "net " + Quoted(net.name) + " has pin " + Quoted(pin.name) + why,
                      .at = {PlaceOf(set, pin, findings)}};
     });
   });
@@ -61,9 +63,9 @@ void CheckComponentsOfPins(const CheckedSet& set, const Board& board, Collector&
 void CheckPinsOfNets(const CheckedSet& set, const Board& board, Collector& findings) {
   NameMatches matches(FindingCode::kUnknownPin, "pins of nets", "a pin of their component's geometry");
   ForEachPin(board, [&](const Net& net, const NetPin& pin) {
-    if (pin.pin) return matches.Match();
+    if (pin.pin) return matches.Match(pin.name);
     if (!pin.component || !HasPinsOfGeometry(set, board.components[*pin.component])) return;
-    matches.Miss([&] {
+    matches.Miss(pin.name, [&] {
       const std::string& geometry = board.components[*pin.component].geometry;
       return Finding{.message = "net " + Quoted(net.name) + " has pin " + Quoted(pin.name) +
                                 ", but geometry " + Quoted(geometry) + " has no such pin",
@@ -93,15 +95,15 @@ void CheckPinsInTwoNets(const CheckedSet& set, const Board& board, Collector& fi
 }
 
 void CheckNetsOfTraces(const CheckedSet& set, const Board& board, Collector& findings) {
-  if (set.models.nets == nullptr) return;
+  if (set.models.nets == nullptr || !findings.Trusts(ImportFile::kNeutral)) return;
   NameMatches matches(FindingCode::kNetNotInNeutral, "nets of the Traces file", "a net of the Neutral file");
   for (const Net& net : board.nets) {
     if (net.headers.empty()) continue;
     if (!net.netRecords.empty()) {
-      matches.Match();
+      matches.Match(net.name);
       continue;
     }
-    matches.Miss([&] {
+    matches.Miss(net.name, [&] {
       return Finding{.message = "the Neutral file has no net " + Quoted(net.name),
                      .at = {PlaceOfHeader(set, net.headers.front(), findings)}};
     });
@@ -111,15 +113,15 @@ void CheckNetsOfTraces(const CheckedSet& set, const Board& board, Collector& fin
 
 void CheckNetsOfNeutral(const CheckedSet& set, const Board& board, Collector& findings) {
   constexpr Index kPinsToConnect = 2;
-  if (set.models.traces == nullptr) return;
+  if (set.models.traces == nullptr || !findings.Trusts(ImportFile::kTraces)) return;
   NameMatches matches(FindingCode::kNetNotInTraces, "nets of the Neutral file", "a net of the Traces file");
   for (const Net& net : board.nets) {
     if (net.netRecords.empty() || net.pins.count < kPinsToConnect) continue;
     if (!net.headers.empty()) {
-      matches.Match();
+      matches.Match(net.name);
       continue;
     }
-    matches.Miss([&] {
+    matches.Miss(net.name, [&] {
       return Finding{.message = "net " + Quoted(net.name) + " has " + std::to_string(net.pins.count) +
                                 " pins, but the Traces file does not have it",
                      .at = {PlaceOfNet(set, net.netRecords.front(), findings)}};

@@ -63,7 +63,7 @@ std::string Number(double value) {
 
 void CheckIsKnown(const CString& word, ImportFile file, double readAs, Collector& findings) {
   const std::string_view unit = ComparedName(word.View());
-  if (MillimetresIn(unit)) return;
+  if (MillimetresIn(unit) || !findings.Trusts(file)) return;
   findings.Add(FindingCode::kUnknownUnit, [&] {
     const std::string what = unit.empty() ? "names no unit" : "has the unknown unit " + Quoted(unit);
     return Finding{.message = "the " + std::string(NameOf(file)) + " file " + what + "; a unit is read as " +
