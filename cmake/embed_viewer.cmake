@@ -2,7 +2,7 @@
 # compilers limit the length of a literal.
 set(page page.html)
 set(style viewer.css)
-set(scripts shapes.js painter.js finder.js lists.js viewer.js)
+set(scripts shapes.js painter.js finder.js lists.js controls.js viewer.js)
 
 function(literal file result)
   file(READ ${INPUT}/${file} text)
@@ -29,6 +29,6 @@ file(WRITE ${OUTPUT} "#include \"tool/draw/viewer/files.h\"
 namespace kestrin::tool::draw {
 const std::string_view kViewerPage = ${page_text};
 const std::string_view kViewerStyle = ${style_text};
-const std::array<std::string_view, 5> kViewerScripts{${script_texts}};
+const std::array<std::string_view, 6> kViewerScripts{${script_texts}};
 }  // namespace kestrin::tool::draw
 ")

@@ -86,6 +86,27 @@ class Browser {
             "]}");
   }
 
+  /// Drags a mouse, or with "touch" a finger, from a place to another. When pinching, a second
+  /// finger does the same on the other side. Distances are from the place (x, y), along x.
+  void Drag(const char* pointer, int x, int y, int from, int to, bool isPinch = false) {
+    const auto finger = [&](const char* name, int sign) {
+      const auto move = [&](int distance) {
+        return R"({"type":"pointerMove","duration":50,"x":)" + std::to_string(x + sign * distance) +
+               R"(,"y":)" + std::to_string(y) + "},";
+      };
+      return std::string(R"({"type":"pointer","id":")") + pointer + name +
+             R"(","parameters":{"pointerType":")" + pointer + R"("},"actions":[)" + move(from) +
+             R"({"type":"pointerDown","button":0},)" + move(to) + R"({"type":"pointerUp","button":0}]})";
+    };
+    Perform(isPinch ? finger("first", 1) + "," + finger("second", -1) : finger("first", 1));
+  }
+
+  void Wheel(int x, int y, int distance) {
+    Perform(R"({"type":"wheel","id":"wheel","actions":[{"type":"scroll","deltaX":0,"duration":0,"x":)" +
+            std::to_string(x) + R"(,"y":)" + std::to_string(y) + R"(,"deltaY":)" + std::to_string(distance) +
+            "}]}");
+  }
+
   /// Waits until a script returns "true".
   void WaitUntil(const std::string& script) {
     const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);

@@ -159,6 +159,22 @@ TEST_F(Viewer, MovesAndZoomsByKeys) {
   EXPECT_EQ(ColourAt(16.0, 29.0), kTopCopper);
 }
 
+TEST_F(Viewer, MovesAndZoomsByMouseAndTouch) {
+  OpenSampleBoard();
+  const std::string whole = Picture();
+  browser_.Drag("mouse", 700, 400, 0, 100);
+  const std::string moved = Picture();
+  EXPECT_NE(moved, whole);
+  EXPECT_EQ(TextOf("#details"), "") << "a drag selects nothing";
+  browser_.Drag("mouse", 800, 400, 0, -100);
+  EXPECT_EQ(ColourAt(16.0, 29.0), kTopCopper);
+  browser_.Wheel(700, 400, -300);
+  const std::string zoomed = Picture();
+  EXPECT_NE(zoomed, whole);
+  browser_.Drag("touch", 700, 400, 100, 50, true);
+  EXPECT_NE(Picture(), zoomed);
+}
+
 TEST_F(Viewer, ListsNetsAndComponentsByPart) {
   OpenSampleBoard();
   static_cast<void>(Run("document.querySelectorAll('details').forEach((d) => { d.open = true; })"));

@@ -11,6 +11,6 @@ namespace kestrin::tool::draw {
 extern const std::string_view kViewerPage;
 extern const std::string_view kViewerStyle;
 /// In the order in which the page runs them.
-extern const std::array<std::string_view, 5> kViewerScripts;
+extern const std::array<std::string_view, 6> kViewerScripts;
 
 }  // namespace kestrin::tool::draw

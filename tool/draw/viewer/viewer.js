@@ -1,5 +1,5 @@
 "use strict";
-// The page: what is shown, and what mouse, touch and keys do.
+// The page: what it shows.
 
 class Viewer {
   constructor(board) {
@@ -20,7 +20,7 @@ class Viewer {
     this.setTheme(first.theme ?? (prefersLight.matches ? "light" : "dark"));
     if (!first.theme) prefersLight.addEventListener("change", (e) => this.setTheme(e.matches ? "light" : "dark"));
     this.showPanel();
-    this.listen();
+    this.controls = new Controls(this);
     this.setView(first.view);
     if (first.nets.length > 0) this.select(first.nets.map((index) => ({ kind: Kind.net, index })), false);
   }
@@ -87,9 +87,9 @@ class Viewer {
 
   // ---- Drawing
   //
-  // A drawing of a large board takes longer than a frame. It is made in pieces on a canvas that nobody sees; until it is
-  // complete, the last complete one is shown, moved and scaled to where the camera is. While the camera moves, no new
-  // drawing is begun.
+  // A drawing of a large board takes longer than a frame. It is made in pieces on a canvas that nobody sees. Until it
+  // is complete, the last complete one is shown, moved and scaled to where the camera is. While the camera moves, no
+  // new drawing is begun.
 
   redraw(pause = 0) {
     if (this.canvas === undefined || this.canvas.width === 0) return;
@@ -145,7 +145,8 @@ class Viewer {
     canvas.height = this.canvas.height;
     const camera = this.camera.copy();
     const context = canvas.getContext("2d");
-    this.job = { canvas, camera, steps: this.drawAll(new Painter(this.board, context, camera, this.theme), context) };
+    const painter = new Painter(this.board, context, camera, this.theme);
+    this.job = { canvas, camera, steps: this.drawAll(painter, context) };
   }
 
   *drawAll(painter, context) {
@@ -198,9 +199,8 @@ class Viewer {
     const most = 20;
     const results = this.finder.search(text, most);
     this.lists.showResults(document.getElementById("results"), results);
-    const isEmpty = text.trim() === "";
-    document.getElementById("result-count").textContent =
-      isEmpty ? "" : results.length === 0 ? "Nothing found" : `${results.length === most ? "First " : ""}${results.length} found`;
+    const count = results.length === 0 ? "Nothing" : `${results.length === most ? "First " : ""}${results.length}`;
+    document.getElementById("result-count").textContent = text.trim() === "" ? "" : `${count} found`;
     return results;
   }
 
@@ -223,29 +223,7 @@ class Viewer {
     return `pin ${board.pinName(index)}${net < 0 ? "" : `, net ${board.nets[net].name}`}`;
   }
 
-  // ---- Mouse, touch, keys
-
-  listen() {
-    new ResizeObserver(() => this.resize()).observe(this.canvas.parentElement);
-    this.listenToPointers();
-    this.listenToKeys();
-    const on = (id, event, action) => document.getElementById(id).addEventListener(event, action);
-    on("zoom-in", "click", () => this.zoomMiddle(1.5));
-    on("zoom-out", "click", () => this.zoomMiddle(1 / 1.5));
-    on("fit", "click", () => this.fit());
-    on("theme", "click", () => this.setTheme(this.theme === 0 ? "light" : "dark"));
-    on("clear", "click", () => this.select([], false));
-    on("search", "input", (event) => this.search(event.target.value));
-    on("search", "keydown", (event) => {
-      if (event.key !== "Enter") return;
-      const [best] = this.search(event.target.value);
-      if (best !== undefined) this.select([best]);
-    });
-    on("net-filter", "input", (event) => this.lists.showNets(document.getElementById("nets"), event.target.value));
-    for (const button of document.querySelectorAll("[data-view]")) {
-      button.addEventListener("click", () => this.setView(button.dataset.view));
-    }
-  }
+  // ---- Moving
 
   resize() {
     const { width, height } = this.canvas.parentElement.getBoundingClientRect();
@@ -272,96 +250,6 @@ class Viewer {
     this.camera.left += dx;
     this.camera.top += dy;
     this.redrawMoved();
-  }
-
-  listenToPointers() {
-    const down = new Map(); // the pointers that are pressed, by their id
-    let hasMoved = false;
-    const place = (event) => {
-      const box = this.canvas.getBoundingClientRect();
-      return {
-        x: (event.clientX - box.left) * window.devicePixelRatio,
-        y: (event.clientY - box.top) * window.devicePixelRatio,
-      };
-    };
-    const spread = () => {
-      const [a, b] = [...down.values()];
-      return { x: (a.x + b.x) / 2, y: (a.y + b.y) / 2, length: Math.hypot(a.x - b.x, a.y - b.y) || 1 };
-    };
-    this.canvas.addEventListener("pointerdown", (event) => {
-      this.canvas.setPointerCapture(event.pointerId);
-      down.set(event.pointerId, place(event));
-      hasMoved = false;
-    });
-    this.canvas.addEventListener("pointermove", (event) => {
-      const now = place(event);
-      const before = down.get(event.pointerId);
-      if (before === undefined) return void this.showPointer(now.x, now.y);
-      const old = down.size === 2 ? spread() : null;
-      if (Math.hypot(now.x - before.x, now.y - before.y) > 2) hasMoved = true;
-      down.set(event.pointerId, now);
-      if (old === null) return this.move(now.x - before.x, now.y - before.y);
-      const current = spread();
-      this.move(current.x - old.x, current.y - old.y);
-      this.zoom(current.length / old.length, current.x, current.y);
-    });
-    const release = (event) => {
-      const isClick = event.type === "pointerup" && down.size === 1 && !hasMoved;
-      down.delete(event.pointerId);
-      if (!isClick) return;
-      const now = place(event);
-      const found = this.showPointer(now.x, now.y);
-      this.select(found === null ? [] : [found], false);
-    };
-    this.canvas.addEventListener("pointerup", release);
-    this.canvas.addEventListener("pointercancel", release);
-    this.canvas.addEventListener("wheel", (event) => {
-      event.preventDefault();
-      const { x, y } = place(event);
-      this.zoom(Math.exp(-event.deltaY * (event.deltaMode === 1 ? 0.05 : 0.0015)), x, y);
-    }, { passive: false });
-  }
-
-  listenToKeys() {
-    const step = 80;
-    const keys = {
-      ArrowLeft: () => this.move(step, 0),
-      ArrowRight: () => this.move(-step, 0),
-      ArrowUp: () => this.move(0, step),
-      ArrowDown: () => this.move(0, -step),
-      "+": () => this.zoomMiddle(1.25),
-      "=": () => this.zoomMiddle(1.25),
-      "-": () => this.zoomMiddle(1 / 1.25),
-      0: () => this.fit(),
-    };
-    this.canvas.addEventListener("keydown", (event) => {
-      const action = keys[event.key];
-      if (action === undefined || event.ctrlKey || event.metaKey || event.altKey) return;
-      event.preventDefault();
-      action();
-    });
-    document.addEventListener("keydown", (event) => {
-      const isTyping = event.target instanceof HTMLInputElement && event.target.type !== "checkbox";
-      if (event.key === "Escape") this.select([], false);
-      if (event.key === "/" && !isTyping) {
-        event.preventDefault();
-        document.getElementById("search").focus();
-      }
-    });
-    this.listenToViewKeys();
-  }
-
-  // Arrows choose among radio buttons, as everywhere.
-  listenToViewKeys() {
-    const views = ["layers", "top", "bottom"];
-    const change = { ArrowLeft: -1, ArrowUp: -1, ArrowRight: 1, ArrowDown: 1 };
-    document.getElementById("views").addEventListener("keydown", (event) => {
-      if (change[event.key] === undefined) return;
-      event.preventDefault();
-      const next = views[(views.indexOf(this.view) + change[event.key] + views.length) % views.length];
-      this.setView(next);
-      document.querySelector(`[data-view="${next}"]`).focus();
-    });
   }
 }
 
