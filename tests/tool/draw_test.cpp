@@ -176,6 +176,7 @@ TEST(Draw, OptionsChooseWhatIsShown) {
       {"--layers SIGNAL_2", "count(//*[@id=\"layer-BOTTOM\" or @id=\"layer-vias\"])", "2"},
       {"--layers SILKSCREEN_2,open", "count(//*[starts-with(@id, \"layer-\")])", "3"},
       {"--layers SILKSCREEN_1", "count(//*[starts-with(@id, \"layer-\")])", "1"},
+      {"--layers bodies-bottom --box 19,9,20,10", "count(//*[starts-with(@id, \"layer-\")])", "1"},
       {"--theme print", "string(//*[name()=\"rect\"]/@fill)", "#ffffff"},
       {"", "count(//*[@data-net])", "0"},
   };

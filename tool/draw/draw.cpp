@@ -113,19 +113,22 @@ std::optional<std::set<const SceneLayer*>> ChosenLayers(const Scene& scene,
   if (names.empty()) return std::nullopt;
   std::set<const SceneLayer*> chosen;
   std::set<Index> copper;
+  bool hasCopper = false;
   for (const std::string& name : names) {
     bool isKnown = HasLayer(*scene.board, name);
     for (const SceneLayer& layer : scene.layers) {
       if (!Means(*scene.board, name, layer)) continue;
       isKnown = true;
       chosen.insert(&layer);
-      if (layer.role == Role::kCopper) copper.insert(layer.spans.begin(), layer.spans.end());
+      if (layer.role != Role::kCopper) continue;
+      hasCopper = true;
+      copper.insert(layer.spans.begin(), layer.spans.end());
     }
     if (!isKnown) throw UsageError(NoSuchLayer(scene, name));
   }
   for (const SceneLayer& layer : scene.layers) {
     if (layer.role == Role::kBoard) chosen.insert(&layer);
-    if ((layer.role != Role::kVias && layer.role != Role::kDrills) || copper.empty()) continue;
+    if ((layer.role != Role::kVias && layer.role != Role::kDrills) || !hasCopper) continue;
     const bool reaches =
         layer.spans.empty() || std::any_of(layer.spans.begin(), layer.spans.end(),
                                            [&](Index index) { return copper.contains(index); });

@@ -126,6 +126,8 @@ struct SceneLayer {
   std::vector<Index> spans;  ///< the layers of the board on which it lies; empty for vias and drills: all
   std::map<Brush, std::vector<Shape>> batches;
   std::vector<SceneText> texts;
+
+  [[nodiscard]] bool IsEmpty() const { return batches.empty() && texts.empty(); }
 };
 
 struct Scene {

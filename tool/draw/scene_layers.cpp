@@ -175,7 +175,8 @@ void SceneLayers::Add(SceneLayer& layer, SceneText text, const Owner& owner) {
 std::vector<SceneLayer> SceneLayers::Take() {
   std::vector<SceneLayer> layers;
   for (auto& [key, layer] : layers_) {
-    if (!layer.batches.empty() || !layer.texts.empty()) layers.push_back(std::move(layer));
+    // A layer outside the window is a layer of the board, too: somebody may name it.
+    if (window_ || !layer.IsEmpty()) layers.push_back(std::move(layer));
   }
   layers_.clear();
   byName_.clear();

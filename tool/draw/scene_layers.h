@@ -40,7 +40,7 @@ class SceneLayers {
                     const std::vector<Polygon>& holes);
   void Add(SceneLayer& layer, SceneText text, const Owner& owner);
 
-  /// The layers with something on them, in drawing order. Leaves this empty.
+  /// The layers with something on them, perhaps outside the window, in drawing order. Leaves this empty.
   [[nodiscard]] std::vector<SceneLayer> Take();
   [[nodiscard]] const Box& Bounds() const { return bounds_; }
 

@@ -219,9 +219,9 @@ std::vector<Coat> CoatsOf(const Scene& scene, View view, Theme theme,
       view == View::kLayers
           ? AllLayers(scene, theme)
           : FinishedBoard(scene, view == View::kTop ? Side::kTop : Side::kBottom, theme).Take();
-  if (chosen) {
-    std::erase_if(coats, [&](const Coat& coat) { return !chosen->contains(coat.layer); });
-  }
+  std::erase_if(coats, [&](const Coat& coat) {
+    return coat.layer->IsEmpty() || (chosen && !chosen->contains(coat.layer));
+  });
   return coats;
 }
 
