@@ -29,7 +29,7 @@ _kestrin() {
             compgen -W "$files --strict --encoding --rotation --bottom --bottom-turn --width-step --help" -- "$word") ;;
         draw)
           mapfile -t COMPREPLY < <(
-            compgen -W "$files --strict --encoding --output --view --layers --net --box --width --theme --tags --rotation \
+            compgen -W "$files --strict --encoding --output --view --layers --net --box --width --against --theme --tags --rotation \
               --bottom --bottom-turn --width-step --help" -- "$word") ;;
         check)
           mapfile -t COMPREPLY < <(

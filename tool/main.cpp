@@ -124,6 +124,10 @@ void AddDrawOptions(CLI::App& command, draw::DrawWords& words) {
       ->option_text("X0,Y0,X1,Y1");
   command.add_option("--width", words.width, "The width in pixels (default of a .png: 2000)")
       ->option_text("NUMBER");
+  command
+      .add_option("--against", words.against,
+                  "Another export: what it removes is red, what it adds is green, the rest dims")
+      ->option_text("PATH");
   command.add_option("--theme", words.theme, "The colours (default: dark)")
       ->check(CLI::IsMember({"dark", "print"}))
       ->option_text("dark|print");

@@ -148,7 +148,7 @@ TEST(FindingsTest, FindNothingInSoundSets) {
   for (const Finding& finding : findings.list) {
     EXPECT_EQ(KindOf(finding.code).severity, Severity::kNote) << finding.message;
   }
-  for (const std::uint64_t legs : {1, 100, 20'000}) {
+  for (const std::uint64_t legs : {1U, 100U, 20'000U}) {
     const test::TemporaryFolder folder;
     ASSERT_TRUE(test::GenerateBoard(folder.Path(), legs));
     CPC_KESTRIN_GET session;

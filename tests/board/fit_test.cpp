@@ -228,6 +228,7 @@ Texts ManyPlacedBy(const Convention& convention, int components, int percent) {
   std::mt19937 random(7);
   std::uniform_int_distribution<int> hundred(0, 99);
   std::vector<Placed> placed;
+  placed.reserve(static_cast<std::size_t>(components));
   for (int i = 0; i < components; ++i)
     placed.push_back({1 + hundred(random) % 2, hundred(random) * 15 % 360});
   Texts texts = PlacedBy(convention, placed);

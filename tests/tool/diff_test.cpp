@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 #include <rapidjson/document.h>
 
+#include <algorithm>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -225,6 +226,27 @@ TEST(ToolDiff, SeesAViaThatMovesAlongItsWire) {
   static_cast<void>(folder.File("a/x.traces", begin + "SEG 1 0 1 V\nSEG 2 0 1 0.2\nSEG 3 0 1 0.2\n"));
   static_cast<void>(folder.File("b/x.traces", begin + "SEG 1 0 1 0.2\nSEG 2 0 1 V\nSEG 3 0 1 0.2\n"));
   EXPECT_EQ(Changes(folder.Path("a") + ' ' + folder.Path("b")), "wire N changed via:V>\n");
+}
+
+TEST(ToolDiff, IsDrawnInRedAndGreen) {
+  const Edited after({{"neutral", "SENS6 32.0 32.0 1 0", "SENS6 36.0 32.0 1 0"},
+                      {"traces", "SEG 12.25 15.0 1 80", "SEG 14.5 15.0 1 80"}});
+  const TemporaryFolder folder;
+  const std::string picture = folder.Path("changes.svg");
+  const std::string command = "draw " + kBoard + " --against ";
+  ASSERT_EQ(RunTool(command + after.Path() + " -o " + picture).status, 0);
+  const std::string svg = ContentOf(picture);
+  const auto layer = [&](const std::string& id) {
+    const auto begin = svg.find("<g id=\"layer-" + id + "\"");
+    EXPECT_NE(begin, std::string::npos) << id;
+    return begin == std::string::npos ? std::string() : svg.substr(begin, svg.find("</g>", begin) - begin);
+  };
+  EXPECT_NE(layer("removed").find("#ff4d4d"), std::string::npos);
+  EXPECT_NE(layer("added").find("#3ddc84"), std::string::npos);
+  ASSERT_EQ(RunTool(command + kBoard + " -o " + picture).status, 0);
+  EXPECT_EQ(ContentOf(picture).find("layer-removed"), std::string::npos);
+  EXPECT_EQ(RunTool(command + after.Path() + " -o " + folder.Path("changes.html")).status, 2);
+  EXPECT_EQ(RunTool(command + after.Path() + " --view top -o " + picture).status, 2);
 }
 
 TEST(ToolDiff, EndsWith2IfASetCannotBeRead) {

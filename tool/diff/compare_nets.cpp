@@ -48,7 +48,7 @@ std::multiset<std::string> OpenConnectionsOf(const Net& net) {
     std::string from = textOf(open.from);
     std::string to = textOf(open.to);
     if (to < from) std::swap(from, to);
-    connections.insert(from + ' ' + to);
+    connections.insert(from.append(" ").append(to));
   }
   return connections;
 }

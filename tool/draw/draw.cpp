@@ -4,11 +4,14 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <memory>
 #include <set>
 #include <string_view>
 
+#include "tool/diff/compare.h"
 #include "tool/draw/build_scene.h"
 #include "tool/draw/cairo_writer.h"
+#include "tool/draw/changes.h"
 #include "tool/draw/html_writer.h"
 #include "tool/draw/near_names.h"
 #include "tool/draw/output_file.h"
@@ -16,6 +19,7 @@
 #include "tool/draw/scene_layers.h"
 #include "tool/draw/svg_writer.h"
 #include "tool/exit_status.h"
+#include "tool/import.h"
 #include "tool/output.h"
 #include "tool/usage_error.h"
 
@@ -169,6 +173,32 @@ void Warn(const Scene& scene) {
   }
 }
 
+/// The comparison with another export.
+struct Comparison {
+  explicit Comparison(const ExportSet& files) : other(files) {}
+
+  Imported other;
+  Sides sides;
+  Difference difference;
+};
+
+/// Compares an import with the export that was asked for; null if none was.
+std::unique_ptr<Comparison> ComparisonWith(const DrawWords& words, const Format& format,
+                                           const ExportSet& files, const Imported& imported) {
+  if (words.against.empty()) return nullptr;
+  if (format.showsNets || ViewOf(words.view) != View::kLayers)
+    throw UsageError("--against needs a picture of all layers: .svg, .png or .pdf, without another --view");
+  ExportSet against;
+  against.EncodingWord() = files.EncodingWord();
+  against.Add({words.against});
+  auto comparison = std::make_unique<Comparison>(against);
+  const std::string stopped = Import(comparison->other);
+  if (!stopped.empty()) throw UsageError(stopped);
+  comparison->sides = ReadSides(ModelsIn(imported), ModelsIn(comparison->other));
+  comparison->difference = Compare(comparison->sides);
+  return comparison;
+}
+
 }  // namespace
 
 int Draw(const ExportSet& files, const ReadingWords& reading, const DrawWords& words) {
@@ -179,10 +209,13 @@ int Draw(const ExportSet& files, const ReadingWords& reading, const DrawWords& w
   const std::optional<Box> box = BoxOf(words.box);
   Imported imported(files);
   const std::string stopped = Import(imported);
+  const std::unique_ptr<Comparison> comparison = ComparisonWith(words, format, files, imported);
   const Board board = BoardOf(imported, options);
   picture.chosenNets = BrightNets(board, words.nets);
   if (!format.showsNets) sceneOptions = {box, picture.chosenNets};
-  const Scene scene = BuildScene(board, imported.session.GetGeom(), sceneOptions);
+  if (comparison != nullptr) sceneOptions.brightNets.assign(board.nets.size(), false);
+  Scene scene = BuildScene(board, imported.session.GetGeom(), sceneOptions);
+  if (comparison != nullptr) AddChanges(comparison->sides, comparison->difference, scene);
   picture.scene = &scene;
   picture.view = ViewOf(words.view);
   picture.theme = words.theme == "print" ? Theme::kPrint : Theme::kDark;

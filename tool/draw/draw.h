@@ -17,6 +17,7 @@ struct DrawWords {
   std::string view;
   std::string theme;
   std::string box;
+  std::string against;  ///< the folder or file of another export
   std::vector<std::string> layers;
   std::vector<std::string> nets;
   std::optional<int> width;

@@ -60,6 +60,8 @@ enum class Role : std::uint8_t {
   kKeepouts,
   kOpen,  ///< connections that are not routed yet
   kDrills,
+  kRemoved,  ///< what another board lacks
+  kAdded,    ///< what another board adds
 };
 
 /// What a shape is part of. Later ones are drawn over earlier ones of their layer.

@@ -25,6 +25,8 @@ constexpr Ink kVias{0xc9ced6, 0x5c636e};
 constexpr Ink kPlacements{0x5c6b80, 0x9aa3b0};
 constexpr Ink kBodies{0x8fa3bd, 0x46566b};
 constexpr Ink kKeepouts{0xff7a45, 0xc2410c};
+constexpr Ink kRemovedInk{0xff4d4d, 0xd11a1a};
+constexpr Ink kAddedInk{0x3ddc84, 0x0a8f3c};
 constexpr Ink kOpen{0xffe066, 0x8a6d00};
 
 /// By the beginning of the name.
@@ -90,6 +92,8 @@ Ink InkOf(const Scene& scene, const SceneLayer& layer) {
     case Role::kKeepouts: return kKeepouts;
     case Role::kOpen: return kOpen;
     case Role::kDrills: return kBackground;
+    case Role::kRemoved: return kRemovedInk;
+    case Role::kAdded: return kAddedInk;
     case Role::kBelow:
     case Role::kAbove: break;
   }
