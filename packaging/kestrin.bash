@@ -3,10 +3,10 @@ _kestrin() {
   local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} files='--tech --neutral --geometry --traces'
   COMPREPLY=()
   case $before in
-    --tech | --neutral | --geometry | --traces) ;;
+    --tech | --neutral | --geometry | --traces | --map) ;;
     --fail-on) mapfile -t COMPREPLY < <(compgen -W 'error warning note never' -- "$word"); return ;;
     --encoding) mapfile -t COMPREPLY < <(compgen -W 'auto utf-8 latin-1' -- "$word"); return ;;
-    --allow) return ;;
+    --allow | --key) return ;;
     --format) mapfile -t COMPREPLY < <(compgen -W 'text json' -- "$word"); return ;;
     --rotation | --bottom) mapfile -t COMPREPLY < <(compgen -W 'ccw cw' -- "$word"); return ;;
     --bottom-turn) mapfile -t COMPREPLY < <(compgen -W '0 180' -- "$word"); return ;;
@@ -16,12 +16,13 @@ _kestrin() {
     -o | --output) ;;
     *)
       if [ "$COMP_CWORD" = 1 ]; then
-        mapfile -t COMPREPLY < <(compgen -W 'summary check board draw diff dump help --help --version' -- "$word")
+        mapfile -t COMPREPLY < <(compgen -W 'summary check board draw diff dump anonymise help --help --version' -- "$word")
         return
       fi
       case ${COMP_WORDS[1]} in
-        help) mapfile -t COMPREPLY < <(compgen -W 'summary check board draw diff dump' -- "$word"); return ;;
+        help) mapfile -t COMPREPLY < <(compgen -W 'summary check board draw diff dump anonymise' -- "$word"); return ;;
         diff) mapfile -t COMPREPLY < <(compgen -W '--format --all --encoding --help' -- "$word") ;;
+        anonymise) mapfile -t COMPREPLY < <(compgen -W "$files --key --map --force --help" -- "$word") ;;
         dump) mapfile -t COMPREPLY < <(compgen -W "$files --strict --help" -- "$word") ;;
         summary) mapfile -t COMPREPLY < <(compgen -W "$files --strict --encoding --help" -- "$word") ;;
         board)

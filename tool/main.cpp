@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "kestrin/version.h"
+#include "tool/anonymise/anonymise.h"
 #include "tool/board.h"
 #include "tool/check/check.h"
 #include "tool/diff/diff.h"
@@ -30,6 +31,7 @@ struct DiffWords {
 struct Arguments {
   std::vector<std::string> paths;
   ExportSet files;
+  AnonymiseWords anonymise;
   CheckWords check;
   ReadingWords reading;
   DiffWords diff;
@@ -52,6 +54,9 @@ void AddFileOptions(CLI::App& command, Arguments& arguments) {
                     std::string("The ") + kind.name + " file; - is standard input")
         ->option_text("FILE");
   }
+}
+
+void AddStrict(CLI::App& command, Arguments& arguments) {
   command.add_flag("--strict", arguments.files.Strict(),
                    "Parse the Traces file by its grammar, which fixes the order and form of its records");
 }
@@ -147,6 +152,25 @@ void AddDiffOptions(CLI::App& command, DiffWords& words) {
       "is one; 2 if something is wrong.");
 }
 
+void AddAnonymiseOptions(CLI::App& command, AnonymiseWords& words) {
+  command
+      .add_option("--key", words.key,
+                  "A secret text; the same key gives the same copy (default: random, and not kept)")
+      ->option_text("TEXT");
+  command
+      .add_option("--map", words.map, "Write what each word became to a file; keep it as secret as the board")
+      ->option_text("FILE");
+  command.add_flag("--force", words.force, "Replace the folder and the file of --map if they exist");
+}
+
+/// Takes the folder to write from the end of the paths.
+std::string TakeFolder(std::vector<std::string>& paths) {
+  if (paths.empty()) throw UsageError("missing the folder for the copy; try kestrin anonymise --help");
+  std::string folder = paths.back();
+  paths.pop_back();
+  return folder;
+}
+
 void AddEncoding(CLI::App& command, Arguments& arguments) {
   command
       .add_option("--encoding", arguments.files.EncodingWord(),
@@ -168,6 +192,10 @@ class CommandLine {
     AddCheckOptions(*check_, arguments_.check);
     AddDiffOptions(*diff_, arguments_.diff);
     for (CLI::App* command : {summary_, board_, check_, diff_, draw_}) AddEncoding(*command, arguments_);
+    for (CLI::App* command : {summary_, board_, check_, draw_, dump_}) AddStrict(*command, arguments_);
+    AddAnonymiseOptions(*anonymise_, arguments_.anonymise);
+    anonymise_->get_option("PATH")->description(
+        "A folder with the export set, or files, and last the folder to write, OUT");
     help_->add_option("COMMAND", topic_, "The command to explain")->option_text(" ");
   }
 
@@ -184,6 +212,7 @@ class CommandLine {
     if (help_->parsed()) return Explain();
     if (diff_->parsed()) return CompareSets();
     ExportSet& files = arguments_.files;
+    if (anonymise_->parsed()) return RunAnonymise();
     files.Add(arguments_.paths);
     if (board_->parsed()) return PrintBoard(files, arguments_.reading);
     if (draw_->parsed()) return draw::Draw(files, arguments_.reading, arguments_.draw);
@@ -205,6 +234,12 @@ class CommandLine {
     before.Add({words.before});
     after.Add({words.after});
     return Diff(before, after, words.format, words.all);
+  }
+
+  [[nodiscard]] int RunAnonymise() {
+    const std::string folder = TakeFolder(arguments_.paths);
+    arguments_.files.Add(arguments_.paths);
+    return Anonymise(arguments_.files, folder, arguments_.anonymise);
   }
 
   [[nodiscard]] int Explain() {
@@ -236,6 +271,8 @@ class CommandLine {
                         "kestrin draw examples/board --net GND -o gnd.svg");
   CLI::App* dump_ = Add("dump", "Print the object model as JSON", "kestrin dump examples/board/board.tech");
   CLI::App* diff_ = app_.add_subcommand("diff", "Print what changed between two export sets");
+  CLI::App* anonymise_ = Add("anonymise", "Write a copy with other names, for bug reports",
+                             "kestrin anonymise examples/board copy");
   CLI::App* help_ = app_.add_subcommand("help", "Explain the tool or a command");
 };
 

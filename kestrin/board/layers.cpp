@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 
+#include "kestrin/board/board_words.h"
 #include "kestrin/board/for_each_record.h"
 #include "kestrin/board/read_board.h"
 #include "kestrin/geometry/geometry_model.h"
@@ -90,6 +91,11 @@ std::string OtherSide(std::string_view layer) {
 }
 
 }  // namespace
+
+void ForEachLayerWord(const FormatWordVisitor& visit) {
+  visit({.text = kSignal});
+  for (const std::string_view name : kSideLayers) visit({.text = name});
+}
 
 void ReadLayers(const BoardModels& models, Board& board) {
   if (models.tech != nullptr) ReadPhysicalLayers(*models.tech, board.layers);

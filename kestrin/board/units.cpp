@@ -1,5 +1,6 @@
 #include "kestrin/board/units.h"
 
+#include "kestrin/board/board_words.h"
 #include "kestrin/board/read_board.h"
 #include "kestrin/geometry/geometry_model.h"
 #include "kestrin/neutral/component_model.h"
@@ -20,6 +21,10 @@ constexpr UnitWord kUnitWords[] = {
 };
 
 }  // namespace
+
+void ForEachUnitWord(const FormatWordVisitor& visit) {
+  for (const UnitWord& unit : kUnitWords) visit({.text = unit.word, .ignoresCase = true});
+}
 
 std::optional<double> MillimetresIn(std::string_view unit) {
   for (const UnitWord& known : kUnitWords) {

@@ -4,6 +4,8 @@
 /// The handlers of attributes. Each fills the field that its row in attributes.cpp names. Value 1 of the line
 /// is the attribute's name.
 
+#include <string_view>
+
 #include "kestrin/base/numbers.h"
 #include "kestrin/geometry/bracket_scans.h"
 #include "kestrin/geometry/geometry_model.h"
@@ -11,6 +13,9 @@
 #include "kestrin/records/append.h"
 
 namespace kestrin::attribute {
+
+/// The value that SetIfYes looks for.
+inline constexpr std::string_view kYes = "YES";
 
 ///@{
 /// Reads value 2 and, for lists and records, the values after it.

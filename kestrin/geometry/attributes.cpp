@@ -2,6 +2,7 @@
 
 #include "kestrin/geometry/attribute_handlers.h"
 #include "kestrin/geometry/geometry_row.h"
+#include "kestrin/geometry/geometry_words.h"
 #include "kestrin/text/ignoring_case.h"
 #include "kestrin/text/name_table.h"
 
@@ -87,6 +88,13 @@ constexpr GeometryRow kLayerDefinition{"LAYER_DEFINITION", kUnquoted, Any(),
 constexpr RecordRule kInStackup{"an attribute of a stack-up", Any(), "LAYER_DEFINITION in its name", ""};
 
 }  // namespace
+
+void ForEachAttributeWord(const FormatWordVisitor& visit) {
+  ForEachRowName(kRows, visit, {.ignoresCase = true});
+  visit({.text = kLayerDefinition.name, .place = WordPlace::kInside, .ignoresCase = true});
+  visit({.text = CMGeomComponent().m_sLayoutSurface.View()});  // what a component without it has
+  visit({.text = kYes, .place = WordPlace::kInside, .ignoresCase = true});
+}
 
 LineOutcome ReadAttribute(ReaderState& state) {
   const std::string_view name = state.values[1];

@@ -5,12 +5,16 @@
 
 #include "kestrin/base/numbers.h"
 #include "kestrin/geometry/append_numbers.h"
+#include "kestrin/geometry/geometry_words.h"
 #include "kestrin/records/append.h"
 #include "kestrin/text/contains.h"
 #include "kestrin/text/trim.h"
 
 namespace kestrin {
 namespace {
+
+constexpr std::string_view kRadius = "@radius";
+constexpr std::string_view kCenter = "@center";
 
 template <class Object>
 LineOutcome AddObject(ReaderState& state, CMGeomDrawObjArray& objects,
@@ -46,9 +50,9 @@ void Read(ReaderState& state, CMGeomArc& arc) {
       arc.m_sLayer = value;
     } else if (number <= 8) {
       *numbers[number - 2] = ToDouble(TrimmedLeft(raw));
-    } else if (Contains(value, "@radius")) {
+    } else if (Contains(value, kRadius)) {
       arc.m_nArcMode = 1;
-    } else if (Contains(value, "@center")) {
+    } else if (Contains(value, kCenter)) {
       arc.m_nArcMode = 2;
     }
   });
@@ -78,6 +82,15 @@ void Read(ReaderState& state, CMGeomCircle& circle) {
 }
 
 }  // namespace
+
+void ForEachDrawingWord(const FormatWordVisitor& visit) {
+  visit({.text = CMGeomPath().m_sType.View()});
+  visit({.text = CMGeomPolygon().m_sType.View()});
+  visit({.text = CMGeomArc().m_sType.View()});
+  visit({.text = CMGeomCircle().m_sType.View()});
+  for (const std::string_view option : {kRadius, kCenter})
+    visit({.text = option, .place = WordPlace::kInside});
+}
 
 LineOutcome BeginPoints(ReaderState& state) {
   state.pending.Begin(state.arguments);

@@ -5,6 +5,7 @@
 #include "kestrin/geometry/drawing_commands.h"
 #include "kestrin/geometry/geometry_commands.h"
 #include "kestrin/geometry/geometry_row.h"
+#include "kestrin/geometry/geometry_words.h"
 #include "kestrin/text/comment.h"
 #include "kestrin/text/ignoring_case.h"
 #include "kestrin/text/name_table.h"
@@ -51,6 +52,9 @@ constexpr GeometryRow kRows[] = {
 };
 constexpr NameTable kCommands(kRows);
 
+/// A word that contains this creates a geometry, known or not.
+constexpr std::string_view kCreate = "$$create_";
+
 constexpr RecordRule kStart{"a command", Any(), "", "to begin in the first column"};
 constexpr RecordRule kParentheses{"a command", Any(), "", "its arguments in parentheses"};
 
@@ -77,6 +81,15 @@ void GeometryReader::ForEachMisreadNumber(std::string_view /*line*/, const Numbe
   if (row.numbersInBrackets != nullptr) row.numbersInBrackets(state_, action);
 }
 
+void GeometryReader::ForEachWord(const FormatWordVisitor& visit) {
+  ForEachRowName(kRows, visit, {.ignoresCase = true});
+  visit({.text = kCreate, .place = WordPlace::kInside, .ignoresCase = true});
+  ForEachAttributeWord(visit);
+  ForEachDrawingWord(visit);
+  ForEachPageWord(visit);
+  ForEachTextWord(visit);
+}
+
 LineOutcome GeometryReader::ReadLine(std::string_view line) {
   const auto [word, arguments] = CutCommandLine(line);
   if (!word.starts_with("$$")) return OutcomeOfOtherLine(line);
@@ -85,7 +98,7 @@ LineOutcome GeometryReader::ReadLine(std::string_view line) {
     state_.values.Cut(arguments, command->commas);
     return ReadByRow(*command, state_);
   }
-  if (ContainsIgnoringCase(word, "$$create_")) state_.geometry.CreateUnknown();
+  if (ContainsIgnoringCase(word, kCreate)) state_.geometry.CreateUnknown();
   return LineOutcome::Skipped(SkipCode::kUnknownCommand);
 }
 

@@ -7,6 +7,7 @@
 
 #include "kestrin/geometry/geometry_model.h"
 #include "kestrin/geometry/reader_state.h"
+#include "kestrin/text/format_words.h"
 #include "kestrin/text/line_outcome.h"
 #include "kestrin/text/value_kinds.h"
 
@@ -27,6 +28,9 @@ class GeometryReader {
   /// Shows the values that are read as numbers but are not wholly numbers. The line must be the last one
   /// read, and have been imported.
   void ForEachMisreadNumber(std::string_view line, const NumberAction& action);
+
+  /// Passes every word that the reader, or a text of its model, compares with to the visitor.
+  static void ForEachWord(const FormatWordVisitor& visit);
 
  private:
   ReaderState state_;

@@ -4,6 +4,7 @@
 #include <iterator>
 #include <string_view>
 
+#include "kestrin/geometry/geometry_words.h"
 #include "kestrin/text/ignoring_case.h"
 
 namespace kestrin {
@@ -19,10 +20,22 @@ constexpr std::string_view kJustifications[] = {"@TL", "@TC", "@TR", "@CL", "@CC
                                                 "@CR", "@BL", "@BC", "@BR"};
 constexpr int kBottomLeft = 7;
 
+constexpr char kMirrored[] = "@Mirror";
+constexpr char kNotMirrored[] = "@NOMirror";
+constexpr std::string_view kRightReading = "@RIGHT_READING";
+
 /// The anchor numbers of a text and of the same text turned by 180 degrees add up to this.
 constexpr int kTurnedAnchors = 10;
 
 }  // namespace
+
+void ForEachTextWord(const FormatWordVisitor& visit) {
+  for (const std::string_view layer : kBottomLayers) visit({.text = layer, .ignoresCase = true});
+  for (const std::string_view code : kJustifications) visit({.text = code, .ignoresCase = true});
+  visit({.text = kRightReading, .ignoresCase = true});
+  visit({.text = CMGeomText().m_sValue10.View()});  // what a line without it has
+  for (const char* option : {kMirrored, kNotMirrored}) visit({.text = option, .place = WordPlace::kInside});
+}
 
 int CMGeomText::IsBottomLayer(CString layerName) const {
   const bool isBottom = std::any_of(std::begin(kBottomLayers), std::end(kBottomLayers),
@@ -37,12 +50,12 @@ void CMGeomText::Get_OrvaneTextStyleValue(int& mirror, double& angle, int& ancho
 }
 
 int CMGeomText::GetMirrorStatus() const {
-  if (IsBottomLayer(m_sLayer) != 0) return m_sMirror.Find("@NOMirror") == -1 ? 1 : 0;
-  return m_sMirror.Find("@Mirror") == -1 ? 0 : 1;
+  if (IsBottomLayer(m_sLayer) != 0) return m_sMirror.Find(kNotMirrored) == -1 ? 1 : 0;
+  return m_sMirror.Find(kMirrored) == -1 ? 0 : 1;
 }
 
 int CMGeomText::Is_Apply_Right_Reading() const {
-  if (!m_sReading.IsEmpty() && !EqualIgnoringCase(m_sReading.View(), "@RIGHT_READING")) return 0;
+  if (!m_sReading.IsEmpty() && !EqualIgnoringCase(m_sReading.View(), kRightReading)) return 0;
   const double from = GetMirrorStatus() != 0 ? 90.0 : 91.0;
   return from <= m_dAngle && m_dAngle < from + 180.0 ? 1 : 0;
 }

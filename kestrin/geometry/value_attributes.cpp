@@ -23,7 +23,7 @@ LineOutcome SetText(ReaderState& state, CString& text) {
 }
 
 LineOutcome SetIfYes(ReaderState& state, int& flag) {
-  flag = ContainsIgnoringCase(state.values[2], "YES") ? 1 : 0;
+  flag = ContainsIgnoringCase(state.values[2], kYes) ? 1 : 0;
   return LineOutcome::Imported();
 }
 

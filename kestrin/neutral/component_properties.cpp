@@ -60,7 +60,7 @@ void AddProperty(CMCompsInfo& component, RecordPool& records, std::string_view i
   item.remove_prefix(item.find('(') + 1);  // npos + 1 is 0
   const std::string_view name = BeforeFirstComma(item);
   const std::string_view value = BetweenFirstAndLastQuote(item);
-  if (name == "REFLOC") return AddReferenceLocations(component, records, value);
+  if (name == kReferenceLocations) return AddReferenceLocations(component, records, value);
   auto comment = records.Make<tagMCOMPCOMMENT>();
   comment->m_sName = name;
   comment->m_sValue = value;

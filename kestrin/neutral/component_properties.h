@@ -10,6 +10,9 @@
 
 namespace kestrin {
 
+/// The name of the property with reference locations.
+inline constexpr std::string_view kReferenceLocations = "REFLOC";
+
 /// Adds a property, `(NAME,"value")`, to the component: reference locations if the name is REFLOC, else a
 /// comment.
 void AddProperty(CMCompsInfo& component, RecordPool& records, std::string_view item);

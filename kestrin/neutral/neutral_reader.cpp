@@ -13,6 +13,10 @@
 namespace kestrin {
 namespace {
 
+constexpr std::string_view kBoardHeader = "###Board Information";
+constexpr std::string_view kNetsHeader = "###Nets";
+constexpr std::string_view kComponentHeader = "###Component";
+
 /// The number after the last ":", as in "X:12.5".
 double NumberAfterColon(std::string_view value) {
   return ToDouble(value.substr(value.rfind(':') + 1));  // npos + 1 is 0
@@ -27,20 +31,20 @@ OwnerState OwnerIn(bool isSelected, const void* owner) {
 
 }  // namespace
 
-/// The row of a keyword; null for an unknown keyword.
-const NeutralReader::Row* NeutralReader::Find(Keyword keyword) {
+struct NeutralReader::Table {
   using Reader = NeutralReader;
   using Owner = kestrin::Owner<Reader>;
-  constexpr Owner kBoardSection{"",
-                                [](const Reader& reader) { return OwnerIn(reader.InFirstBoardSection()); }};
-  constexpr Owner kNetsSection{"", [](const Reader& reader) { return OwnerIn(reader.InSelectedNets()); }};
-  constexpr Owner kComponentSection{
+  static constexpr Owner kBoardSection{
+      "", [](const Reader& reader) { return OwnerIn(reader.InFirstBoardSection()); }};
+  static constexpr Owner kNetsSection{"",
+                                      [](const Reader& reader) { return OwnerIn(reader.InSelectedNets()); }};
+  static constexpr Owner kComponentSection{
       "", [](const Reader& reader) { return OwnerIn(reader.InSelectedComponents()); }};
-  constexpr Owner kCurrentNet{
+  static constexpr Owner kCurrentNet{
       "a NET before it", [](const Reader& reader) { return OwnerIn(reader.InSelectedNets(), reader.net_); }};
-  constexpr Owner kCurrentComponent{"a COMP before it", [](const Reader& reader) {
-                                      return OwnerIn(reader.InSelectedComponents(), reader.component_);
-                                    }};
+  static constexpr Owner kCurrentComponent{"a COMP before it", [](const Reader& reader) {
+                                             return OwnerIn(reader.InSelectedComponents(), reader.component_);
+                                           }};
   static constexpr Row kRows[] = {
       // the most frequent first
       {"N_PIN", AtLeast(5), kCurrentNet, &Reader::AddPin},
@@ -59,8 +63,14 @@ const NeutralReader::Row* NeutralReader::Find(Keyword keyword) {
       Row("G_PIN"),
       Row("GEOM"),
   };
-  static constexpr KeywordTable kTable(kRows);
-  return kTable.Find(keyword);
+  static constexpr KeywordTable kByKeyword{kRows};
+};
+
+void NeutralReader::ForEachWord(const FormatWordVisitor& visit) {
+  ForEachRowName(Table::kRows, visit);
+  for (const std::string_view header : {kBoardHeader, kNetsHeader, kComponentHeader})
+    visit({.text = header, .place = WordPlace::kInside});
+  visit({.text = kReferenceLocations});
 }
 
 LineOutcome NeutralReader::ReadLine(std::string_view line) {
@@ -71,7 +81,7 @@ LineOutcome NeutralReader::ReadLine(std::string_view line) {
   if (TrimmedLeft(line).empty()) return LineOutcome::Ignored();
   std::size_t position = 0;
   const std::string_view word = NextToken(line, ' ', position).value_or(std::string_view());
-  const Row* row = Find(Keyword(word));
+  const Row* row = Table::kByKeyword.Find(Keyword(word));
   if (row == nullptr) return LineOutcome::Skipped(SkipCode::kUnknownRecord);
   if (row->read == nullptr) return LineOutcome::Ignored();
   const OwnerState owner = row->FindOwner(*this);
@@ -85,7 +95,8 @@ LineOutcome NeutralReader::ReadLine(std::string_view line) {
 
 void NeutralReader::ForEachMisreadNumber(std::string_view line, const NumberAction& action) {
   std::size_t position = 0;
-  const Row* row = Find(Keyword(NextToken(line, ' ', position).value_or(std::string_view())));
+  const Row* row =
+      Table::kByKeyword.Find(Keyword(NextToken(line, ' ', position).value_or(std::string_view())));
   if (row != nullptr) row->kinds.ForEachMisreadNumber(ValuesFrom(values_, 0), action);
 }
 
@@ -96,9 +107,9 @@ LineOutcome NeutralReader::SkipForValueCount(const Row& row) {
 }
 
 void NeutralReader::CountSection(std::string_view header) {
-  if (header.starts_with("###Board Information")) ++boardSections_;
-  if (header.starts_with("###Nets")) ++selection_.netsSections;
-  if (header.starts_with("###Component")) ++selection_.componentSections;
+  if (header.starts_with(kBoardHeader)) ++boardSections_;
+  if (header.starts_with(kNetsHeader)) ++selection_.netsSections;
+  if (header.starts_with(kComponentHeader)) ++selection_.componentSections;
 }
 
 LineOutcome NeutralReader::AddPlacement() {

@@ -13,6 +13,7 @@
 #include "kestrin/neutral/component_model.h"
 #include "kestrin/neutral/net_model.h"
 #include "kestrin/records/record_pool.h"
+#include "kestrin/text/format_words.h"
 #include "kestrin/text/keyword.h"
 #include "kestrin/text/line_fields.h"
 #include "kestrin/text/line_outcome.h"
@@ -41,9 +42,12 @@ class NeutralReader {
   /// read, and have been imported.
   void ForEachMisreadNumber(std::string_view line, const NumberAction& action);
 
+  /// Passes every word that the reader compares with to the visitor.
+  static void ForEachWord(const FormatWordVisitor& visit);
+
  private:
   using Row = Record<NeutralReader, LineOutcome (NeutralReader::*)()>;
-  static const Row* Find(Keyword keyword);
+  struct Table;
 
   void CountSection(std::string_view header);
   LineOutcome SkipForValueCount(const Row& row);

@@ -24,14 +24,21 @@ std::string_view ArgumentText(std::string_view line) {
 
 }  // namespace
 
-/// The row of the command that the line contains; null if there is none.
-const TechReader::Command* TechReader::Find(std::string_view line) {
+struct TechReader::Table {
   static constexpr Command kCommands[] = {
       // if a line contains several keywords, the first row wins
       {"$$define_physical_layer", Any(), kNobody, &TechReader::AddLayer, "i"},
       {"$$define_rule_via", Any(), kNobody, &TechReader::AddViaRule},
   };
-  for (const Command& command : kCommands) {
+};
+
+void TechReader::ForEachWord(const FormatWordVisitor& visit) {
+  ForEachRowName(Table::kCommands, visit, {.place = WordPlace::kInside});
+}
+
+/// The row of the command that the line contains; null if there is none.
+const TechReader::Command* TechReader::Find(std::string_view line) {
+  for (const Command& command : Table::kCommands) {
     if (Contains(line, command.name)) return &command;
   }
   return nullptr;

@@ -8,6 +8,7 @@
 
 #include "kestrin/records/record_pool.h"
 #include "kestrin/tech/tech_model.h"
+#include "kestrin/text/format_words.h"
 #include "kestrin/text/line_outcome.h"
 #include "kestrin/text/record_table.h"
 
@@ -28,8 +29,12 @@ class TechReader {
   /// Shows the values that are read as numbers but are not wholly numbers, if the line is imported.
   void ForEachMisreadNumber(std::string_view line, const NumberAction& action);
 
+  /// Passes every word that the reader compares with to the visitor.
+  static void ForEachWord(const FormatWordVisitor& visit);
+
  private:
   using Command = Record<TechReader, LineOutcome (TechReader::*)(std::string_view line)>;
+  struct Table;
   static const Command* Find(std::string_view line);
   LineOutcome AddLayer(std::string_view line);
   LineOutcome AddViaRule(std::string_view line);

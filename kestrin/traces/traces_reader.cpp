@@ -12,12 +12,14 @@
 namespace kestrin {
 namespace {
 
+constexpr std::string_view kNetWord = "NET";
+constexpr std::string_view kProperty = "PRP ";
+
 /// Whether a comment looks like a net header but is not one, so that its net is missed.
 bool IsMissedNetHeader(std::string_view comment) {
-  constexpr std::string_view kWord = "NET";
   const std::string_view text = TrimmedLeft(comment.substr(1));
-  if (!text.starts_with(kWord)) return false;
-  const std::string_view rest = text.substr(kWord.size());
+  if (!text.starts_with(kNetWord)) return false;
+  const std::string_view rest = text.substr(kNetWord.size());
   return rest.empty() || IsSpace(rest.front()) || rest.front() == '\'';
 }
 
@@ -25,7 +27,7 @@ bool IsMissedNetHeader(std::string_view comment) {
 /// comments.
 bool IsIgnorable(std::string_view line) {
   const std::string_view text = Trimmed(line);
-  if (text.empty() || text.starts_with("PRP ")) return true;
+  if (text.empty() || text.starts_with(kProperty)) return true;
   if (text.front() == '#') return !IsMissedNetHeader(text);
   return text.front() == '(' && text.back() == ')';
 }
@@ -34,23 +36,24 @@ OwnerState OwnerAt(const void* owner) { return owner == nullptr ? OwnerState::kM
 
 }  // namespace
 
-/// The row of a record code; null for an unknown code.
-const TracesReader::Row* TracesReader::Find(Keyword code) {
+struct TracesReader::Table {
   using Reader = TracesReader;
   using Owner = kestrin::Owner<Reader>;
   using Form = ValueKinds::Form;
-  constexpr Owner kNet{"a net header before it", [](const Reader& reader) { return OwnerAt(reader.net_); }};
-  constexpr Owner kFill{"a FIL, ARE or ARS before it and after the last net header",
-                        [](const Reader& reader) { return OwnerAt(reader.fill_); }};
-  constexpr Owner kSegments{"a WIR of at least 5 values, an INC or an ANT before it",
-                            [](const Reader& reader) { return OwnerAt(reader.segments_); }};
-  constexpr Owner kVertices{"a FIL, ARE, ARS, ISL or ISS before it",
-                            [](const Reader& reader) { return OwnerAt(reader.vertices_); }};
+  static constexpr Owner kNet{"a net header before it",
+                              [](const Reader& reader) { return OwnerAt(reader.net_); }};
+  static constexpr Owner kFill{"a FIL, ARE or ARS before it and after the last net header",
+                               [](const Reader& reader) { return OwnerAt(reader.fill_); }};
+  static constexpr Owner kSegments{"a WIR of at least 5 values, an INC or an ANT before it",
+                                   [](const Reader& reader) { return OwnerAt(reader.segments_); }};
+  static constexpr Owner kVertices{"a FIL, ARE, ARS, ISL or ISS before it",
+                                   [](const Reader& reader) { return OwnerAt(reader.vertices_); }};
   static constexpr const char* kWire = "idddd";
   static constexpr const char* kIncomplete = "iddiddt";
-  constexpr ValueKinds kArea(Form{Exactly(6), "...idi"}, Form{Exactly(8), "...idi.i"},
-                             Form{Exactly(13), "...idi.iidd.i"});
-  constexpr ValueKinds kFillHeader(Form{Exactly(16), "...iiiiidiii"}, Form{Exactly(21), "...iiiiidiii.iidd"});
+  static constexpr ValueKinds kArea{Form{Exactly(6), "...idi"}, Form{Exactly(8), "...idi.i"},
+                                    Form{Exactly(13), "...idi.iidd.i"}};
+  static constexpr ValueKinds kFillHeader{Form{Exactly(16), "...iiiiidiii"},
+                                          Form{Exactly(21), "...iiiiidiii.iidd"}};
   static constexpr Row kRows[] = {
       // the most frequent first
       {"VER", AtLeast(2), kVertices, &Reader::AddVer, "dd"},
@@ -72,8 +75,14 @@ const TracesReader::Row* TracesReader::Find(Keyword code) {
       {"UNITS", AtLeast(1), kNobody, &Reader::SetUnits},
       {"ST", OneOf(4, 6, 8), kNobody, &Reader::SetSt, {{Exactly(4), "ddii"}, {OneOf(6, 8), "iiiiii"}}},
   };
-  static constexpr KeywordTable kTable(kRows);
-  return kTable.Find(code);
+  static constexpr KeywordTable kByCode{kRows};
+};
+
+void TracesReader::ForEachWord(const FormatWordVisitor& visit) {
+  // The strict reader finds a code even directly after a small letter.
+  ForEachRowName(Table::kRows, visit, {.place = WordPlace::kCapitals});
+  visit({.text = kNetWord});
+  visit({.text = kProperty});
 }
 
 LineOutcome TracesReader::ReadLine(std::string_view line) {
@@ -86,15 +95,15 @@ LineOutcome TracesReader::ReadLine(std::string_view line) {
 }
 
 void TracesReader::ForEachMisreadNumber(std::string_view /*line*/, const NumberAction& action) {
-  const Row* row = Find(Keyword(values_.Text(0)));
+  const Row* row = Table::kByCode.Find(Keyword(values_.Text(0)));
   if (row != nullptr) row->kinds.ForEachMisreadNumber(ValuesFrom(values_, 1), action);
 }
 
 LineOutcome TracesReader::ReadRecord(std::string_view line) {
   quotingLine_ = lineNumber_;
   const Keyword code(values_.Has(0) ? values_.Text(0) : std::string_view());
-  if (code == Keyword("#") && values_.Has(1) && values_.Text(1) == "NET") return AddNet();
-  const Row* row = Find(code);
+  if (code == Keyword("#") && values_.Has(1) && values_.Text(1) == kNetWord) return AddNet();
+  const Row* row = Table::kByCode.Find(code);
   if (row == nullptr) {
     return IsIgnorable(line) ? LineOutcome::Ignored() : LineOutcome::Skipped(SkipCode::kUnknownRecord);
   }

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "kestrin/records/record_pool.h"
+#include "kestrin/text/format_words.h"
 #include "kestrin/text/keyword.h"
 #include "kestrin/text/line_fields.h"
 #include "kestrin/text/line_outcome.h"
@@ -32,9 +33,12 @@ class TracesReader {
   /// read, and have been imported.
   void ForEachMisreadNumber(std::string_view line, const NumberAction& action);
 
+  /// Passes every word that the reader compares with to the visitor.
+  static void ForEachWord(const FormatWordVisitor& visit);
+
  private:
   using Row = Record<TracesReader, LineOutcome (TracesReader::*)()>;
-  static const Row* Find(Keyword code);
+  struct Table;
   LineOutcome ReadRecord(std::string_view line);
   LineOutcome SkipQuoted(std::string_view line);
 

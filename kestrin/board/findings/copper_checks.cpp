@@ -1,5 +1,9 @@
+#include <algorithm>
 #include <map>
 #include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 #include "kestrin/board/findings/checks.h"
 #include "kestrin/board/polylines.h"
@@ -11,6 +15,7 @@ namespace {
 
 /// The points that name a via which does not exist.
 struct UnknownVia {
+  std::size_t order = 0;  // of the first point
   std::size_t count = 0;
   const CMTracesSEG* first = nullptr;
 };
@@ -35,7 +40,10 @@ void CheckVias(const CheckedSet& set, const Board& board, Collector& findings) {
           return;
         }
         UnknownVia& via = unknown[std::string(name)];
-        if (via.count++ == 0) via.first = &point;
+        if (via.count++ == 0) {
+          via.first = &point;
+          via.order = unknown.size();
+        }
       });
     });
   });
@@ -43,10 +51,14 @@ void CheckVias(const CheckedSet& set, const Board& board, Collector& findings) {
   for (const auto& [name, isUsed] : known) {
     if (isUsed) matches.Match(name);
   }
-  for (const auto& entry : unknown) {
-    matches.Miss(entry.first, [&] {
-      const std::string& name = entry.first;
-      const UnknownVia& via = entry.second;
+  using Unknown = std::pair<std::string_view, UnknownVia>;
+  std::vector<Unknown> inFileOrder(unknown.begin(), unknown.end());
+  std::sort(inFileOrder.begin(), inFileOrder.end(),
+            [](const Unknown& a, const Unknown& b) { return a.second.order < b.second.order; });
+  for (const Unknown& entry : inFileOrder) {
+    const std::string_view name = entry.first;
+    const UnknownVia& via = entry.second;
+    matches.Miss(name, [&] {
       return Finding{.message = Quoted(name) + " is neither a width nor a via; " + std::to_string(via.count) +
                                 (via.count == 1 ? " point of a track names it" : " points of tracks name it"),
                      .at = {findings.PlaceOf(ImportFile::kTraces, via.first)}};

@@ -65,27 +65,41 @@ void CheckNumbers(ImportFile file, const CheckedSet& set, Collector& findings) {
   findings.AddAll(FindingCode::kNotANumber, std::move(first), misread.count);
 }
 
-/// Finds unknown units of geometries, which the models do not tell from missing ones. One finding for each
-/// word.
-void CheckPages(const FileReport& report, Collector& findings) {
+/// The lines with an unknown unit.
+struct UnknownUnit {
+  std::string word;
+  std::vector<FindingPlace> places;
+};
+
+/// The unknown units of geometries, in the order of the file.
+std::vector<UnknownUnit> UnknownUnitsIn(CStdioFile& file) {
   constexpr std::size_t kMostPlaces = 100;
-  CStdioFile file;
-  if (file.Open(report.path.c_str()) == 0) return;
-  std::map<std::string, std::vector<FindingPlace>> unknown;
+  std::vector<UnknownUnit> units;
+  std::map<std::string, std::size_t, std::less<>> byWord;
   std::int64_t number = 0;
   while (const auto line = file.ReadLine()) {
     ++number;
-    const auto option = line->find('@');
-    if (option == std::string_view::npos) continue;
-    const auto [word, arguments] = CutCommandLine(*line);
-    if (word != "$$page" || !UnitOfPage(arguments).empty()) continue;
-    std::vector<FindingPlace>& places = unknown[std::string(arguments.substr(arguments.find('@')))];
-    if (places.size() < kMostPlaces) places.push_back({ImportFile::kGeometry, number});
+    if (line->find('@') == std::string_view::npos) continue;
+    const auto [command, arguments] = CutCommandLine(*line);
+    const auto option = arguments.find('@');
+    if (command != "$$page" || option == std::string_view::npos || !UnitOfPage(arguments).empty()) continue;
+    const std::string word(arguments.substr(option));
+    const std::size_t index = byWord.emplace(word, units.size()).first->second;
+    if (index == units.size()) units.push_back({word, {}});
+    if (units[index].places.size() < kMostPlaces)
+      units[index].places.push_back({ImportFile::kGeometry, number});
   }
-  for (const auto& unit : unknown) {
+  return units;
+}
+
+/// The models do not tell unknown units of geometries from missing ones. One finding for each word.
+void CheckPages(const FileReport& report, Collector& findings) {
+  CStdioFile file;
+  if (file.Open(report.path.c_str()) == 0) return;
+  for (UnknownUnit& unit : UnknownUnitsIn(file)) {
     findings.Add(FindingCode::kUnknownUnit, [&] {
-      return Finding{.message = "the unit " + Quoted(unit.first) + " of geometries is unknown",
-                     .at = unit.second};
+      return Finding{.message = "the unit " + Quoted(unit.word) + " of geometries is unknown",
+                     .at = std::move(unit.places)};
     });
   }
 }
