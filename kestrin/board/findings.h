@@ -64,7 +64,7 @@ enum class FindingCode : std::uint8_t {
 
 /// What a code means.
 struct FindingKind {
-  Severity severity;
+  Severity severity;         ///< how bad it is
   std::string_view name;     ///< short and stable, for scripts: "unknown-pin"
   std::string_view meaning;  ///< when it is found
   std::string_view verdict;  ///< what it says about the set: "nets and components do not agree"
@@ -126,15 +126,15 @@ static_assert(kFindingKinds.size() == static_cast<std::size_t>(FindingCode::kCou
 /// A line of a file. The number counts from 1; 0 means that the file as a whole is meant, or that the line is
 /// not known.
 struct FindingPlace {
-  ImportFile file = ImportFile::kTech;
-  std::int64_t line = 0;
+  ImportFile file = ImportFile::kTech;  ///< which file of the set
+  std::int64_t line = 0;                ///< the number of the line
 };
 
 /// Something that is wrong.
 struct Finding {
-  FindingCode code = FindingCode::kCount;
-  std::string message;           ///< a sentence with the names in it, without a full stop
-  std::vector<FindingPlace> at;  ///< the records that it is about
+  FindingCode code = FindingCode::kCount;  ///< what is wrong
+  std::string message;                     ///< a sentence with the names in it, without a full stop
+  std::vector<FindingPlace> at;            ///< the records that it is about
 };
 
 /// All findings of a set.
@@ -144,12 +144,13 @@ struct Findings {
   std::vector<Finding> list;                               ///< by code, then in the order of the records
   std::array<std::size_t, kFindingKinds.size()> counts{};  ///< by code; includes findings that are not kept
 
+  /// How many findings of a code there are.
   [[nodiscard]] std::size_t CountOf(FindingCode code) const { return counts[static_cast<std::size_t>(code)]; }
 };
 
 /// What is checked. Everything may be null or empty; what depends on it is not checked.
 struct CheckedSet {
-  BoardModels models;
+  BoardModels models;                                        ///< the models that the board was read from
   std::array<const SourceLines*, kImportFileCount> lines{};  ///< by ImportFile; without them, lines are 0
   const ImportReport* report = nullptr;  ///< without it, only the models are checked, not the files
   /// By ImportFile: what another thread may have found during the import. What is missing is looked for.

@@ -16,8 +16,8 @@ namespace kestrin {
 /// A value that is read as a number, but is not a number from its beginning to its end: "22,5" is read as
 /// 22, "abc" as 0, and "22.5" as 22 where a whole number is read.
 struct MisreadNumber {
-  ImportFile file = ImportFile::kTech;
-  std::int64_t line = 0;   ///< counted from 1
+  ImportFile file = ImportFile::kTech;  ///< which file of the set
+  std::int64_t line = 0;                ///< counted from 1
   int value = 0;           ///< the position of the value in its line, counted from 1 as the file formats do
   std::string text;        ///< the value, at most its first FileReport::kKeptBytes bytes
   bool asInteger = false;  ///< whether a whole number is read
