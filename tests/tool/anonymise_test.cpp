@@ -90,8 +90,9 @@ void RemoveTexts(rapidjson::Value& value) {
     for (auto& element : value.GetArray()) RemoveTexts(element);
   } else if (value.IsObject()) {
     for (const char* member : {"file", "text", "reason", "message", "error"}) value.RemoveMember(member);
-    for (auto member = value.MemberBegin(); !(member == value.MemberEnd()); ++member)
-      RemoveTexts(member->value);
+    // clang 14 finds the comparison of these iterators ambiguous.
+    auto member = value.MemberBegin();
+    for (auto left = value.MemberCount(); left > 0; --left) RemoveTexts((member++)->value);
   }
 }
 

@@ -31,7 +31,7 @@ class Edited {
  public:
   explicit Edited(const std::vector<Edit>& edits) {
     for (const std::string kind : {"tech", "neutral", "geometry", "traces"}) {
-      std::string content = ContentOf(kBoard + "/board." + kind);
+      std::string content = ContentOf((kBoard + "/board.").append(kind));
       for (const Edit& edit : edits) {
         if (edit.kind != kind) continue;
         std::size_t place = content.find(edit.text);
@@ -39,7 +39,7 @@ class Edited {
         for (; place != std::string::npos; place = content.find(edit.text, place + edit.replacement.size()))
           content.replace(place, edit.text.size(), edit.replacement);
       }
-      static_cast<void>(folder_.File("board." + kind, content));
+      static_cast<void>(folder_.File(std::string("board.").append(kind), content));
     }
   }
   [[nodiscard]] std::string Path() const { return folder_.Path(); }
@@ -57,7 +57,7 @@ std::string TextOf(const rapidjson::Value& value) {
 
 /// A line for each change: "component U_3 changed x:1>2 y:3>4". An empty value is null.
 std::string Changes(const std::string& arguments) {
-  const std::string json = RunTool("diff --format json " + arguments).out;
+  std::string json = RunTool("diff --format json " + arguments).out;
   rapidjson::Document document;
   document.Parse(json.c_str());
   EXPECT_FALSE(document.HasParseError()) << json;
