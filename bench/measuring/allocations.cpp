@@ -41,6 +41,10 @@ void* operator new(std::size_t size) {
   return memory;
 }
 
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+  return std::malloc(size == 0 ? 1 : size);
+}
+
 void* operator new(std::size_t size, std::align_val_t alignment) {
   ++allocations;
   const auto bytes = static_cast<std::size_t>(alignment);

@@ -97,6 +97,7 @@ static void* OrRaise(void* memory) {
 }
 
 void* operator new(std::size_t size) { return OrRaise(std::malloc(size)); }
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept { return std::malloc(size); }
 void* operator new[](std::size_t size) { return OrRaise(std::malloc(size)); }
 void* operator new(std::size_t size, std::align_val_t alignment) {
   const auto boundary = static_cast<std::size_t>(alignment);
