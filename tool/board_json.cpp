@@ -9,15 +9,6 @@
 namespace kestrin::tool {
 namespace {
 
-/// Writes a list; the action writes each element.
-template <class List, class Write>
-void WriteList(JsonWriter& json, const char* name, const List& list, Write write) {
-  json.Key(name);
-  json.StartArray();
-  for (const auto& element : list) write(element);
-  json.EndArray();
-}
-
 void WriteText(JsonWriter& json, const char* name, std::string_view bytes) {
   json.Key(name);
   json.String(bytes);

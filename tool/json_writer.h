@@ -72,6 +72,15 @@ void WriteJson(JsonWriter& json, const CArray<Type, ArgType>& list) {
   json.EndArray();
 }
 
+/// Writes a member that is a list; the action writes each element.
+template <class List, class Write>
+void WriteList(JsonWriter& json, const char* name, const List& list, Write write) {
+  json.Key(name);
+  json.StartArray();
+  for (const auto& element : list) write(element);
+  json.EndArray();
+}
+
 /// Writes an object: its braces when it is constructed and destroyed, its members in between.
 class JsonObject {
  public:

@@ -19,15 +19,6 @@ std::string_view WordOf(ReadingEnd end) {
   return kWords[static_cast<std::size_t>(end)];
 }
 
-/// Writes a list; the action writes each element.
-template <class List, class Write>
-void WriteList(JsonWriter& json, const char* name, const List& list, Write write) {
-  json.Key(name);
-  json.StartArray();
-  for (const auto& element : list) write(element);
-  json.EndArray();
-}
-
 void WriteSkipped(JsonWriter& json, const Checked& checked, const FileReport& report) {
   json.Key("codes");
   json.StartArray();

@@ -21,7 +21,7 @@ namespace kestrin::tool {
 [[nodiscard]] Value ShownValueOf(std::string_view content);
 
 ///@{
-/// Appends a detail if numbers or names differ. Names are compared as texts: part 0603 is not part 603.
+/// Appends a detail if numbers or names differ. Names are compared as texts: "0603" is not "603".
 void CompareValue(std::vector<Detail>& details, const char* what, double before, double after);
 void CompareName(std::vector<Detail>& details, const char* what, std::string_view before,
                  std::string_view after);

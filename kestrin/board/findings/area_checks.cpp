@@ -12,7 +12,7 @@ std::string CountOfPoints(std::size_t count) {
   return std::to_string(count) + (count == 1 ? " point" : " points");
 }
 
-/// Checks an outline of a geometry. An empty one is none.
+/// Checks an outline of a geometry. An empty list means that there is no outline.
 void CheckOutline(const NumberArray& numbers, std::string_view what, const void* record,
                   Collector& findings) {
   if (numbers.IsEmpty()) return;
