@@ -65,10 +65,11 @@ void AddAreas(const Fill& fill, const Areas& areas, const Islands& islands, bool
 
 }  // namespace
 
-void ReadAreas(const CMTraces& traces, NetTable& table, Board& board) {
-  ForEachRecord(traces.m_pFilArray, [&](const CMTracesFIL& record, Index index) {
+void ReadAreas(const CMTraces* traces, const std::vector<Index>& netOf, Board& board) {
+  if (traces == nullptr) return;
+  ForEachRecord(traces->m_pFilArray, [&](const CMTracesFIL& record, Index index) {
     if (record.m_pAreArray->IsEmpty() && record.m_pArsArray->IsEmpty()) return;
-    Net& net = table.Of(record.m_sName1.View());
+    Net& net = board.nets[netOf[index]];
     const Fill fill{record, index, board.units.traces};
     AddAreas(fill, record.m_pAreArray, record.m_pIslArray, false, net);
     AddAreas(fill, record.m_pArsArray, record.m_pIssArray, true, net);

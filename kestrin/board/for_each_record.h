@@ -18,4 +18,10 @@ void ForEachRecord(const List& list, Action action) {
   }
 }
 
+/// The number of records of a model's list; 0 if the model is null.
+template <class Model, class List>
+[[nodiscard]] std::size_t SizeOf(const Model* model, List* Model::*list) {
+  return model == nullptr ? 0 : static_cast<std::size_t>((model->*list)->GetSize());
+}
+
 }  // namespace kestrin

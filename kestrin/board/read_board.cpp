@@ -2,13 +2,17 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
+#include <utility>
 
+#include "kestrin/base/side_by_side.h"
 #include "kestrin/board/copper.h"
 #include "kestrin/board/fit.h"
 #include "kestrin/board/footprints.h"
 #include "kestrin/board/for_each_record.h"
 #include "kestrin/board/layers.h"
-#include "kestrin/board/nets.h"
+#include "kestrin/board/net_names.h"
+#include "kestrin/board/net_pins.h"
 #include "kestrin/board/placement.h"
 #include "kestrin/board/polygons.h"
 #include "kestrin/board/units.h"
@@ -33,6 +37,16 @@ std::optional<double> WidthStepOf(const CopperSurvey& survey, double unit, std::
   return isUsable ? asked : FitWidthStep(survey, unit);
 }
 
+/// Whether the models are so large that reading them is worth a second thread. Starting one takes about as
+/// long as reading a hundred records.
+bool IsLarge(const BoardModels& models) {
+  constexpr std::size_t kManyRecords = 2'000;
+  const std::size_t records = SizeOf(models.components, &CMComps::m_pInfos) +
+                              SizeOf(models.nets, &CMNetList::m_pNets) +
+                              SizeOf(models.traces, &CMTraces::m_pNetArray);
+  return records >= kManyRecords;
+}
+
 /// The number of records that the pins of components come from.
 std::size_t PinRecords(const BoardModels& models) {
   std::size_t count = 0;
@@ -48,11 +62,33 @@ std::size_t PinRecords(const BoardModels& models) {
   return count;
 }
 
-/// An estimate of the number of nets. Net headers mostly repeat the names of the nets.
-std::size_t NetNames(const BoardModels& models) {
-  const std::int64_t nets = models.nets == nullptr ? 0 : models.nets->m_pNets->GetSize();
-  const std::int64_t headers = models.traces == nullptr ? 0 : models.traces->m_pNetArray->GetSize();
-  return static_cast<std::size_t>(std::max(nets, headers));
+/// What the parts of nets are read from.
+struct NetSources {
+  const BoardModels& models;
+  const NetsOfRecords& nets;
+  const Footprints& footprints;
+  const CopperSurvey& survey;
+  const NameIndex& viaPadstacks;
+};
+
+/// Reads pins, copper and areas of all nets. The copper takes longer than the rest, so the thread that reads
+/// the rest gets a quarter of it.
+void ReadNets(const NetSources& from, bool isWorthThread, Board& board) {
+  const std::span<Net> all(board.nets);
+  const std::span<Net> most = all.first(all.size() - all.size() / 4);
+  const std::span<Net> others = all.subspan(most.size());
+  const CopperReader copper(from.models.traces, from.viaPadstacks, board);
+  CopperLists ofMost(from.survey, 1.0);
+  CopperLists ofOthers(from.survey, 0.25);
+  RunSideBySide(
+      isWorthThread, [&] { copper.Read(most, ofMost); },
+      [&] {
+        ReadNetPins(from.models.nets, from.nets.netRecords, from.footprints, board);
+        ReadAreas(from.models.traces, from.nets.fills, board);
+        copper.Read(others, ofOthers);
+      });
+  AddCopper(std::move(ofMost), most, board);
+  AddCopper(std::move(ofOthers), others, board);
 }
 
 }  // namespace
@@ -74,17 +110,19 @@ Board ReadBoard(const BoardModels& models, const BoardOptions& options) {
     board.outline = OutlineOf(*models.geometry->m_pBoard, board.units.geometry);
   }
   const Footprints footprints(models.geometry, board);
-  ReadComponents(models.components, PinRecords(models), footprints, board);
-  NetTable nets(NetNames(models), board);
-  ReadNets(models.nets, footprints, nets, board);
   const NameIndex viaPadstacks = ReadViaPadstacks(models, board);
-  if (models.traces != nullptr) {
-    const CopperSurvey survey = SurveyCopper(*models.traces);
-    board.reading.widthStep = WidthStepOf(survey, board.units.traces, options.widthStep);
-    ReadCopper(*models.traces, survey, viaPadstacks, nets, board);
-    ReadAreas(*models.traces, nets, board);
-  }
-  board.reading = FitPlacement(board, footprints, options);
+  const bool isLarge = IsLarge(models);
+  NetsOfRecords nets;
+  CopperSurvey survey;
+  RunSideBySide(
+      isLarge, [&] { nets = ReadNetNames(models, board); },
+      [&] {
+        ReadComponents(models.components, PinRecords(models), footprints, board);
+        survey = SurveyCopper(models.traces);
+      });
+  board.reading.widthStep = WidthStepOf(survey, board.units.traces, options.widthStep);
+  ReadNets({models, nets, footprints, survey, viaPadstacks}, isLarge, board);
+  board.reading = FitPlacement(board, footprints, options, isLarge);
   PlaceComponents(footprints, board);
   return board;
 }

@@ -50,7 +50,7 @@ struct BoardOptions {
 /// The models are not changed and not needed afterwards; several threads may read them at once. Equal models
 /// make equal boards, in any locale. Time and memory are in proportion to the size of the models, whatever
 /// they contain. There are no errors: a name that refers to nothing leaves the reference empty. Throws only
-/// std::bad_alloc.
+/// std::bad_alloc. A large board is read by two threads, if the system lets one start.
 ///
 /// How is placement fitted? There are eight readings: two senses of rotation on the top, two on the bottom,
 /// and a turn of 0 or 180 degrees there. The one with the most pins that touch copper of their own net is

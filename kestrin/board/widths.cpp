@@ -35,10 +35,11 @@ double MedianOf(std::vector<WidthRun> runs) {
 
 }  // namespace
 
-CopperSurvey SurveyCopper(const CMTraces& traces) {
+CopperSurvey SurveyCopper(const CMTraces* traces) {
   CopperSurvey survey;
+  if (traces == nullptr) return survey;
   std::vector<WidthRun>& widths = survey.widthsInDigits;
-  ForEachRecord(traces.m_pNetArray, [&](const CMTracesNET& header, Index) {
+  ForEachRecord(traces->m_pNetArray, [&](const CMTracesNET& header, Index) {
     ForEachPolyline(header, [&](const auto& polyline, WireKind, Index) {
       ++survey.polylines;
       survey.points += static_cast<std::size_t>(polyline.m_pSegArray->GetSize());

@@ -26,7 +26,8 @@ struct CopperSurvey {
   std::size_t texts = 0;  // points whose value 4 has more than digits, usually the names of vias
 };
 
-[[nodiscard]] CopperSurvey SurveyCopper(const CMTraces& traces);
+/// The traces may be null.
+[[nodiscard]] CopperSurvey SurveyCopper(const CMTraces* traces);
 
 /// Fits the unit of widths that are written with digits only, in units of the file: the one of 1, 0.1, 0.01,
 /// 0.001 and 0.0001 with which their median is a usual width of tracks; empty if no step fits.

@@ -10,11 +10,12 @@ namespace kestrin::test {
 /// A file of the sample board: "tech", "neutral", "geometry" or "traces".
 inline std::string BoardFile(const std::string& kind) { return KESTRIN_EXAMPLES "/board/board." + kind; }
 
-inline void ImportBoard(CPC_KESTRIN_GET& session) {
-  session.vSetTechFilePath(BoardFile("tech"));
-  session.vSetNeutralFilePath(BoardFile("neutral"));
-  session.vSetGeomFilePath(BoardFile("geometry"));
-  session.vSetTraceFilePath(BoardFile("traces"));
+/// Imports the four files of a folder.
+inline void ImportBoard(CPC_KESTRIN_GET& session, const std::string& folder = KESTRIN_EXAMPLES "/board") {
+  session.vSetTechFilePath(folder + "/board.tech");
+  session.vSetNeutralFilePath(folder + "/board.neutral");
+  session.vSetGeomFilePath(folder + "/board.geometry");
+  session.vSetTraceFilePath(folder + "/board.traces");
   session.vParse();
 }
 

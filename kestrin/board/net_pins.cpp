@@ -1,4 +1,4 @@
-#include "kestrin/board/nets.h"
+#include "kestrin/board/net_pins.h"
 
 #include <algorithm>
 #include <deque>
@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "kestrin/board/for_each_record.h"
+#include "kestrin/board/names.h"
 #include "kestrin/board/references.h"
 #include "kestrin/neutral/net_model.h"
 
@@ -114,31 +115,19 @@ void GroupByNet(std::vector<PinRun> runs, Board& board) {
 
 }  // namespace
 
-NetTable::NetTable(std::size_t names, Board& board) : board_(board), byName_(names) {
-  board.nets.reserve(names);
-}
-
-Index NetTable::IndexOf(std::string_view name) {
-  const std::string_view compared = ComparedName(name);
-  const Index next = ToIndex(board_.nets.size());
-  const Index index = byName_.Add(compared, next);
-  if (index == next) board_.nets.emplace_back().name = compared;
-  return index;
-}
-
-void ReadNets(const CMNetList* nets, const Footprints& footprints, NetTable& table, Board& board) {
-  if (nets == nullptr) return;
+void ReadNetPins(const CMNetList* records, const std::vector<Index>& netOf, const Footprints& footprints,
+                 Board& board) {
+  if (records == nullptr) return;
   std::size_t pins = 0;
-  ForEachRecord(nets->m_pNets, [&](const CMNetInfo& record, Index) {
+  ForEachRecord(records->m_pNets, [&](const CMNetInfo& record, Index) {
     pins += static_cast<std::size_t>(record.m_pPins->GetSize());
   });
   board.netPins.reserve(pins);
-  PinTexts texts(*nets, board.components);
+  PinTexts texts(*records, board.components);
   PinAssignment assignment(footprints, board);
   std::vector<PinRun> runs;
-  ForEachRecord(nets->m_pNets, [&](const CMNetInfo& record, Index netRecord) {
-    const Index net = table.IndexOf(record.m_sName.View());
-    board.nets[net].netRecords.push_back(netRecord);
+  ForEachRecord(records->m_pNets, [&](const CMNetInfo& record, Index netRecord) {
+    const Index net = netOf[netRecord];
     const Index first = ToIndex(board.netPins.size());
     ForEachRecord(record.m_pPins, [&](const CMRefPin& pin, Index pinRecord) {
       NetPin& added = board.netPins.emplace_back();
