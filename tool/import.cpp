@@ -1,6 +1,7 @@
 #include "tool/import.h"
 
 #include <exception>
+#include <future>
 
 #include "kestrin/framework/exceptions.h"
 #include "tool/encoding.h"
@@ -62,10 +63,11 @@ std::vector<ImportFile> Imported::FilesRead() const {
   return read;
 }
 
-std::string Import(Imported& imported, StrictReading strict) {
-  ExportSet& files = imported.files;
-  files.Open();
-  SetEncoding(EncodingOf(files.EncodingWord(), files));
+namespace {
+
+/// Returns what Import returns.
+std::string ReadFiles(Imported& imported, StrictReading strict) {
+  const ExportSet& files = imported.files;
   if (!files.IsStrict()) return ReadWithSession(imported.session, files);
   ExportSet forSession = files;
   if (strict == StrictReading::kOnly) forSession.Remove(ImportFile::kTraces);
@@ -73,6 +75,16 @@ std::string Import(Imported& imported, StrictReading strict) {
   if (!stopped.empty() && strict == StrictReading::kOnly) return stopped;
   imported.strictTraces = ReadStrictly(files, strict == StrictReading::kAlso);
   return stopped.empty() ? imported.strictTraces->stopped : stopped;
+}
+
+}  // namespace
+
+std::string Import(Imported& imported, StrictReading strict) {
+  imported.files.Open();
+  auto encoding = std::async([&files = imported.files] { return EncodingOf(files.EncodingWord(), files); });
+  std::string stopped = ReadFiles(imported, strict);
+  SetEncoding(encoding.get());
+  return stopped;
 }
 
 }  // namespace kestrin::tool

@@ -20,6 +20,18 @@ namespace kestrin {
 /// other form, even if ToDouble reads it.
 [[nodiscard]] inline std::size_t ReadPlainNumber(std::string_view text, double& number);
 
+/// The length of the digits at the beginning of the text, with a minus before them and, if it may have one, a
+/// point after the first; 0 if there are none.
+[[nodiscard]] inline std::size_t LengthOfDigits(std::string_view text, bool mayHavePoint) {
+  std::size_t place = text.starts_with('-') ? 1 : 0;
+  const std::size_t first = place;
+  while (place < text.size() && IsDigit(text[place])) ++place;
+  if (place == first) return 0;
+  if (mayHavePoint && place < text.size() && text[place] == '.') ++place;
+  while (place < text.size() && IsDigit(text[place])) ++place;
+  return place;
+}
+
 /// The integer at the beginning of the text. A value out of range becomes the nearest limit of an int.
 [[nodiscard]] int ToInt(std::string_view text);
 

@@ -49,6 +49,23 @@ class Search {
   MisreadNumbers found_;
 };
 
+/// Whether a line of a Traces file may have a misread number if it is imported. Few files have such a line,
+/// and this is twice as fast as reading one with a model.
+bool MayMisread(const std::string& path) {
+  CStdioFile lines;
+  if (lines.Open(path.c_str()) == 0) return false;
+  CMTraces traces;
+  TracesReader reader(traces);
+  bool mayMisread = false;
+  const NumberAction note = [&](int, std::string_view, NumberKind) { mayMisread = true; };
+  while (const auto line = lines.ReadLine()) {
+    reader.CutLine(*line);
+    reader.ForEachMisreadNumber(*line, note);
+    if (mayMisread) break;
+  }
+  return mayMisread;
+}
+
 }  // namespace
 
 MisreadNumbers FindMisreadNumbers(ImportFile file, const std::string& path, std::size_t most) {
@@ -72,6 +89,7 @@ MisreadNumbers FindMisreadNumbers(ImportFile file, const std::string& path, std:
     }
     case ImportFile::kTraces: break;
   }
+  if (!MayMisread(path)) return {};
   CMTraces traces;
   return search.In(lines, TracesReader(traces));
 }

@@ -33,9 +33,9 @@ struct MisreadNumbers {
 /// that may be text as well are left out, and so are empty ones, and those that are first cut in a way of
 /// their own (BOARD, REFLOC).
 ///
-/// Reads the file once more, with a reader and a model of its own, so the import itself is as fast as
-/// without. It may run in another thread than the import. A file that cannot be opened has none. A line that
-/// stops an import ends the search. Raises CFileException on a read error.
+/// Reads the file once more, so the import itself is as fast as without. It may run in another thread than
+/// the import. A file that cannot be opened has none. A line that stops an import ends the search. Raises
+/// CFileException on a read error.
 [[nodiscard]] KESTRIN_EXPORT MisreadNumbers FindMisreadNumbers(ImportFile file, const std::string& path,
                                                                std::size_t most);
 

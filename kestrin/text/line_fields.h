@@ -83,6 +83,15 @@ class LineFields {
     target = ToDouble(kept_[number]);
     return true;
   }
+  /// Cuts a field if it is the next one and consists of digits (see LengthOfDigits). Returns whether it did.
+  [[nodiscard]] bool CutDigits(std::size_t number, bool mayHavePoint) {
+    if (number != count_ || quoted_) return false;
+    SkipSpaces();
+    const std::size_t size = LengthOfDigits(rest_, mayHavePoint);
+    if (size == 0 || (size < rest_.size() && rest_[size] != ' ')) return false;
+    Take(size);
+    return true;
+  }
 
  private:
   void SkipSpaces() {

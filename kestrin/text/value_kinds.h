@@ -9,7 +9,7 @@
 #include <functional>
 #include <string_view>
 
-#include "kestrin/base/characters.h"
+#include "kestrin/base/numbers.h"
 #include "kestrin/text/line_fields.h"
 #include "kestrin/text/trim.h"
 #include "kestrin/text/value_count.h"
@@ -31,20 +31,10 @@ enum class NumberKind : std::uint8_t {
 /// from 1, and its text.
 using NumberAction = std::function<void(int position, std::string_view text, NumberKind kind)>;
 
-/// Whether the text is digits, with a sign and, in a decimal number, a point. Nearly all numbers are.
-[[nodiscard]] inline bool IsPlainNumber(std::string_view text, NumberKind kind) {
-  std::size_t place = text.starts_with('-') ? 1 : 0;
-  const std::size_t first = place;
-  while (place < text.size() && IsDigit(text[place])) ++place;
-  if (place == first) return false;
-  if (place < text.size() && text[place] == '.' && kind == NumberKind::kDecimal) ++place;
-  while (place < text.size() && IsDigit(text[place])) ++place;
-  return place == text.size();
-}
-
 /// Calls the action unless the text is wholly a number, or empty.
 inline void CheckNumber(int position, std::string_view text, NumberKind kind, const NumberAction& action) {
-  if (text.empty() || IsPlainNumber(text, kind)) return;
+  // Nearly all numbers are plain digits.
+  if (text.empty() || LengthOfDigits(text, kind == NumberKind::kDecimal) == text.size()) return;
   if (!IsWhollyNumber(text, kind)) action(position, text, kind);
 }
 
@@ -55,6 +45,10 @@ class ValuesFrom {
   [[nodiscard]] bool HasAtLeast(std::size_t count) { return fields_.HasAtLeast(first_ + count); }
   [[nodiscard]] std::size_t Count() { return fields_.Count() - first_; }
   [[nodiscard]] std::string_view Text(std::size_t position) { return fields_.Text(first_ + position - 1); }
+  /// Cuts a value that is not cut yet if it is plainly a number.
+  [[nodiscard]] bool CutPlainNumber(std::size_t position, NumberKind kind) {
+    return fields_.CutDigits(first_ + position - 1, kind == NumberKind::kDecimal);
+  }
 
  private:
   LineFields& fields_;
@@ -89,8 +83,13 @@ class ValueKinds {
   void ForEachMisreadNumber(Line line, const NumberAction& action) const {
     for (const Form& form : forms_) {
       if (form.letters.empty() || !form.count.AcceptsValuesOf(line)) continue;
-      for (std::size_t i = 0; i < form.letters.size() && line.HasAtLeast(i + 1); ++i) {
-        if (form.letters[i] != '.') Check(form.letters[i], line, i + 1, action);
+      for (std::size_t i = 0; i < form.letters.size(); ++i) {
+        const char letter = form.letters[i];
+        if constexpr (requires { line.CutPlainNumber(i, KindOf(letter)); }) {
+          if (letter != '.' && line.CutPlainNumber(i + 1, KindOf(letter))) continue;
+        }
+        if (!line.HasAtLeast(i + 1)) return;
+        if (letter != '.') Check(letter, line, i + 1, action);
       }
       return;
     }

@@ -94,7 +94,13 @@ LineOutcome TracesReader::ReadLine(std::string_view line) {
   return outcome;
 }
 
+void TracesReader::CutLine(std::string_view line) {
+  values_.Finish();
+  values_.Begin(line, values_.IsQuoted());
+}
+
 void TracesReader::ForEachMisreadNumber(std::string_view /*line*/, const NumberAction& action) {
+  if (!values_.Has(0)) return;
   const Row* row = Table::kByCode.Find(Keyword(values_.Text(0)));
   if (row != nullptr) row->kinds.ForEachMisreadNumber(ValuesFrom(values_, 1), action);
 }

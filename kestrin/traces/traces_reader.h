@@ -29,8 +29,11 @@ class TracesReader {
   /// Raises CInvalidArgException if the line has too few values for its record. The model is then unchanged.
   LineOutcome ReadLine(std::string_view line);
 
+  /// Cuts a line without reading it, for ForEachMisreadNumber. That is much faster.
+  void CutLine(std::string_view line);
+
   /// Shows the values that are read as numbers but are not wholly numbers. The line must be the last one
-  /// read, and have been imported.
+  /// read, and have been imported; or the last one cut, which need not be fit for an import.
   void ForEachMisreadNumber(std::string_view line, const NumberAction& action);
 
   /// Passes every word that the reader compares with to the visitor.

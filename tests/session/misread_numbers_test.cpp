@@ -134,6 +134,7 @@ TEST_F(MisreadNumbersTest, OfATracesFile) {
        {"TTI x 2 y\nTTI 1 2 z a 5 6 7.5", "4/1 d[x] 5/4 i[a] 5/7 i[7.5]"},
        {"XRF x y\nTET 1.5 y 3 z 5 w\nTTT 1 x 3.5 4 5", "4/1 i[x] 5/1 i[1.5] 5/4 d[z] 6/2 d[x] 6/3 i[3.5]"},
        {"UNITS x\nST x 2 3 4.5\nST 1 2 3 4 5 6.5\nST 1 2 3 4 5 6 x y", "5/1 d[x] 5/4 i[4.5] 6/6 i[6.5]"},
+       {"VER -1 2.\nVER 1. -\nVER .5 1.2.3\nVER --1  -1.5", "5/2 d[-] 6/2 d[1.2.3] 7/1 d[--1]"},
        {"VER '1' 2\nXRF 1 'x\nVER x y' 1\nVER z 1", "4/1 d['1'] 7/1 d[z]"},
        {"VER x 1\nVER 1\nVER y 1", "4/1 d[x]"}});
   EXPECT_EQ(In(kTraces, "SEG x\nVER x y\nISL x\n"), "");
