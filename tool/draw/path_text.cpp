@@ -2,6 +2,7 @@
 
 #include <array>
 #include <charconv>
+#include <cstring>
 
 namespace kestrin::tool::draw {
 
@@ -19,29 +20,51 @@ Thousandths Divided(std::uint64_t steps, const Steps& unit) {
   return {steps / 1000, static_cast<unsigned>(steps % 1000)};
 }
 
-char Digit(unsigned digit) { return static_cast<char>('0' + digit); }
+/// The texts of all numbers below a thousand.
+struct Texts {
+  struct Text {
+    std::array<char, 4> characters{};
+    std::uint8_t size = 0;
+  };
+  std::array<Text, 1000> whole;        // "12"; empty for 0
+  std::array<Text, 1000> thousandths;  // ".012", without zeros at the end; empty for 0
+};
+
+constexpr char Digit(std::size_t digit) { return static_cast<char>('0' + digit); }
+
+constexpr Texts MakeTexts() {
+  Texts texts;
+  const auto add = [](Texts::Text& text, char c) { text.characters[text.size++] = c; };
+  for (std::size_t number = 1; number < texts.whole.size(); ++number) {
+    for (std::size_t unit = 100; unit > 0; unit /= 10) {
+      if (number >= unit) add(texts.whole[number], Digit(number / unit % 10));
+    }
+    add(texts.thousandths[number], '.');
+    for (std::size_t rest = number, unit = 100; rest > 0; rest %= unit, unit /= 10)
+      add(texts.thousandths[number], Digit(rest / unit));
+  }
+  return texts;
+}
+
+constexpr Texts kTexts = MakeTexts();
+
+/// Copies all characters of a text, which is faster than those that count, and returns the end of the latter.
+char* Copy(const Texts::Text& text, char* place) {
+  std::memcpy(place, text.characters.data(), text.characters.size());
+  return place + text.size;
+}
 
 }  // namespace
 
 DecimalText::Written DecimalText::Write(char* place, std::int64_t steps) const {
   constexpr std::size_t kMostDigits = 20;
+  if (steps == 0) *place++ = '0';
   if (steps < 0) *place++ = '-';
   const auto [whole, rest] =
       Divided(steps < 0 ? ~static_cast<std::uint64_t>(steps) + 1 : static_cast<std::uint64_t>(steps), steps_);
-  if (whole == 0 && rest == 0) {
-    *place++ = '0';
-  } else if (whole >= 10) {
-    place = std::to_chars(place, place + kMostDigits, whole).ptr;
-  } else if (whole > 0) {
-    *place++ = Digit(static_cast<unsigned>(whole));
-  }
-  if (rest != 0) {
-    *place++ = '.';
-    *place++ = Digit(rest / 100);
-    if (rest % 100 != 0) *place++ = Digit(rest / 10 % 10);
-    if (rest % 10 != 0) *place++ = Digit(rest % 10);
-  }
-  return {place, rest != 0};
+  place = whole < kTexts.whole.size() ? Copy(kTexts.whole[whole], place)
+                                      : std::to_chars(place, place + kMostDigits, whole).ptr;
+  return {Copy(kTexts.thousandths[rest], place), rest != 0};
 }
 
 void DecimalText::Append(std::string& text, double length) const {
@@ -49,38 +72,43 @@ void DecimalText::Append(std::string& text, double length) const {
   text.append(number.data(), Write(number.data(), steps_.Of(length)).end);
 }
 
-char* PathText::Command(char* place, char letter) {
-  *place++ = letter;
+void PathText::Command(char letter) {
+  *place_++ = letter;
   command_ = letter;
   needsSeparator_ = false;
-  return place;
 }
 
-char* PathText::Number(char* place, std::int64_t steps) {
+void PathText::Number(std::int64_t steps) {
   const bool startsWithPoint = steps > 0 && steps < numbers_.GetSteps().PerMillimetre();
-  if (needsSeparator_ && steps >= 0 && !(startsWithPoint && lastHasPoint_)) *place++ = ' ';
-  const auto [end, hasPoint] = numbers_.Write(place, steps);
+  if (needsSeparator_ && steps >= 0 && !(startsWithPoint && lastHasPoint_)) *place_++ = ' ';
+  const auto [end, hasPoint] = numbers_.Write(place_, steps);
+  place_ = end;
   lastHasPoint_ = hasPoint;
   needsSeparator_ = true;
-  return end;
 }
 
 void PathText::Move(std::int64_t dx, std::int64_t dy) {
-  std::array<char, kLongestLeg> leg;
-  text_.append(leg.data(), Number(Number(Command(leg.data(), 'm'), dx), dy));
+  MakeRoom();
+  Command('m');
+  Number(dx);
+  Number(dy);
 }
 
 void PathText::Leg(std::int64_t dx, std::int64_t dy) {
-  std::array<char, kLongestLeg> leg;
-  char* place = leg.data();
+  MakeRoom();
   if (dx == 0 || dy == 0) {
-    place = Number(Command(place, dy == 0 ? 'h' : 'v'), dy == 0 ? dx : dy);
-  } else {
-    // Pairs of numbers after "m" are legs, too.
-    if (command_ != 'm' && command_ != 'l') place = Command(place, 'l');
-    place = Number(Number(place, dx), dy);
+    Command(dy == 0 ? 'h' : 'v');
+    return Number(dy == 0 ? dx : dy);
   }
-  text_.append(leg.data(), place);
+  // Pairs of numbers after "m" are legs, too.
+  if (command_ != 'm' && command_ != 'l') Command('l');
+  Number(dx);
+  Number(dy);
+}
+
+void PathText::Flush() {
+  text_.append(buffer_.data(), place_);
+  place_ = buffer_.data();
 }
 
 void PathText::Add(std::span<const Point> points, End end) {
@@ -104,7 +132,8 @@ void PathText::Add(std::span<const Point> points, End end) {
   }
   if (!hasLegs) Leg(0, 0);
   if (end != End::kClosed) return;
-  text_ += 'z';
+  MakeRoom();
+  *place_++ = 'z';
   x_ = startX;
   y_ = startY;
 }

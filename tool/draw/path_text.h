@@ -3,6 +3,7 @@
 /// @file
 /// The text of SVG paths.
 
+#include <array>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
@@ -58,19 +59,30 @@ class PathText {
   /// x of all points is multiplied by 1 or -1, y by -1, since y points down in SVG.
   PathText(std::string& text, const DecimalText& numbers, bool isMirrored)
       : text_(text), numbers_(numbers), signX_(isMirrored ? -1.0 : 1.0) {}
+  PathText(const PathText&) = delete;
+  PathText& operator=(const PathText&) = delete;
+  ~PathText() = default;
 
   enum class End { kOpen, kClosed };
   /// A single point becomes a leg of length 0, which round pens draw as a dot.
   void Add(std::span<const Point> points, End end);
+  /// Appends what is not in the text yet.
+  void Flush();
 
  private:
   static constexpr std::size_t kLongestLeg = 2 * DecimalText::kLongest + 4;
-  [[nodiscard]] char* Command(char* place, char letter);
-  [[nodiscard]] char* Number(char* place, std::int64_t steps);
+  /// Makes room for a leg in the buffer.
+  void MakeRoom() {
+    if (static_cast<std::size_t>(buffer_.data() + buffer_.size() - place_) < kLongestLeg) Flush();
+  }
+  void Command(char letter);
+  void Number(std::int64_t steps);
   void Move(std::int64_t dx, std::int64_t dy);
   void Leg(std::int64_t dx, std::int64_t dy);
 
   std::string& text_;
+  std::array<char, 2048> buffer_;  // legs are collected here, since a string takes time for each call
+  char* place_ = buffer_.data();
   const DecimalText& numbers_;
   double signX_;
   char command_ = ' ';           // the last letter

@@ -229,6 +229,7 @@ void SvgWriter::WritePath(const Brush& brush, Shapes shapes) {
     path.Add(shape.points, isClosed ? PathText::End::kClosed : PathText::End::kOpen);
     WriteOutIfLong();
   }
+  path.Flush();
   text_ += '"';
 }
 
