@@ -85,7 +85,8 @@ void PrintReport(const kestrin::ImportReport& report) {
 
 int main(int count, char** words) {
   if (count != 5) {
-    std::cerr << "usage: host TECH NEUTRAL GEOMETRY TRACES\n";
+    std::cerr << "usage: host TECH NEUTRAL GEOMETRY TRACES\nruns with kestrin " << kestrin::LibraryVersion()
+              << '\n';
     return 2;
   }
   kestrin::CPC_KESTRIN_GET session;

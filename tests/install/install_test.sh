@@ -39,6 +39,7 @@ export PKG_CONFIG_PATH=$libdir/pkgconfig
 
 version=$(pkg-config --modversion kestrin)
 [ "$("$prefix/bin/kestrin" --version)" = "kestrin $version" ]
+[[ "$(./by-pkg-config 2>&1)" = *"runs with kestrin $version" ]]
 grep -qF "kVersion[] = \"$version\"" "$prefix/include/kestrin/version.h"
 bash -n "$prefix/share/bash-completion/completions/kestrin"
 test -s "$prefix/share/man/man1/kestrin.1"
