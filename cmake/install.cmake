@@ -1,7 +1,7 @@
 # What `cmake --install` installs, and the packages that cpack makes of it.
 include(CMakePackageConfigHelpers)
 
-install(TARGETS kestrin kestrin_static
+install(TARGETS ${KESTRIN_LIBRARIES}
   EXPORT kestrinTargets
   LIBRARY COMPONENT runtime NAMELINK_COMPONENT development
   ARCHIVE COMPONENT development
@@ -19,12 +19,23 @@ install(FILES ${PROJECT_BINARY_DIR}/kestrinConfig.cmake ${PROJECT_BINARY_DIR}/ke
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/kestrin
   COMPONENT development)
 
-# The pkg-config file computes the prefix from its own location, so the installation can be moved.
+# The pkg-config files compute the prefix from their own location, so the installation can be moved.
 file(RELATIVE_PATH KESTRIN_PREFIX_FROM_PC /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
-configure_file(cmake/kestrin.pc.in ${PROJECT_BINARY_DIR}/kestrin.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/kestrin.pc
-  DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
-  COMPONENT development)
+function(kestrin_pkg_config name definitions link)
+  configure_file(cmake/kestrin.pc.in ${PROJECT_BINARY_DIR}/${name}.pc.in @ONLY)
+  file(GENERATE OUTPUT ${PROJECT_BINARY_DIR}/${name}.pc INPUT ${PROJECT_BINARY_DIR}/${name}.pc.in)
+  install(FILES ${PROJECT_BINARY_DIR}/${name}.pc
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
+    COMPONENT development)
+endfunction()
+if(kestrin IN_LIST KESTRIN_LIBRARIES)
+  kestrin_pkg_config(kestrin -DKESTRIN_USING_SHARED "-L\${libdir} -lkestrin")
+else()
+  kestrin_pkg_config(kestrin "" "-L\${libdir} -lkestrin")
+endif()
+if(kestrin_static IN_LIST KESTRIN_LIBRARIES)
+  kestrin_pkg_config(kestrin-static "" "\${libdir}/$<TARGET_FILE_NAME:kestrin_static>")
+endif()
 
 if(KESTRIN_BUILD_TOOL)
   install(TARGETS kestrin_tool COMPONENT tool)
