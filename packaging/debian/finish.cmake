@@ -1,0 +1,53 @@
+# Gives each package the form that Debian asks for. cpack runs this between the installation and the packing.
+if(NOT CPACK_GENERATOR STREQUAL DEB)
+  return()
+endif()
+
+# Without these programs, CPack would make packages that lack their dependencies.
+foreach(row "file file" "dpkg-shlibdeps dpkg-dev" "strip binutils")
+  separate_arguments(row)
+  list(POP_FRONT row program package)
+  find_program(KESTRIN_${program} ${program} NO_DEFAULT_PATH PATHS ENV PATH)
+  if(NOT KESTRIN_${program})
+    message(FATAL_ERROR "cpack needs ${program}: apt-get install ${package}")
+  endif()
+endforeach()
+if(NOT CPACK_KESTRIN_LIBRARY_FOLDER STREQUAL "lib/${CPACK_KESTRIN_ARCHITECTURE}")
+  message(FATAL_ERROR "Debian wants another library folder: set CMAKE_INSTALL_PREFIX=/usr")
+endif()
+
+function(run)
+  execute_process(COMMAND ${ARGV} COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+
+function(strip_binary file)
+  set(strip strip --enable-deterministic-archives --remove-section=.comment --remove-section=.note)
+  if(IS_SYMLINK ${file})
+    return()
+  elseif(file MATCHES "\\.a$")
+    run(${strip} --strip-debug ${file})
+  elseif(file MATCHES "\\.so(\\.[0-9.]+)?$")
+    run(${strip} --strip-unneeded ${file})
+  elseif(file MATCHES "/bin/[^/]+$")
+    run(${strip} ${file})
+  endif()
+endfunction()
+
+foreach(component ${CPACK_COMPONENTS_ALL})
+  set(root ${CPACK_TEMPORARY_DIRECTORY}/${component}/usr)
+  file(GLOB_RECURSE files ${root}/*)
+  foreach(file ${files})
+    strip_binary(${file})
+  endforeach()
+
+  string(TOUPPER ${component} upper)
+  set(documents ${root}/share/doc/${CPACK_DEBIAN_${upper}_PACKAGE_NAME})
+  configure_file(${CMAKE_CURRENT_LIST_DIR}/copyright ${documents}/copyright COPYONLY)
+  configure_file(${CMAKE_CURRENT_LIST_DIR}/changelog ${documents}/changelog.Debian COPYONLY)
+  configure_file(${CMAKE_CURRENT_LIST_DIR}/../../CHANGELOG.md ${documents}/changelog COPYONLY)
+  file(GLOB pages ${root}/share/man/man*/*)
+  run(gzip -9nf ${documents}/changelog.Debian ${documents}/changelog ${pages})
+  file(CHMOD_RECURSE ${root}/share
+    FILE_PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ
+    DIRECTORY_PERMISSIONS ${CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS})
+endforeach()
