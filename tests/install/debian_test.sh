@@ -18,6 +18,7 @@ leave() {
 trap leave EXIT
 
 echo "making packages and a bare Debian 12"
+export SOURCE_DATE_EPOCH=1700000000
 rm -f "$build"/packages/*.deb
 cpack --config "$build/CPackConfig.cmake" >"$log"
 debootstrap --variant=minbase bookworm "$root" "$mirror" >>"$log"
@@ -30,6 +31,7 @@ mount --bind /dev/pts "$root/dev/pts"
 mkdir -p "$root/try/tests"
 cp -r "$build/packages" "$source/examples" "$root/try"
 cp -r "$source/tests/install" "$root/try/tests"
+"$source/scripts/make-source-archive" "$build" "$root/try/kestrin.tar.xz"
 cat >"$root/try/run.sh" <<'END'
 set -euo pipefail
 export DEBIAN_FRONTEND=noninteractive LC_ALL=C
@@ -52,10 +54,20 @@ g++ -std=c++20 examples/host/host.cpp $(pkg-config --cflags --libs kestrin) -o b
 tests/install/run_host.sh ./by-pkg-config
 ldd shared/host | grep kestrin
 
+apt_install file dpkg-dev libcairo2-dev libcli11-dev libsodium-dev ninja-build rapidjson-dev xz-utils
+mkdir sources
+tar -C sources --strip-components=1 -xf kestrin.tar.xz
+cd sources
+cmake --preset release -DKESTRIN_BUILD_TESTS=OFF -DKESTRIN_BUILD_BENCH=OFF >>../log
+cmake --build --preset release >>../log
+cpack --config build/release/CPackConfig.cmake >>../log
+for package in build/release/packages/*.deb; do cmp "$package" "../packages/${package##*/}"; done
+cd ..
+
 apt-get purge -y kestrin libkestrin-dev libkestrin0.1 >>log 2>&1
 left=$(find / -xdev -name '*kestrin*' -not -path '/try/*' -not -path '/proc/*' -not -path '/var/log/*')
 [ -z "$left" ] || { echo "left behind:"; echo "$left"; exit 1; }
 END
-chroot "$root" bash /try/run.sh
+chroot "$root" env -i PATH=/usr/sbin:/usr/bin SOURCE_DATE_EPOCH=$SOURCE_DATE_EPOCH bash /try/run.sh
 dpkg-deb --info "$build"/packages/libkestrin-dev*.deb | grep -E '^ (Package|Version|Depends|Description)' || true
 echo "all well"
