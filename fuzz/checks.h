@@ -15,7 +15,8 @@
 #include "kestrin/framework/exceptions.h"
 #include "kestrin/session/import_report.h"
 #include "kestrin/text/line_outcome.h"
-#include "tool/model_json.h"
+#include "tool/json_writer.h"
+#include "tool/model_document.h"
 
 namespace kestrin::fuzz {
 
@@ -37,7 +38,7 @@ template <class... Models>
 [[nodiscard]] std::string Dump(const Models&... models) {
   return ValidJson([&](tool::JsonWriter& json) {
     json.StartArray();
-    (WriteJson(json, models), ...);
+    (Write(json, models), ...);
     json.EndArray();
   });
 }

@@ -6,7 +6,7 @@
 #include "fuzz/four_files.h"
 #include "fuzz/subjects.h"
 #include "kestrin/board/read_board.h"
-#include "tool/board_json.h"
+#include "tool/board_document.h"
 
 namespace kestrin::fuzz {
 namespace {
@@ -21,7 +21,7 @@ void ReadLines(Reader& reader, std::string_view text) {
 }
 
 std::string JsonOf(const Board& board) {
-  return ValidJson([&](tool::JsonWriter& json) { WriteJson(json, board); });
+  return ValidJson([&](tool::JsonWriter& json) { Write(json, board); });
 }
 
 void RequireNumber(Point point) {

@@ -2,8 +2,9 @@
 
 #include <cmath>
 
-#include "tool/board_json.h"
+#include "tool/board_document.h"
 #include "tool/exit_status.h"
+#include "tool/json_writer.h"
 #include "tool/output.h"
 #include "tool/usage_error.h"
 
@@ -44,7 +45,7 @@ int PrintBoard(const ExportSet& files, const ReadingWords& words) {
   Imported imported(files);
   const std::string stopped = Import(imported);
   JsonWriter json;
-  WriteJson(json, BoardOf(imported, options));
+  Write(json, BoardOf(imported, options));
   json.Finish();
   return FinishOutput(stopped.empty() ? kSuccess : ReportError(stopped, kIncomplete));
 }

@@ -9,6 +9,7 @@
 #include "kestrin/board/read_board.h"
 #include "tool/export_set.h"
 #include "tool/import.h"
+#include "tool/reading_words.h"
 
 namespace kestrin::tool {
 
@@ -19,10 +20,6 @@ struct ReadingWords {
   std::string bottomTurn;
   std::optional<double> widthStep;
 };
-
-/// The names of the senses of rotation, on the command line and in JSON.
-inline constexpr const char* kCounterClockwise = "ccw";
-inline constexpr const char* kClockwise = "cw";
 
 /// The options that words of the command line mean. Raises UsageError if the width step is not positive and
 /// finite.

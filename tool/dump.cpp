@@ -1,33 +1,30 @@
 #include "tool/dump.h"
 
 #include "tool/exit_status.h"
-#include "tool/import.h"
-#include "tool/model_json.h"
+#include "tool/json_writer.h"
+#include "tool/model_document.h"
 #include "tool/output.h"
 
 namespace kestrin::tool {
-namespace {
 
-void WriteDocument(JsonWriter& json, const Imported& imported) {
+void WriteModels(DocumentWriter& document, const Imported& imported) {
   const CPC_KESTRIN_GET& session = imported.session;
-  JsonObject document(json);
-  document.Member("tech", session.m_pTech);
-  document.Member("components", session.m_pComps).Member("nets", session.m_pNetList);
-  document.Member("geometry", session.m_pGeom).Member("traces", imported.Traces());
+  DocumentObject models(document);
+  models.Member("tech", session.m_pTech);
+  models.Member("components", session.m_pComps).Member("nets", session.m_pNetList);
+  models.Member("geometry", session.m_pGeom).Member("traces", imported.Traces());
   if (imported.strictTraces) {
-    document.Member("strict", *imported.strictTraces);
+    models.Member("strict", *imported.strictTraces);
   } else if (imported.files.IsStrict()) {
-    document.Member("strict", nullptr);
+    models.Member("strict", nullptr);
   }
 }
-
-}  // namespace
 
 int Dump(const ExportSet& files) {
   Imported imported(files);
   const std::string stopped = Import(imported);
   JsonWriter json;
-  WriteDocument(json, imported);
+  WriteModels(json, imported);
   json.Finish();
   return FinishOutput(stopped.empty() ? kSuccess : ReportError(stopped, kIncomplete));
 }

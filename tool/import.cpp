@@ -29,22 +29,19 @@ std::string WhereStopped(const ImportReport& report, const ExportSet& files) {
 }
 
 /// Returns what Import returns.
-std::string ReadWithSession(CPC_KESTRIN_GET& session, const ExportSet& files) {
+std::string ReadWithSession(CPC_KESTRIN_GET& session, const ExportSet& files, ImportDialog& dialog) {
   std::string stopped;
-  {
-    TerminalDialog dialog(files);
-    dialog.Attach(session);
-    try {
-      Read(session, files);
-    } catch (const CInvalidArgException&) {
-      stopped = WhereStopped(session.GetReport(), files) +
-                "import stopped: the line has too few values for its record";
-    } catch (const std::exception& error) {
-      stopped = WhereStopped(session.GetReport(), files) + "import stopped: " + error.what();
-    }
-    session.m_pStatusWnd = nullptr;
-    session.SetProgressPtr(nullptr, nullptr, nullptr, nullptr);
+  dialog.Attach(session);
+  try {
+    Read(session, files);
+  } catch (const CInvalidArgException&) {
+    stopped = WhereStopped(session.GetReport(), files) +
+              "import stopped: the line has too few values for its record";
+  } catch (const std::exception& error) {
+    stopped = WhereStopped(session.GetReport(), files) + "import stopped: " + error.what();
   }
+  session.m_pStatusWnd = nullptr;
+  session.SetProgressPtr(nullptr, nullptr, nullptr, nullptr);
   for (const FileKind& kind : kFileKinds) {
     const FileReport& file = session.GetReport().Of(kind.file);
     if (file.end == ReadingEnd::kNotOpened)
@@ -66,23 +63,28 @@ std::vector<ImportFile> Imported::FilesRead() const {
 namespace {
 
 /// Returns what Import returns.
-std::string ReadFiles(Imported& imported, StrictReading strict) {
+std::string ReadFiles(Imported& imported, ImportDialog& dialog, StrictReading strict) {
   const ExportSet& files = imported.files;
-  if (!files.IsStrict()) return ReadWithSession(imported.session, files);
+  if (!files.IsStrict()) return ReadWithSession(imported.session, files, dialog);
   ExportSet forSession = files;
   if (strict == StrictReading::kOnly) forSession.Remove(ImportFile::kTraces);
-  std::string stopped = ReadWithSession(imported.session, forSession);
+  std::string stopped = ReadWithSession(imported.session, forSession, dialog);
   if (!stopped.empty() && strict == StrictReading::kOnly) return stopped;
-  imported.strictTraces = ReadStrictly(files, strict == StrictReading::kAlso);
+  imported.strictTraces = ReadStrictly(files, strict == StrictReading::kAlso, dialog);
   return stopped.empty() ? imported.strictTraces->stopped : stopped;
 }
 
 }  // namespace
 
 std::string Import(Imported& imported, StrictReading strict) {
+  TerminalDialog dialog(imported.files);
+  return Import(imported, dialog, strict);
+}
+
+std::string Import(Imported& imported, ImportDialog& dialog, StrictReading strict) {
   imported.files.Open();
   auto encoding = std::async([&files = imported.files] { return EncodingOf(files.EncodingWord(), files); });
-  std::string stopped = ReadFiles(imported, strict);
+  std::string stopped = ReadFiles(imported, dialog, strict);
   SetEncoding(encoding.get());
   return stopped;
 }

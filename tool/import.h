@@ -10,6 +10,7 @@
 
 #include "kestrin/session/import_session.h"
 #include "tool/export_set.h"
+#include "tool/import_dialog.h"
 #include "tool/strict_traces.h"
 
 namespace kestrin::tool {
@@ -37,9 +38,14 @@ enum class StrictReading {
   kAlso,  ///< the strict reader, which keeps source lines, and the session, for its report
 };
 
-/// Opens and imports the files of an import, and shows progress on the terminal. If a reader stops early,
-/// returns a line that says where and why, and the session does not read the files after that; otherwise
-/// returns an empty string. Raises UsageError if a file cannot be opened.
+/// Opens and imports the files of an import, and shows progress in a dialog. If a reader stops early, returns
+/// a line that says where and why, and the session does not read the files after that; otherwise returns an
+/// empty string. Raises UsageError if a file cannot be opened. What the dialog throws passes through, unless
+/// it is a std::exception.
+[[nodiscard]] std::string Import(Imported& imported, ImportDialog& dialog,
+                                 StrictReading strict = StrictReading::kOnly);
+
+/// The same, with progress on the terminal.
 [[nodiscard]] std::string Import(Imported& imported, StrictReading strict = StrictReading::kOnly);
 
 }  // namespace kestrin::tool

@@ -6,8 +6,8 @@
 namespace kestrin::tool {
 namespace {
 
-// A process prints the texts of one export set, from many places.
-Encoding fileEncoding = Encoding::kLatin1;
+// A thread prints the texts of one export set, from many places.
+thread_local Encoding fileEncoding = Encoding::kLatin1;
 
 constexpr unsigned kFirstOfMany = 0x80;
 
@@ -82,6 +82,8 @@ std::string Converted(std::string_view bytes, Encoding encoding, Controls contro
 }  // namespace
 
 void SetEncoding(Encoding encoding) { fileEncoding = encoding; }
+
+Encoding GetEncoding() { return fileEncoding; }
 
 std::size_t Utf8CharacterAt(std::string_view bytes) {
   if (bytes.empty()) return 0;

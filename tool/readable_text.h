@@ -15,8 +15,11 @@ enum class Encoding {
   kUtf8,    ///< as it says; a byte that is not part of valid UTF-8 is the character with its number
 };
 
-/// Sets the encoding of the files that the tool reads, for the whole process. It is kLatin1 before.
+///@{
+/// The encoding of the files whose texts the calling thread prints. It is kLatin1 before it is set.
 void SetEncoding(Encoding encoding);
+[[nodiscard]] Encoding GetEncoding();
+///@}
 
 /// The number of bytes of the UTF-8 character at the start of some bytes; 0 if there is no valid one.
 [[nodiscard]] std::size_t Utf8CharacterAt(std::string_view bytes);

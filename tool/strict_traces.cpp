@@ -3,6 +3,7 @@
 #include <exception>
 
 #include "kestrin/framework/input_file.h"
+#include "tool/document.h"
 #include "tool/readable_text.h"
 #include "tool/usage_error.h"
 
@@ -23,7 +24,7 @@ std::string WhyStopped(const std::string& path, const StrictParse& parse, const 
 
 }  // namespace
 
-StrictTraces ReadStrictly(const ExportSet& files, bool keepsSourceLines) {
+StrictTraces ReadStrictly(const ExportSet& files, bool keepsSourceLines, ImportDialog& dialog) {
   const std::string& path = files.PathOf(ImportFile::kTraces);
   const auto start = std::chrono::steady_clock::now();
   InputFile file;
@@ -31,6 +32,7 @@ StrictTraces ReadStrictly(const ExportSet& files, bool keepsSourceLines) {
     throw UsageError("cannot open \"" + path + '"');
   std::string readError;
   const auto read = [&](char* bytes, std::size_t size) -> std::size_t {
+    dialog.StillReading();
     try {
       return file.Read(bytes, size);
     } catch (const std::exception& error) {
@@ -48,8 +50,8 @@ StrictTraces ReadStrictly(const ExportSet& files, bool keepsSourceLines) {
   return traces;
 }
 
-void WriteJson(JsonWriter& json, const StrictTraces& traces) {
-  JsonObject(json)
+void Write(DocumentWriter& document, const StrictTraces& traces) {
+  DocumentObject(document)
       .Member("result", static_cast<int>(traces.parse.result))
       .Member("error", std::string_view(traces.parse.error))
       .Member("line", traces.parse.line);

@@ -8,8 +8,9 @@
 #include <string>
 
 #include "kestrin/traces/strict/strict_parser.h"
+#include "tool/document_writer.h"
 #include "tool/export_set.h"
-#include "tool/json_writer.h"
+#include "tool/import_dialog.h"
 
 namespace kestrin::tool {
 
@@ -21,13 +22,13 @@ struct StrictTraces {
 };
 
 /// Reads the Traces file of a set. Raises UsageError if it cannot be opened.
-[[nodiscard]] StrictTraces ReadStrictly(const ExportSet& files, bool keepsSourceLines);
+[[nodiscard]] StrictTraces ReadStrictly(const ExportSet& files, bool keepsSourceLines, ImportDialog& dialog);
 
 /// The line number of an error, counted from 1.
 [[nodiscard]] inline std::int64_t LineOf(const SyntaxError& error) { return error.line + 1; }
 
 /// Writes how the parse ended: result, error text, number of line ends read.
-void WriteJson(JsonWriter& json, const StrictTraces& traces);
+void Write(DocumentWriter& document, const StrictTraces& traces);
 
 /// How the parse ended: "accepted with 2 syntax errors".
 [[nodiscard]] std::string Verdict(const StrictParse& parse);

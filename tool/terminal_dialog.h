@@ -6,22 +6,21 @@
 #include <array>
 #include <string>
 
-#include "kestrin/session/import_session.h"
 #include "kestrin/windowing/window.h"
 #include "tool/export_set.h"
+#include "tool/import_dialog.h"
 
 namespace kestrin::tool {
 
 /// Shows the progress of an import on standard error, redrawn in place, and erases it at the end. Shows
 /// nothing if standard error is not a terminal.
-class TerminalDialog : public CWnd {
+class TerminalDialog : public CWnd, public ImportDialog {
  public:
   explicit TerminalDialog(const ExportSet& files);
   ~TerminalDialog() override;
 
-  /// Makes the session report its progress to this dialog, if it shows anything. The dialog must outlive the
-  /// import.
-  void Attach(CPC_KESTRIN_GET& session);
+  /// Attaches the dialog if it shows anything.
+  void Attach(CPC_KESTRIN_GET& session) override;
 
   BOOL UpdateData(BOOL saveAndValidate) override;
 

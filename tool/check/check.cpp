@@ -55,6 +55,14 @@ class NumberSearch {
   std::future<std::array<std::optional<MisreadNumbers>, kImportFileCount>> found_;
 };
 
+void CheckCodes(const std::vector<std::string>& codes) {
+  for (const std::string& code : codes) {
+    if (!IsCode(code)) throw UsageError("there is no code " + code + "; the codes are " + AllCodes());
+  }
+}
+
+}  // namespace
+
 CheckedSet SetOf(const Imported& imported) {
   CheckedSet set = CheckedSetOf(imported.session);
   if (imported.strictTraces) {
@@ -63,14 +71,6 @@ CheckedSet SetOf(const Imported& imported) {
   }
   return set;
 }
-
-void CheckCodes(const std::vector<std::string>& codes) {
-  for (const std::string& code : codes) {
-    if (!IsCode(code)) throw UsageError("there is no code " + code + "; the codes are " + AllCodes());
-  }
-}
-
-}  // namespace
 
 int Check(const ExportSet& files, const CheckWords& words) {
   CheckCodes(words.allowed);

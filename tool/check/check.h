@@ -6,7 +6,9 @@
 #include <string>
 #include <vector>
 
+#include "kestrin/board/findings.h"
 #include "tool/export_set.h"
+#include "tool/import.h"
 
 namespace kestrin::tool {
 
@@ -22,5 +24,8 @@ struct CheckWords {
 /// Imports the files, checks them and prints the problems. Returns the exit status: kIncomplete if there is a
 /// problem as bad as the user asked for. Raises UsageError if a file cannot be read.
 int Check(const ExportSet& files, const CheckWords& words);
+
+/// What there is to check of an import. It refers to the import.
+[[nodiscard]] CheckedSet SetOf(const Imported& imported);
 
 }  // namespace kestrin::tool

@@ -1,6 +1,8 @@
 #include <algorithm>
 
+#include "tool/check/finding_fields.h"
 #include "tool/check/print.h"
+#include "tool/document.h"
 #include "tool/json_writer.h"
 #include "tool/readable_text.h"
 
@@ -9,45 +11,21 @@ namespace {
 
 constexpr int kVersion = 2;
 
-std::string_view WordOf(Severity severity) {
-  constexpr std::string_view kWords[] = {"error", "warning", "note"};
-  return kWords[static_cast<std::size_t>(severity)];
-}
-
-std::string_view WordOf(ReadingEnd end) {
-  constexpr std::string_view kWords[] = {"not-read", "not-opened", "stopped", "complete"};
-  return kWords[static_cast<std::size_t>(end)];
-}
-
 void WriteSkipped(JsonWriter& json, const Checked& checked, const FileReport& report) {
   json.Key("codes");
   json.StartArray();
   for (std::size_t i = 0; i < kSkipCodes.size(); ++i) {
     const SkippedLines& skipped = report.Skipped(static_cast<SkipCode>(i));
     if (skipped.count == 0 || !checked.Reports(kSkipCodes[i].name)) continue;
-    JsonObject group(json);
-    group.Member("code", kSkipCodes[i].name)
-        .Member("text", kSkipCodes[i].text)
-        .Member("count", skipped.count);
-    WriteList(json, "lines", skipped.first, [&](const SkippedLine& line) {
-      JsonObject(json)
-          .Member("line", line.number)
-          .Member("reason", std::string_view(line.reason))
-          .Member("text", CString(line.text));
-    });
+    WriteValue(json, checked.imported.files, SkippedGroup{static_cast<SkipCode>(i), &skipped});
   }
   json.EndArray();
 }
 
 void WriteFile(JsonWriter& json, const Checked& checked, ImportFile file) {
   const FileReport& report = checked.imported.ReportOf(file);
-  JsonObject object(json);
-  object.Member("file", std::string_view(PathToUtf8(checked.imported.files.PathOf(file))))
-      .Member("lines", report.linesRead)
-      .Member("imported", report.Imported())
-      .Member("ignored", report.Ignored())
-      .Member("skipped", report.Skipped())
-      .Member("end", WordOf(report.end));
+  DocumentObject object(json);
+  WriteFields(json, checked.imported.files, ReadFile{file, &report});
   if (report.end == ReadingEnd::kStopped) {
     object.Member("error", std::string_view(PathToUtf8(checked.stopped)));
   }
@@ -65,27 +43,14 @@ std::int64_t LastLine(const Checked& checked) {
 
 void WriteStrict(JsonWriter& json, const Checked& checked, const StrictTraces& strict) {
   json.Key("strict");
-  JsonObject object(json);
+  DocumentObject object(json);
   object.Member("file", std::string_view(PathToUtf8(checked.imported.files.PathOf(ImportFile::kTraces))))
       .Member("result", static_cast<int>(strict.parse.result))
       .Member("error", strict.parse.result == ParseResult::kExhausted ? std::string_view(strict.parse.error)
                                                                       : std::string_view())
       .Member("line", LastLine(checked));
   WriteList(json, "errors", strict.parse.errors, [&](const SyntaxError& error) {
-    JsonObject(json).Member("line", LineOf(error)).Member("reason", CString(error.Describe()));
-  });
-}
-
-void WriteFinding(JsonWriter& json, const Checked& checked, const Finding& finding) {
-  const FindingKind& kind = KindOf(finding.code);
-  JsonObject object(json);
-  object.Member("severity", WordOf(kind.severity))
-      .Member("code", kind.name)
-      .Member("message", CString(finding.message.c_str()));
-  WriteList(json, "at", finding.at, [&](const FindingPlace& place) {
-    JsonObject(json)
-        .Member("file", std::string_view(PathToUtf8(checked.imported.files.PathOf(place.file))))
-        .Member("line", place.line);
+    DocumentObject(json).Member("line", LineOf(error)).Member("reason", CString(error.Describe()));
   });
 }
 
@@ -102,7 +67,7 @@ void PrintProblemsAsJson(const Checked& checked) {
             [&](ImportFile file) { WriteFile(json, checked, file); });
   if (const auto& strict = checked.imported.strictTraces) WriteStrict(json, checked, *strict);
   WriteList(json, "findings", checked.findings.list, [&](const Finding& finding) {
-    if (checked.Reports(KindOf(finding.code).name)) WriteFinding(json, checked, finding);
+    if (checked.Reports(KindOf(finding.code).name)) WriteValue(json, checked.imported.files, finding);
   });
   json.Key("counts");
   json.StartObject();
