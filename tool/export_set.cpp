@@ -25,12 +25,12 @@ std::string Quoted(const std::string& path) { return '"' + path + '"'; }
 std::vector<std::string> FilesIn(const std::string& folder) {
   std::error_code error;
   fs::directory_iterator entries(folder, error);
-  if (error) throw UsageError("cannot read folder " + Quoted(folder) + ": " + error.message());
+  if (error) throw UsageError("cannot read folder " + Quoted(folder) + ": " + error.message(), folder);
   std::vector<std::string> files;
   for (; entries != fs::directory_iterator() && !error; entries.increment(error)) {
     if (entries->is_regular_file(error)) files.push_back(entries->path().string());
   }
-  if (error) throw UsageError("cannot read folder " + Quoted(folder) + ": " + error.message());
+  if (error) throw UsageError("cannot read folder " + Quoted(folder) + ": " + error.message(), folder);
   std::sort(files.begin(), files.end());
   return files;
 }
@@ -47,8 +47,9 @@ std::string FileOfKind(const std::vector<std::string>& files, const FileKind& ki
                [&](std::string_view file) { return HasEnding(file, kind.ending); });
   if (found.empty()) {
     if (kind.file == ImportFile::kTech) return {};
-    throw UsageError(std::string("no ") + kind.ending + " file in " + Quoted(folder) + "; name one with " +
-                     kind.option);
+    throw UsageError(
+        std::string("no ") + kind.ending + " file in " + Quoted(folder) + "; name one with " + kind.option,
+        folder);
   }
   if (found.size() > 1) {
     throw UsageError(Quoted(found[0]) + " and " + Quoted(found[1]) + " both end in " + kind.ending +
@@ -62,10 +63,10 @@ bool IsRegularFile(const std::string& path) {
   if (path == "-") return false;
   std::error_code error;
   const fs::file_status status = fs::status(path, error);
-  if (fs::is_directory(status)) throw UsageError(Quoted(path) + " is a folder, not a file");
+  if (fs::is_directory(status)) throw UsageError(Quoted(path) + " is a folder, not a file", path);
   if (fs::exists(status) && !fs::is_regular_file(status)) return false;
   const FileHandle file(std::fopen(path.c_str(), "rb"));
-  if (file == nullptr) throw UsageError("cannot open " + Quoted(path) + ": " + std::strerror(errno));
+  if (file == nullptr) throw UsageError("cannot open " + Quoted(path) + ": " + std::strerror(errno), path);
   return true;
 }
 
@@ -95,7 +96,7 @@ void ExportSet::AddFile(const std::string& path) {
   }
   std::error_code error;
   if (path != "-" && !fs::exists(path, error)) {
-    throw UsageError("cannot open " + Quoted(path) + ": " + std::strerror(ENOENT));
+    throw UsageError("cannot open " + Quoted(path) + ": " + std::strerror(ENOENT), path);
   }
   throw UsageError("the ending of " + Quoted(path) +
                    " does not tell which file it is; name it with --tech, --neutral, --geometry or --traces");
@@ -106,6 +107,11 @@ void ExportSet::AddFolder(const std::string& folder) {
   for (const FileKind& kind : kFileKinds) {
     if (!Has(kind.file)) PathOf(kind.file) = FileOfKind(files, kind, folder);
   }
+}
+
+void ExportSet::AddStream(ImportFile file, std::FILE* source) {
+  PathOf(file) = '<' + std::string(WordOf(file)) + '>';
+  copies_[At(file)] = std::make_shared<const TemporaryCopy>(source, PathOf(file));
 }
 
 void ExportSet::Open() {

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdio>
 #include <memory>
 #include <string>
 #include <vector>
@@ -29,6 +30,11 @@ inline constexpr std::array<FileKind, kImportFileCount> kFileKinds{{
     {ImportFile::kGeometry, "Geometry", "--geometry", ".geometry"},
     {ImportFile::kTraces, "Traces", "--traces", ".traces"},
 }};
+
+/// The name of a file in documents and in the names of files: "tech".
+[[nodiscard]] constexpr const char* WordOf(ImportFile file) {
+  return kFileKinds[static_cast<std::size_t>(file)].ending + 1;
+}
 
 /// The paths of the files to import. The path of a file that is not to be imported is empty.
 class ExportSet {
@@ -61,6 +67,9 @@ class ExportSet {
   /// unless an option names that file. Letter case does not count. Raises UsageError unless it is clear which
   /// files are meant; only the Tech file of a folder may be missing.
   void Add(const std::vector<std::string>& paths);
+
+  /// Adds a file whose bytes are the rest of a stream. Errors name it "<traces>".
+  void AddStream(ImportFile file, std::FILE* source);
 
   /// Makes the files readable: copies standard input and pipes to temporary files, since an import reads its
   /// files more than once. Raises UsageError unless there is at least one file and each can be opened. Strict

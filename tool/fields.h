@@ -36,6 +36,9 @@ struct Field {
   }
 };
 
+template <class Getter>
+Field(const char*, const char*, Getter) -> Field<Getter>;
+
 /// The fields of a kind of record, a tuple.
 template <class Record>
 inline constexpr std::nullptr_t kFields = nullptr;

@@ -46,7 +46,7 @@ std::string ReadWithSession(CPC_KESTRIN_GET& session, const ExportSet& files, Im
   for (const FileKind& kind : kFileKinds) {
     const FileReport& file = session.GetReport().Of(kind.file);
     if (file.end == ReadingEnd::kNotOpened)
-      throw UsageError("cannot open \"" + files.PathOf(kind.file) + '"');
+      throw UsageError("cannot open \"" + files.PathOf(kind.file) + '"', files.PathOf(kind.file));
   }
   return stopped;
 }

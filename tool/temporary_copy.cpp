@@ -22,6 +22,12 @@ FileHandle CreateFile(std::string& path) {
   throw UsageError("cannot create the temporary file \"" + path + "\": " + std::strerror(errno));
 }
 
+FileHandle Open(const std::string& path) {
+  FileHandle file(std::fopen(path.c_str(), "rb"));
+  if (file == nullptr) throw UsageError("cannot open \"" + path + "\": " + std::strerror(errno));
+  return file;
+}
+
 void Copy(std::FILE* from, std::FILE* to, const std::string& source) {
   constexpr std::size_t kBlock = std::size_t{1} << 16;
   std::vector<char> block(kBlock);
@@ -34,15 +40,14 @@ void Copy(std::FILE* from, std::FILE* to, const std::string& source) {
 
 }  // namespace
 
-TemporaryCopy::TemporaryCopy(const std::string& source) {
-  const bool isStandardInput = source == "-";
-  const FileHandle opened(isStandardInput ? nullptr : std::fopen(source.c_str(), "rb"));
-  if (!isStandardInput && opened == nullptr)
-    throw UsageError("cannot open \"" + source + "\": " + std::strerror(errno));
+TemporaryCopy::TemporaryCopy(const std::string& path)
+    : TemporaryCopy(path == "-" ? stdin : Open(path).get(),
+                    path == "-" ? "standard input" : "\"" + path + "\"") {}
+
+TemporaryCopy::TemporaryCopy(std::FILE* source, const std::string& name) {
   copy_ = CreateFile(path_);
   try {
-    Copy(isStandardInput ? stdin : opened.get(), copy_.get(),
-         isStandardInput ? "standard input" : "\"" + source + "\"");
+    Copy(source, copy_.get(), name);
   } catch (const UsageError&) {
     std::remove(path_.c_str());
     throw;

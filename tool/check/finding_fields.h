@@ -14,17 +14,27 @@
 
 namespace kestrin::tool {
 
-/// The report of a file of a set.
-struct ReadFile {
-  ImportFile file;
-  const FileReport* report;
-};
-
 /// The lines of a file that were skipped with a code.
 struct SkippedGroup {
   SkipCode code;
   const SkippedLines* lines;
 };
+
+/// The report of a file of a set.
+struct ReadFile {
+  ImportFile file;
+  const FileReport* report;
+  std::vector<SkippedGroup> codes;  ///< of which there are lines
+};
+
+[[nodiscard]] inline ReadFile ReadFileOf(const FileReport& report, ImportFile file) {
+  ReadFile read{file, &report, {}};
+  for (std::size_t i = 0; i < kSkipCodes.size(); ++i) {
+    const auto code = static_cast<SkipCode>(i);
+    if (report.Skipped(code).count > 0) read.codes.push_back({code, &report.Skipped(code)});
+  }
+  return read;
+}
 
 [[nodiscard]] constexpr std::string_view WordOf(Severity severity) {
   constexpr std::array<std::string_view, 3> kWords{"error", "warning", "note"};

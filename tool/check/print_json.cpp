@@ -11,25 +11,16 @@ namespace {
 
 constexpr int kVersion = 2;
 
-void WriteSkipped(JsonWriter& json, const Checked& checked, const FileReport& report) {
-  json.Key("codes");
-  json.StartArray();
-  for (std::size_t i = 0; i < kSkipCodes.size(); ++i) {
-    const SkippedLines& skipped = report.Skipped(static_cast<SkipCode>(i));
-    if (skipped.count == 0 || !checked.Reports(kSkipCodes[i].name)) continue;
-    WriteValue(json, checked.imported.files, SkippedGroup{static_cast<SkipCode>(i), &skipped});
-  }
-  json.EndArray();
-}
-
 void WriteFile(JsonWriter& json, const Checked& checked, ImportFile file) {
-  const FileReport& report = checked.imported.ReportOf(file);
+  const ReadFile read = ReadFileOf(checked.imported.ReportOf(file), file);
   DocumentObject object(json);
-  WriteFields(json, checked.imported.files, ReadFile{file, &report});
-  if (report.end == ReadingEnd::kStopped) {
+  WriteFields(json, checked.imported.files, read);
+  if (read.report->end == ReadingEnd::kStopped) {
     object.Member("error", std::string_view(PathToUtf8(checked.stopped)));
   }
-  WriteSkipped(json, checked, report);
+  WriteList(json, "codes", read.codes, [&](const SkippedGroup& group) {
+    if (checked.Reports(TextOf(group.code).name)) WriteValue(json, checked.imported.files, group);
+  });
 }
 
 /// The last line that the strict reader read, counted from 1 as everywhere. The parser counts line ends, of

@@ -1,0 +1,43 @@
+#pragma once
+
+/// @file
+/// The legs of tracks, as columns.
+
+#include <cstdint>
+#include <tuple>
+#include <vector>
+
+#include "kestrin/board/board.h"
+#include "tool/fields.h"
+
+namespace kestrin::python {
+
+/// A row for each leg: a pair of consecutive points of a track. They are in the order of the tracks.
+struct Legs {
+  std::vector<double> x1;
+  std::vector<double> y1;
+  std::vector<double> x2;
+  std::vector<double> y2;
+  std::vector<std::int32_t> layer;
+  std::vector<double> width;
+  std::vector<std::uint32_t> net;
+};
+
+/// Lays out the legs of a board.
+[[nodiscard]] Legs LegsOf(const Board& board);
+
+/// The number of legs of the tracks before a track, which may be the one after the last.
+[[nodiscard]] std::size_t LegsBefore(const Board& board, std::size_t track);
+
+}  // namespace kestrin::python
+
+template <>
+inline constexpr auto kestrin::tool::kFields<kestrin::python::Legs> = std::tuple{
+    Field{"x1", "Where the legs begin in mm.", &python::Legs::x1},
+    Field{"y1", "Where the legs begin in mm.", &python::Legs::y1},
+    Field{"x2", "Where the legs end in mm.", &python::Legs::x2},
+    Field{"y2", "Where the legs end in mm.", &python::Legs::y2},
+    Field{"layer", "The numbers of their physical layers.", &python::Legs::layer},
+    Field{"width", "Their widths in mm; NaN where it is unknown.", &python::Legs::width},
+    Field{"net", "Their nets, as indexes into Board.nets.", &python::Legs::net},
+};

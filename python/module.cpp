@@ -1,0 +1,19 @@
+// The module kestrin._kestrin: what the package kestrin is made of.
+
+#include <pybind11/pybind11.h>
+#include <pybind11/stl.h>
+
+#include "kestrin/version.h"
+#include "python/bind_board.h"
+#include "python/bind_read.h"
+#include "python/errors.h"
+
+PYBIND11_MODULE(_kestrin, module) {
+  using namespace kestrin::python;
+  pybind11::options options;
+  options.disable_function_signatures();  // the stubs have them
+  module.attr("__version__") = kestrin::kVersion;
+  BindErrors(module);
+  BindBoard(module);
+  BindRead(module);
+}

@@ -1,0 +1,56 @@
+#pragma once
+
+/// @file
+/// Documents as Python's objects.
+
+#include <pybind11/pybind11.h>
+
+#include <map>
+#include <vector>
+
+#include "tool/document_writer.h"
+#include "tool/readable_text.h"
+
+namespace kestrin::python {
+
+namespace py = pybind11;
+
+/// Makes dictionaries, lists, numbers and texts of a document.
+class PythonWriter final : public tool::DocumentWriter {
+ public:
+  explicit PythonWriter(tool::Encoding encoding) : encoding_(encoding) {}
+
+  void Key(const char* name) override;
+  void StartObject() override { open_.push_back({py::dict(), {}}); }
+  void EndObject() override { Close(); }
+  using DocumentWriter::StartArray;
+  void StartArray(Layout layout) override;
+  void EndArray() override { Close(); }
+
+  void Null() override { Add(py::none()); }
+  void Bool(bool value) override { Add(py::bool_(value)); }
+  void Int(std::int64_t value) override { Add(py::int_(value)); }
+  void Double(double value) override;
+  void String(std::string_view bytes) override;
+  void Utf8(std::string_view text) override;
+
+  /// The document, once it is complete.
+  [[nodiscard]] const py::object& Document() const { return document_; }
+
+ private:
+  /// An object or array that is not complete.
+  struct Open {
+    py::object container;
+    py::handle key;  // of the next member
+  };
+
+  void Add(const py::object& value);
+  void Close();
+
+  tool::Encoding encoding_;
+  py::object document_;
+  std::vector<Open> open_;                // from the outermost
+  std::map<const char*, py::str> names_;  // of all keys, which are constants
+};
+
+}  // namespace kestrin::python

@@ -1,0 +1,53 @@
+#pragma once
+
+/// @file
+/// What was read from an export set.
+
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "kestrin/board/findings.h"
+#include "python/legs.h"
+#include "tool/check/finding_fields.h"
+#include "tool/import.h"
+#include "tool/readable_text.h"
+
+namespace kestrin::python {
+
+/// What Python's objects refer to and keep alive.
+struct Owner {
+  tool::Encoding encoding = tool::Encoding::kLatin1;  ///< of all texts
+};
+
+/// An export set: its files, models, report and board. Nothing changes after it was read; what takes time and
+/// is not always asked for is made when it is asked for first.
+class ReadSet : public Owner {
+ public:
+  explicit ReadSet(const tool::ExportSet& files) : imported(files) {}
+
+  /// The findings of the set. Reads the files again. Call it without Python's lock.
+  [[nodiscard]] const Findings& FindingsOfSet() const;
+  /// The legs of all tracks. Call it without Python's lock.
+  [[nodiscard]] const Legs& LegsOfBoard() const;
+
+  tool::Imported imported;
+  Board board;
+  std::vector<tool::ReadFile> files;  ///< the reports of the files that were read
+
+ private:
+  mutable std::once_flag findingsMade_;
+  mutable std::optional<Findings> findings_;
+  mutable std::once_flag legsMade_;
+  mutable std::optional<Legs> legs_;
+};
+
+using SharedOwner = std::shared_ptr<const Owner>;
+using SharedSet = std::shared_ptr<const ReadSet>;
+
+/// The set that owns records of a board or of its files.
+[[nodiscard]] inline const ReadSet& SetOf(const Owner& owner) { return static_cast<const ReadSet&>(owner); }
+
+}  // namespace kestrin::python

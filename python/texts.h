@@ -1,0 +1,26 @@
+#pragma once
+
+/// @file
+/// Texts of files as Python's strings.
+
+#include <pybind11/pybind11.h>
+
+#include <string>
+#include <string_view>
+
+#include "python/read_set.h"
+
+namespace kestrin::python {
+
+namespace py = pybind11;
+
+/// The text that bytes of a file are, in the encoding of the files.
+[[nodiscard]] py::str TextOf(tool::Encoding encoding, std::string_view bytes);
+
+/// A path as Python's functions for files take it.
+[[nodiscard]] py::str PathOf(std::string_view path);
+
+/// "bottomTurn" as Python writes it: "bottom_turn".
+[[nodiscard]] std::string SnakeCase(std::string_view name);
+
+}  // namespace kestrin::python
