@@ -1,6 +1,6 @@
 #!/bin/sh
 # ./test.sh       builds the release and runs its tests
-# ./test.sh all   also checks formatting, layers and the reference, runs the tests with the sanitizers and clang-tidy,
+# ./test.sh all   also checks formatting, layers, names and the reference, runs the tests with the sanitizers and clang-tidy,
 #                 the fuzz targets briefly, and the thread tests with the thread sanitizer
 # Installs missing packages first (Debian 12).
 set -eu
@@ -25,6 +25,7 @@ case "${1-}" in
     scripts/install-packages.sh $(cat scripts/build-packages scripts/check-packages)
     clang-format-14 --dry-run --Werror $(git ls-files '*.h' '*.cpp')
     scripts/check-layers
+    scripts/check-usings
     scripts/make-reference
     run_presets release sanitize fuzz thread
     ;;

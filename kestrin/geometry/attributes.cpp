@@ -38,7 +38,7 @@ constexpr Reads kDecimalInBrackets{{}, FirstInBrackets<NumberKind::kDecimal>};
 constexpr Reads kWholeInBrackets{{}, FirstInBrackets<NumberKind::kWhole>};
 
 // clang-format off
-constexpr GeometryRow kRows[] = {
+constexpr GeometryRow kAttributeRows[] = {
     {"BOARD_DEFAULT_PADSTACK",          kUnquoted, AtLeast(2), To<OfBoundBoard<&Board::m_sDefaultPadstack>, SetText>()},
     {"BOARD_DEFAULT_VIA",               kUnquoted, AtLeast(2), To<OfBoundBoard<&Board::m_sDefaultVia>, SetText>()},
     {"BOARD_PLACEMENT_CLEARANCE",       kUnquoted, AtLeast(2), To<OfBoundBoard<&Board::m_dPlacementClearance>, SetNumber>(), kDecimalInBrackets, kNumber},
@@ -80,7 +80,7 @@ constexpr GeometryRow kRows[] = {
     {"VIA_KEEPOUT",                     kEvery,    Any(),      To<ViaKeepouts, AddKeepout>(), kConsumesPoints, Reads{{}, PointsFrom<3, kKeepoutScan>}},
 };
 // clang-format on
-constexpr NameTable kAttributes(kRows);
+constexpr NameTable kAttributes(kAttributeRows);
 
 /// The row of every name that contains LAYER_DEFINITION, unless it is one of the above.
 constexpr GeometryRow kLayerDefinition{"LAYER_DEFINITION", kUnquoted, Any(),
@@ -90,7 +90,7 @@ constexpr RecordRule kInStackup{"an attribute of a stack-up", Any(), "LAYER_DEFI
 }  // namespace
 
 void ForEachAttributeWord(const FormatWordVisitor& visit) {
-  ForEachRowName(kRows, visit, {.ignoresCase = true});
+  ForEachRowName(kAttributeRows, visit, {.ignoresCase = true});
   visit({.text = kLayerDefinition.name, .place = WordPlace::kInside, .ignoresCase = true});
   visit({.text = CMGeomComponent().m_sLayoutSurface.View()});  // what a component without it has
   visit({.text = kYes, .place = WordPlace::kInside, .ignoresCase = true});

@@ -19,7 +19,7 @@ using DrawObjs = OfCurrentList<&CurrentGeometry::DrawObjs>;
 using Texts = OfCurrentList<&CurrentGeometry::Texts>;
 using Adds = OfCurrentList<&CurrentGeometry::Adds>;
 
-constexpr GeometryRow kRows[] = {
+constexpr GeometryRow kCommandRows[] = {
     {"$$lock_windows", kEvery, Any(), kNobody, BindBoard},
     {"$$create_panel", kEvery, Any(), kNobody, CreateNamed<&CurrentGeometry::CreatePanel>},
     {"$$create_board", kEvery, Any(), kNobody, CreateNamed<&CurrentGeometry::CreateBoard>},
@@ -50,7 +50,7 @@ constexpr GeometryRow kRows[] = {
     GeometryRow("$$add_dimension"),
     {"$$attribute", kUnquoted, Any(), kNobody, ReadAttribute, Reads{}, "a name"},
 };
-constexpr NameTable kCommands(kRows);
+constexpr NameTable kCommands(kCommandRows);
 
 /// A word that contains this creates a geometry, known or not.
 constexpr std::string_view kCreate = "$$create_";
@@ -82,7 +82,7 @@ void GeometryReader::ForEachMisreadNumber(std::string_view /*line*/, const Numbe
 }
 
 void GeometryReader::ForEachWord(const FormatWordVisitor& visit) {
-  ForEachRowName(kRows, visit, {.ignoresCase = true});
+  ForEachRowName(kCommandRows, visit, {.ignoresCase = true});
   visit({.text = kCreate, .place = WordPlace::kInside, .ignoresCase = true});
   ForEachAttributeWord(visit);
   ForEachDrawingWord(visit);

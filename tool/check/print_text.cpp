@@ -17,7 +17,7 @@ struct SeverityWord {
 };
 constexpr SeverityWord kSeverityWords[] = {{"error", "errors"}, {"warning", "warnings"}, {"note", "notes"}};
 
-const SeverityWord& WordOf(Severity severity) { return kSeverityWords[static_cast<std::size_t>(severity)]; }
+const SeverityWord& WordsOf(Severity severity) { return kSeverityWords[static_cast<std::size_t>(severity)]; }
 
 void Print(const ProblemGroup& group) {
   const std::string code(group.code);
@@ -26,7 +26,7 @@ void Print(const ProblemGroup& group) {
     const Problem& problem = group.first[i];
     const std::string line = problem.line == 0 ? "" : std::to_string(problem.line) + ":";
     std::printf("%s:%s %s: %s [%s]\n", PathToTerminal(problem.file).c_str(), line.c_str(),
-                WordOf(group.severity).one, ToTerminal(problem.message).c_str(), code.c_str());
+                WordsOf(group.severity).one, ToTerminal(problem.message).c_str(), code.c_str());
     if (!problem.text.empty()) std::printf("    %s\n", ToTerminal(problem.text).c_str());
   }
   if (group.count > shown) std::printf("... and %zu more [%s]\n", group.count - shown, code.c_str());

@@ -9,9 +9,9 @@ namespace kestrin::tool::draw {
 namespace {
 
 /// Coordinates beyond a kilometre are errors, and would leave nothing to see of the rest.
-constexpr double kFarthest = 1e6;
+constexpr double kFarthestDrawn = 1e6;
 
-bool IsNear(double coordinate) { return std::abs(coordinate) <= kFarthest; }
+bool IsNear(double coordinate) { return std::abs(coordinate) <= kFarthestDrawn; }
 
 bool CanBeDrawn(const Box& box) {
   return IsNear(box.x0) && IsNear(box.y0) && IsNear(box.x1) && IsNear(box.y1);
