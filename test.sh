@@ -1,7 +1,8 @@
 #!/bin/sh
 # ./test.sh       builds the release and runs its tests
 # ./test.sh all   also checks formatting, layers, names and the reference, runs the tests with the sanitizers and clang-tidy,
-#                 the fuzz targets briefly, and the thread tests with the thread sanitizer
+#                 the fuzz targets briefly, the thread tests with the thread sanitizer, and the tests for Windows
+#                 under Wine
 # Installs missing packages first (Debian 12).
 set -eu
 cd "$(dirname "$0")"
@@ -27,7 +28,7 @@ case "${1-}" in
     scripts/check-layers
     scripts/check-usings
     scripts/make-reference
-    run_presets release sanitize fuzz thread
+    run_presets release sanitize fuzz thread windows
     ;;
   *)
     echo "usage: ./test.sh [all]" >&2

@@ -3,6 +3,7 @@ include(CMakePackageConfigHelpers)
 
 install(TARGETS ${KESTRIN_LIBRARIES}
   EXPORT kestrinTargets
+  RUNTIME COMPONENT runtime
   LIBRARY COMPONENT runtime NAMELINK_COMPONENT development
   ARCHIVE COMPONENT development
   FILE_SET HEADERS COMPONENT development
@@ -34,18 +35,24 @@ else()
   kestrin_pkg_config(kestrin "" "-L\${libdir} -lkestrin")
 endif()
 if(kestrin_static IN_LIST KESTRIN_LIBRARIES)
-  kestrin_pkg_config(kestrin-static "" "\${libdir}/$<TARGET_FILE_NAME:kestrin_static>")
+  kestrin_pkg_config(kestrin-static "" "\${libdir}/$<TARGET_FILE_NAME:kestrin_static>$<$<PLATFORM_ID:Windows>: -lcomctl32 -luser32>")
 endif()
 
 if(KESTRIN_BUILD_TOOL)
   install(TARGETS kestrin_tool COMPONENT tool)
+endif()
+if(KESTRIN_BUILD_TOOL AND NOT WIN32)
   install(FILES packaging/kestrin.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
   install(FILES packaging/kestrin.bash
     DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME kestrin
     COMPONENT tool)
 endif()
 
-set(CPACK_GENERATOR DEB)
+if(WIN32)
+  set(CPACK_GENERATOR ZIP)
+else()
+  set(CPACK_GENERATOR DEB)
+endif()
 set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/packages)
 set(CPACK_PACKAGE_CONTACT "kestrin maintainers <maintainers@example.org>")
 set(CPACK_PACKAGE_VENDOR kestrin)

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <stdexcept>
+#include <random>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 namespace kestrin::test {
 
@@ -13,13 +13,18 @@ namespace kestrin::test {
 class TemporaryFolder {
  public:
   TemporaryFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "kestrin-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("cannot create a temporary folder");
-    path_ = name;
+    std::random_device random;
+    const std::filesystem::path temporary = std::filesystem::temp_directory_path();
+    do {
+      path_ = (temporary / ("kestrin-" + std::to_string(random()))).string();
+    } while (!std::filesystem::create_directory(path_));
   }
   TemporaryFolder(const TemporaryFolder&) = delete;
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-  ~TemporaryFolder() { std::filesystem::remove_all(path_); }
+  ~TemporaryFolder() {
+    std::error_code ignored;  // some systems remove no open files
+    std::filesystem::remove_all(path_, ignored);
+  }
 
   [[nodiscard]] std::string Path(std::string_view name = "") const { return path_ + "/" + std::string(name); }
 

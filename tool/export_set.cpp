@@ -13,6 +13,7 @@
 
 #include "kestrin/base/file_handle.h"
 #include "kestrin/text/ignoring_case.h"
+#include "tool/system/files.h"
 #include "tool/usage_error.h"
 
 namespace kestrin::tool {
@@ -24,11 +25,11 @@ std::string Quoted(const std::string& path) { return '"' + path + '"'; }
 
 std::vector<std::string> FilesIn(const std::string& folder) {
   std::error_code error;
-  fs::directory_iterator entries(folder, error);
+  fs::directory_iterator entries(PathOfText(folder), error);
   if (error) throw UsageError("cannot read folder " + Quoted(folder) + ": " + error.message(), folder);
   std::vector<std::string> files;
   for (; entries != fs::directory_iterator() && !error; entries.increment(error)) {
-    if (entries->is_regular_file(error)) files.push_back(entries->path().string());
+    if (entries->is_regular_file(error)) files.push_back(TextOfPath(entries->path()));
   }
   if (error) throw UsageError("cannot read folder " + Quoted(folder) + ": " + error.message(), folder);
   std::sort(files.begin(), files.end());
@@ -62,7 +63,7 @@ std::string FileOfKind(const std::vector<std::string>& files, const FileKind& ki
 bool IsRegularFile(const std::string& path) {
   if (path == "-") return false;
   std::error_code error;
-  const fs::file_status status = fs::status(path, error);
+  const fs::file_status status = fs::status(PathOfText(path), error);
   if (fs::is_directory(status)) throw UsageError(Quoted(path) + " is a folder, not a file", path);
   if (fs::exists(status) && !fs::is_regular_file(status)) return false;
   const FileHandle file(std::fopen(path.c_str(), "rb"));
@@ -76,7 +77,7 @@ void ExportSet::Add(const std::vector<std::string>& paths) {
   std::vector<std::string> folders;
   for (const std::string& path : paths) {
     std::error_code error;
-    fs::is_directory(path, error) ? folders.push_back(path) : AddFile(path);
+    fs::is_directory(PathOfText(path), error) ? folders.push_back(path) : AddFile(path);
   }
   if (folders.size() > 1) {
     throw UsageError(Quoted(folders[0]) + " and " + Quoted(folders[1]) + " are both folders; name one");
@@ -95,7 +96,7 @@ void ExportSet::AddFile(const std::string& path) {
     return;
   }
   std::error_code error;
-  if (path != "-" && !fs::exists(path, error)) {
+  if (path != "-" && !fs::exists(PathOfText(path), error)) {
     throw UsageError("cannot open " + Quoted(path) + ": " + std::strerror(ENOENT), path);
   }
   throw UsageError("the ending of " + Quoted(path) +

@@ -15,6 +15,7 @@
 #include "tool/export_set.h"
 #include "tool/output.h"
 #include "tool/summary.h"
+#include "tool/system/console.h"
 #include "tool/usage_error.h"
 
 namespace kestrin::tool {
@@ -196,6 +197,9 @@ class CommandLine {
     AddAnonymiseOptions(*anonymise_, arguments_.anonymise);
     anonymise_->get_option("PATH")->description(
         "A folder with the export set, or files, and last the folder to write, OUT");
+    for (CLI::App* command : app_.get_subcommands([](const CLI::App*) { return true; })) {
+      command->allow_windows_style_options(false);  // a path may begin with a slash
+    }
     help_->add_option("COMMAND", topic_, "The command to explain")->option_text(" ");
   }
 
@@ -281,6 +285,7 @@ class CommandLine {
 
 int main(int count, char** words) {
   using namespace kestrin::tool;
+  const StandardStreams streams;
   try {
     return CommandLine().Run(count, words);
   } catch (const UsageError& error) {

@@ -1,24 +1,18 @@
 #include "tool/temporary_copy.h"
 
-#include <stdlib.h>
-
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
-#include <filesystem>
-#include <system_error>
 #include <vector>
 
+#include "tool/system/files.h"
 #include "tool/usage_error.h"
 
 namespace kestrin::tool {
 namespace {
 
-/// Creates an empty file that only this user may read.
-FileHandle CreateFile(std::string& path) {
-  path = (std::filesystem::temp_directory_path() / "kestrin-XXXXXX").string();
-  const int descriptor = mkstemp(path.data());
-  if (descriptor >= 0) return FileHandle(fdopen(descriptor, "wb"));
+FileHandle Create(std::string& path) {
+  if (FileHandle file = CreateTemporaryFile(path)) return file;
   throw UsageError("cannot create the temporary file \"" + path + "\": " + std::strerror(errno));
 }
 
@@ -45,18 +39,15 @@ TemporaryCopy::TemporaryCopy(const std::string& path)
                     path == "-" ? "standard input" : "\"" + path + "\"") {}
 
 TemporaryCopy::TemporaryCopy(std::FILE* source, const std::string& name) {
-  copy_ = CreateFile(path_);
+  copy_ = Create(path_);
   try {
     Copy(source, copy_.get(), name);
   } catch (const UsageError&) {
+    copy_.reset();
     std::remove(path_.c_str());
     throw;
   }
-  // Without its name, the file disappears with the process, however that ends.
-  const std::string open = "/proc/self/fd/" + std::to_string(fileno(copy_.get()));
-  if (!std::filesystem::exists(open)) return;
-  std::remove(path_.c_str());
-  path_ = open;
+  path_ = TakeName(copy_, path_);
 }
 
 TemporaryCopy::~TemporaryCopy() {

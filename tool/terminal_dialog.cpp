@@ -1,12 +1,10 @@
 #include "tool/terminal_dialog.h"
 
-#include <sys/ioctl.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <string_view>
+
+#include "tool/system/console.h"
 
 namespace kestrin::tool {
 namespace {
@@ -15,20 +13,14 @@ namespace {
 const std::string kNoWrap = "\x1b[?7l";
 const std::string kWrap = "\x1b[?7h";
 
-/// Whether progress can be drawn: a terminal that understands control sequences.
-bool CanDraw() {
-  const char* terminal = std::getenv("TERM");
-  return isatty(STDERR_FILENO) != 0 && terminal != nullptr && std::string_view(terminal) != "dumb" &&
-         std::getenv("NO_COLOR") == nullptr;
-}
+bool CanDraw() { return std::getenv("NO_COLOR") == nullptr && CanRedrawErrors(); }
 
 /// The width of a bar, so that its line fits the terminal.
 int BarWidth() {
   constexpr int kUsual = 40;
   constexpr int kOthers = 18;  // characters beside the bar
-  winsize size{};
-  if (ioctl(STDERR_FILENO, TIOCGWINSZ, &size) != 0 || size.ws_col == 0) return kUsual;
-  return std::clamp(size.ws_col - kOthers, 1, kUsual);
+  const int width = TerminalWidth();
+  return width == 0 ? kUsual : std::clamp(width - kOthers, 1, kUsual);
 }
 
 }  // namespace

@@ -1,15 +1,12 @@
 #include "kestrin/framework/input_file.h"
 
-#include <filesystem>
-#include <system_error>
-
 #include "kestrin/framework/exceptions.h"
+#include "kestrin/framework/open_file.h"
 
 namespace kestrin {
 
 bool InputFile::Open(const char* path) {
-  std::error_code ignored;
-  file_.reset(std::filesystem::is_directory(path, ignored) ? nullptr : std::fopen(path, "rb"));
+  file_ = OpenToRead(path);
   if (file_ != nullptr) std::setvbuf(file_.get(), nullptr, _IONBF, 0);  // callers read large blocks
   return file_ != nullptr;
 }

@@ -1,16 +1,9 @@
 #include "kestrin/session/dialog.h"
 
+#include "kestrin/windowing/host_calls.h"
 #include "kestrin/windowing/messages.h"
 
 namespace kestrin {
-
-void PumpMessages() {
-  MSG message;
-  while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
-    TranslateMessage(&message);
-    DispatchMessageA(&message);
-  }
-}
 
 HWND DialogOf(const CProgressCtrl* bar) { return bar == nullptr ? nullptr : GetParent(bar->GetSafeHwnd()); }
 
@@ -24,7 +17,7 @@ ProgressDisplay::ProgressDisplay(const CProgressCtrl* bar, bool disablesBar)
       disablesBar_(disablesBar) {}
 
 void ProgressDisplay::Show(int percent) {
-  SendMessageA(bar_, PBM_SETPOS, static_cast<WPARAM>(percent), 0);
+  Send(bar_, PBM_SETPOS, static_cast<WPARAM>(percent));
   if (CWnd* bar = disablesBar_ ? CWnd::FromHandle(bar_) : nullptr) bar->EnableWindow(FALSE);
   RefreshDialog(dialog_);
   lastPercent_ = percent;

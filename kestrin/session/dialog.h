@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// What the session does with the host's windows: pumps messages, moves progress bars, refreshes the dialog.
+/// What the session does with the host's windows: moves progress bars, refreshes the dialog.
 
 #include <cstdint>
 
@@ -9,9 +9,6 @@
 #include "kestrin/windowing/window.h"
 
 namespace kestrin {
-
-/// Dispatches the messages in the calling thread's queue until it is empty.
-void PumpMessages();
 
 /// The dialog of a progress bar, which is the bar's parent; null without a bar or a parent.
 [[nodiscard]] HWND DialogOf(const CProgressCtrl* bar);
@@ -29,7 +26,7 @@ class WatchedWindow {
 
   /// Sets the pointer to null if the window has been destroyed, unless it points elsewhere by now.
   void ResetIfDestroyed() {
-    if (pointer_ == window_ && CWnd::FromHandle(handle_) == nullptr) pointer_ = nullptr;
+    if (pointer_ == window_ && CWnd::FromHandle(handle_) != window_) pointer_ = nullptr;
   }
 
  private:

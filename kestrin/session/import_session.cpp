@@ -13,7 +13,7 @@
 #include "kestrin/tech/tech_reader.h"
 #include "kestrin/traces/traces_model.h"
 #include "kestrin/traces/traces_reader.h"
-#include "kestrin/windowing/message_box.h"
+#include "kestrin/windowing/host_calls.h"
 
 namespace kestrin {
 namespace {
@@ -107,7 +107,7 @@ bool CPC_KESTRIN_GET::HasMandatoryPaths() const {
   };
   for (const MandatoryPath& mandatory : paths) {
     if (!mandatory.path.IsEmpty()) continue;
-    MessageBoxA(nullptr, mandatory.warning, "WARNING", MB_OK | MB_ICONWARNING);
+    ShowMessageBox(nullptr, mandatory.warning, "WARNING", MB_OK | MB_ICONWARNING);
     return false;
   }
   return true;

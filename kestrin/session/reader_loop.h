@@ -11,6 +11,7 @@
 #include "kestrin/session/dialog.h"
 #include "kestrin/session/import_report.h"
 #include "kestrin/session/line_count.h"
+#include "kestrin/windowing/message_pump.h"
 
 namespace kestrin {
 
@@ -18,7 +19,7 @@ namespace kestrin {
 struct FileReading {
   CString path;
   const CProgressCtrl* bar = nullptr;
-  bool pumpsMessages = false;  // before each line, even without a bar
+  bool pumpsMessages = false;  // between lines, even without a bar
   bool disablesBar = false;    // after each move
 };
 
@@ -50,9 +51,10 @@ void ReadLines(const FileReading& reading, Reader& reader, FileReport& report) {
     report.end = ReadingEnd::kNotOpened;
     return;
   }
+  MessagePump pump;
   while (const auto line = file.ReadLine()) {
     ++report.linesRead;
-    if (reading.pumpsMessages) PumpMessages();
+    if (reading.pumpsMessages) pump.BeforeLine();
     progress.LineRead(report.linesRead);
     report.CountLine(reader.ReadLine(*line), *line);
   }

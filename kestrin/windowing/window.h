@@ -1,8 +1,8 @@
 #pragma once
 
 /// @file
-/// The framework's window classes. Nothing is drawn: on a platform without a windowing system, a window is an
-/// object that receives messages.
+/// The framework's window classes. On Windows they stand for windows of the system. On a platform without a
+/// windowing system nothing is drawn: a window is an object that receives messages.
 
 #include "kestrin/base/export.h"
 #include "kestrin/framework/object.h"
@@ -17,33 +17,59 @@ namespace kestrin {
 ///       void SetWindowTextA(const char* text) override { std::cerr << text << '\n'; }
 ///     };
 ///
+/// On Windows, attach it to a window of your dialog:
+///
+///     CProgressCtrl bar;
+///     bar.Attach(GetDlgItem(dialog, IDC_BAR));
+///
 /// Use a window on the thread that created it. Any thread may post messages to it; messages that are still in
-/// the queue when the window is destroyed are dropped when they are dispatched.
+/// the queue when the window is destroyed are dropped.
 class KESTRIN_EXPORT CWnd : public CObject {
  public:
-  /// Creates a window of the calling thread. The parent may be null; it need not outlive the window.
+  /// Creates a window of the calling thread, which nobody sees. The parent may be null; it need not outlive
+  /// the window.
   explicit CWnd(const CWnd* parent = nullptr);
   ~CWnd() override;
 
-  /// The window with this handle; null if the handle is null or the window has been destroyed.
+  /// The window with this handle; null if the handle is null or the window has been destroyed. On Windows
+  /// also null if no CWnd stands for the handle.
   [[nodiscard]] static CWnd* FromHandle(HWND handle);
-  /// The window's handle, never null.
+  /// The window's handle. Null only on Windows: once the system's window has been destroyed, which it is with
+  /// its parent, or detached.
   [[nodiscard]] HWND GetSafeHwnd() const { return m_hWnd; }
+
+#ifdef _WIN32
+  /// Stands for a window of the system from now on: its messages go to WindowProc first. The window that the
+  /// object stood for is detached. The attached window stays yours: the destructor only detaches it. Returns
+  /// FALSE, and changes nothing, if the handle is null or of another thread, or another CWnd stands for it.
+  BOOL Attach(HWND window);
+  /// Stands for no window any more. Returns the window that was attached.
+  HWND Detach();
+#endif
 
   /// Exchanges data between a dialog and its controls; an import calls it with FALSE when the controls should
   /// show new data. The default does nothing and returns TRUE.
   virtual BOOL UpdateData(BOOL saveAndValidate = true);
-  /// Enables or disables input. Returns nonzero if the window was disabled before. The default does nothing
-  /// and returns FALSE.
+  /// Enables or disables input. Returns nonzero if the window was disabled before. Without a windowing
+  /// system, the default does nothing and returns FALSE.
   virtual BOOL EnableWindow(BOOL enable = true);
-  /// Sets the window's text. The default does nothing.
+  /// Sets the window's text. Without a windowing system, the default does nothing.
   virtual void SetWindowTextA(const char* text);
 
-  /// Receives the messages that are sent or dispatched to the window. The default returns 0.
+  /// Receives the messages that are sent or dispatched to the window. The default returns 0; on Windows it
+  /// lets the system's window handle the message, so call it for all that you do not handle yourself.
+  /// An exception that leaves a handler during an import leaves the import. At other times it must not leave
+  /// a handler on Windows: it would end the program.
   virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
 
  private:
+#ifdef _WIN32
+  struct Trampoline;
+  HWND m_hWnd = nullptr;
+  bool m_bOwnsWindow = false;
+#else
   const HWND m_hWnd;
+#endif
 };
 
 /// A progress bar. An import sends PBM_SETPOS to its WindowProc, with the percentage in wParam.
@@ -51,8 +77,5 @@ class KESTRIN_EXPORT CProgressCtrl : public CWnd {
  public:
   using CWnd::CWnd;
 };
-
-/// The handle of the parent window; null if there is none or it has been destroyed.
-[[nodiscard]] KESTRIN_EXPORT HWND GetParent(HWND window);
 
 }  // namespace kestrin

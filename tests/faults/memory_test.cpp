@@ -11,6 +11,7 @@
 #include "kestrin/session/dialog.h"
 #include "kestrin/traces/strict/mp_traces_parser.h"
 #include "kestrin/traces/strict/strict_parser.h"
+#include "kestrin/windowing/host_calls.h"
 #include "kestrin/windowing/messages.h"
 #include "support/source_of.h"
 #include "support/temporary_folder.h"

@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "kestrin/framework/exceptions.h"
 #include "kestrin/session/line_count.h"
 #include "support/temporary_folder.h"
 
@@ -58,14 +57,6 @@ TEST(StdioFile, ALineFeedMayBeAtEitherEndOfABlock) {
     EXPECT_EQ(line, "c");
     EXPECT_FALSE(file.ReadString(line));
   }
-}
-
-TEST(StdioFile, AReadErrorIsAnException) {
-  CStdioFile file;
-  ASSERT_NE(file.Open("/proc/self/mem"), 0);  // can be opened, but not read at its start
-  CString line;
-  EXPECT_THROW(file.ReadString(line), CFileException);
-  EXPECT_EQ(CountLines("/proc/self/mem"), 1);
 }
 
 TEST(StdioFile, OpensNeitherAMissingFileNorAFolder) {

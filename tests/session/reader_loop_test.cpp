@@ -85,6 +85,7 @@ TEST(ReaderLoop, DisablesTheBarAndPumpsMessagesIfAsked) {
   ScriptedReader reader{[&](std::string_view line) {
     host.events.push_back("read " + std::string(line));
     PostMessageA(host.dialog.GetSafeHwnd(), WM_USER, 7, 0);
+    test::WaitUntilPumped();
     return LineOutcome::Imported();
   }};
   FileReport report;

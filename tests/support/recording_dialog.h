@@ -23,6 +23,7 @@ class Recording : public WINDOW {
   BOOL EnableWindow(BOOL enable) override { return Write(enable == FALSE ? "disable" : "enable"); }
   void SetWindowTextA(const char* text) override { Write(text); }
   LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+    if (message < WM_USER) return WINDOW::WindowProc(message, wParam, lParam);  // a system's own
     std::string what = message == PBM_SETPOS ? "position" : "message " + std::to_string(message);
     what += " " + std::to_string(wParam);
     if (lParam != 0) what += "," + std::to_string(lParam);
@@ -57,6 +58,14 @@ struct RecordingDialog {
   Recording<CProgressCtrl> geometryBar{events, "geometry bar", &dialog};
   Recording<CProgressCtrl> tracesBar{events, "traces bar", &dialog};
 };
+
+/// Waits until an import looks for messages before the next line: on Windows, until the tick count changes.
+inline void WaitUntilPumped() {
+#ifdef _WIN32
+  for (const DWORD tick = GetTickCount(); GetTickCount() == tick;) {
+  }
+#endif
+}
 
 /// Logs message boxes as long as it exists.
 class RecordingMessageBoxes {

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "tool/system/files.h"
 #include "tool/usage_error.h"
 
 namespace kestrin::tool::draw {
@@ -16,9 +17,9 @@ namespace fs = std::filesystem;
 /// Where a path leads if it is a link: the link is to stay.
 std::string Followed(const std::string& path) {
   std::error_code error;
-  if (!fs::is_symlink(path, error)) return path;
-  const fs::path target = fs::canonical(path, error);
-  return error ? path : target.string();
+  if (!fs::is_symlink(PathOfText(path), error)) return path;
+  const fs::path target = fs::canonical(PathOfText(path), error);
+  return error ? path : TextOfPath(target);
 }
 
 }  // namespace
@@ -26,20 +27,20 @@ std::string Followed(const std::string& path) {
 OutputFile::OutputFile(const std::string& path) : path_(path), target_(Followed(path)) {
   constexpr int kMostTries = 100;
   std::error_code error;
-  const fs::file_status status = fs::status(target_, error);
+  const fs::file_status status = fs::status(PathOfText(target_), error);
   if (fs::exists(status) && !fs::is_regular_file(status)) Fail("it is not a regular file");
   for (int i = 1; file_ == nullptr; ++i) {
     partPath_ = target_ + ".part" + std::to_string(i);
-    file_ = FileHandle(std::fopen(partPath_.c_str(), "wbx"));
+    file_ = CreateNewFile(partPath_);
     if (file_ == nullptr && (errno != EEXIST || i == kMostTries)) Fail(std::strerror(errno));
   }
 }
 
 OutputFile::~OutputFile() {
-  if (file_ == nullptr) return;
+  if (partPath_.empty()) return;
   file_.reset();
   std::error_code ignored;
-  fs::remove(partPath_, ignored);
+  fs::remove(PathOfText(partPath_), ignored);
 }
 
 void OutputFile::Write(std::string_view bytes) {
@@ -48,10 +49,11 @@ void OutputFile::Write(std::string_view bytes) {
 
 void OutputFile::Complete() {
   if (std::fflush(file_.get()) != 0) Fail(std::strerror(errno));
+  file_.reset();  // some systems do not rename open files
   std::error_code error;
-  fs::rename(partPath_, target_, error);
+  fs::rename(PathOfText(partPath_), PathOfText(target_), error);
   if (error) Fail(error.message());
-  file_.reset();
+  partPath_.clear();
 }
 
 void OutputFile::Fail(const std::string& why) const {

@@ -26,9 +26,9 @@ class OutputFile {
  private:
   [[noreturn]] void Fail(const std::string& why) const;
 
-  std::string path_;    // as the user wrote it
-  std::string target_;  // where links lead
-  std::string partPath_;
+  std::string path_;      // as the user wrote it
+  std::string target_;    // where links lead
+  std::string partPath_;  // empty once complete
   FileHandle file_;
 };
 

@@ -67,7 +67,7 @@ MPTracesParser::MPTracesParser(char* file) { SetFile(file); }
 
 void MPTracesParser::SetFile(char* file) {
   Close();
-  FileHandle opened(file == nullptr ? nullptr : std::fopen(file, "r"));
+  FileHandle opened(file == nullptr ? nullptr : std::fopen(file, "rb"));
   if (opened != nullptr) State().file.emplace(std::move(opened));
 }
 

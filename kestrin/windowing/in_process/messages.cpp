@@ -1,5 +1,6 @@
 #include "kestrin/windowing/messages.h"
 
+#include "kestrin/windowing/host_calls.h"
 #include "kestrin/windowing/in_process/windowing_system.h"
 #include "kestrin/windowing/window.h"
 
@@ -34,6 +35,12 @@ BOOL TranslateMessage(const MSG* /*message*/) { return FALSE; }
 
 LRESULT DispatchMessageA(const MSG* message) {
   return SendMessageA(message->hwnd, message->message, message->wParam, message->lParam);
+}
+
+HWND GetParent(HWND window) { return WindowingSystem::Instance().ParentOf(window); }
+
+int MessageBoxA(HWND owner, const char* text, const char* caption, UINT style) {
+  return ShowMessageBox(owner, text, caption, style);
 }
 
 }  // namespace kestrin

@@ -20,6 +20,4 @@ void CWnd::SetWindowTextA(const char* /*text*/) {}
 
 LRESULT CWnd::WindowProc(UINT /*message*/, WPARAM /*wParam*/, LPARAM /*lParam*/) { return 0; }
 
-HWND GetParent(HWND window) { return WindowingSystem::Instance().ParentOf(window); }
-
 }  // namespace kestrin

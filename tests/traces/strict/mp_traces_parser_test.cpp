@@ -1,9 +1,7 @@
 #include "kestrin/traces/strict/mp_traces_parser.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
-#include <array>
 #include <cstdio>
 #include <memory>
 #include <string>
@@ -178,46 +176,6 @@ TEST_F(MPTracesParserTest, MakesAModelOfItsOwnWithEveryParse) {
   EXPECT_EQ(Described(*accepted), kModel + " ttt{1 2 3 4 5}");
   EXPECT_EQ(Described(*rejected), kModel + " net{name=A}");
   parser.Close();
-}
-
-/// Redirects standard input to a pipe that is written to while it is read.
-class StandardInputPipe {
- public:
-  StandardInputPipe() : saved_(dup(STDIN_FILENO)) {
-    EXPECT_EQ(pipe(ends_.data()), 0);
-    dup2(ends_[0], STDIN_FILENO);
-    std::clearerr(stdin);
-  }
-  StandardInputPipe(const StandardInputPipe&) = delete;
-  StandardInputPipe& operator=(const StandardInputPipe&) = delete;
-  ~StandardInputPipe() {
-    dup2(saved_, STDIN_FILENO);
-    for (const int end : {ends_[0], saved_}) close(end);
-    std::clearerr(stdin);
-  }
-
-  void Write(std::string_view text) const {
-    EXPECT_EQ(write(ends_[1], text.data(), text.size()), static_cast<ssize_t>(text.size()));
-  }
-  void Finish() const { close(ends_[1]); }
-
- private:
-  std::array<int, 2> ends_{-1, -1};
-  int saved_;
-};
-
-TEST_F(MPTracesParserTest, ReadsNoMoreStandardInputThanIsAvailable) {
-  const StandardInputPipe input;
-  MPTracesParser parser;
-  testing::internal::CaptureStderr();
-  input.Write("X\n");
-  EXPECT_EQ(parser.Parse(), 1);  // without waiting for more input
-  input.Write(kBegin + kEnd);
-  input.Finish();
-  EXPECT_EQ(parser.Parse(), 0);
-  const std::unique_ptr<CMTraces> traces(parser.GetTraces());
-  EXPECT_EQ(Described(*traces), kModel);
-  testing::internal::GetCapturedStderr();
 }
 
 }  // namespace

@@ -1,8 +1,9 @@
 #include "kestrin/windowing/message_box.h"
 
-#include <cstdio>
 #include <mutex>
 #include <utility>
+
+#include "kestrin/windowing/host_calls.h"
 
 namespace kestrin {
 namespace {
@@ -19,15 +20,13 @@ SharedHandler& Registered() {
 
 }  // namespace
 
-int MessageBoxA(HWND owner, const char* text, const char* caption, UINT style) {
+int ShowMessageBox(HWND owner, const char* text, const char* caption, UINT style) {
   MessageBoxHandler handler;
   {
     const std::lock_guard lock(Registered().mutex);
     handler = Registered().handler;
   }
-  if (handler) return handler(owner, text, caption, style);
-  std::fprintf(stderr, "%s: %s\n", caption, text);
-  return IDOK;
+  return handler ? handler(owner, text, caption, style) : ShowSystemBox(owner, text, caption, style);
 }
 
 MessageBoxHandler SetMessageBoxHandler(MessageBoxHandler handler) {

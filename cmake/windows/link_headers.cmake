@@ -1,0 +1,12 @@
+# Links a folder of /usr/include into a folder of its own, `linked_headers`.
+function(link_headers package folder)
+  set(headers ${PROJECT_BINARY_DIR}/headers)
+  if(EXISTS /usr/include/${folder})
+    file(MAKE_DIRECTORY ${headers})
+    file(CREATE_LINK /usr/include/${folder} ${headers}/${folder} SYMBOLIC)
+    set(${package}_FOUND TRUE PARENT_SCOPE)
+  elseif(${package}_FIND_REQUIRED)
+    message(FATAL_ERROR "${package} is missing: there is no /usr/include/${folder}")
+  endif()
+  set(linked_headers ${headers} PARENT_SCOPE)
+endfunction()

@@ -1,0 +1,6 @@
+#define IDD_IMPORT 100
+#define IDC_STATUS 101
+#define IDC_TECH 102
+#define IDC_NEUTRAL 103
+#define IDC_GEOMETRY 104
+#define IDC_TRACES 105
