@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The framework's growable array.
+/// The framework's growable array. Parentheses around max keep the macro of windows.h away.
 
 #include <algorithm>
 #include <cstdint>
@@ -115,7 +115,7 @@ class CArray : public CObject {
     return index;
   }
   [[nodiscard]] static std::int64_t SizeOf(std::int64_t first, std::int64_t more) {
-    if (more > std::numeric_limits<std::int64_t>::max() - first) throw std::bad_alloc();
+    if (more > (std::numeric_limits<std::int64_t>::max)() - first) throw std::bad_alloc();
     return first + more;
   }
   void Reserve(std::int64_t newSize, std::int64_t growBy);
@@ -146,10 +146,10 @@ void CArray<TYPE, ARG_TYPE>::SetSize(std::int64_t newSize, std::int64_t growBy) 
 template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::Reserve(std::int64_t newSize, std::int64_t growBy) {
   if (m_pData == nullptr) {
-    SetCapacity(std::max(newSize, growBy));
+    SetCapacity((std::max)(newSize, growBy));
   } else if (newSize > m_nMaxSize) {
     const std::int64_t step = growBy != 0 ? growBy : std::clamp(m_nSize / 8, kSmallestStep, kGreatestStep);
-    SetCapacity(std::max(newSize, SizeOf(m_nMaxSize, step)));
+    SetCapacity((std::max)(newSize, SizeOf(m_nMaxSize, step)));
   }
 }
 
@@ -260,7 +260,7 @@ void CArray<TYPE, ARG_TYPE>::Release() noexcept {
 template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::OpenGap(std::int64_t index, std::int64_t count) {
   const std::int64_t oldSize = m_nSize;
-  SetSize(SizeOf(std::max(index, oldSize), count));
+  SetSize(SizeOf((std::max)(index, oldSize), count));
   if (index < oldSize) std::move_backward(m_pData + index, m_pData + oldSize, m_pData + m_nSize);
 }
 

@@ -67,7 +67,7 @@ void MoveSlots(T* slots, std::int64_t used, T* memory) {
 template <class T>
 [[nodiscard]] T* ReallocateSlots(T* slots, std::int64_t used, std::int64_t count) {
   static_assert(alignof(T) <= alignof(std::max_align_t), "arrays have no over-aligned elements");
-  if (static_cast<std::uint64_t>(count) > std::numeric_limits<std::size_t>::max() / 2 / sizeof(T)) {
+  if (static_cast<std::uint64_t>(count) > (std::numeric_limits<std::size_t>::max)() / 2 / sizeof(T)) {
     throw std::bad_alloc();
   }
   const std::size_t bytes = static_cast<std::size_t>(count) * sizeof(T);

@@ -1,5 +1,6 @@
 #!/bin/bash
-# Makes the Debian packages twice: they have the same bytes, and lintian finds nothing. Where a program that cpack needs is missing, it says so and makes no package.
+# Makes the Debian packages twice: they have the same bytes, and lintian finds nothing. Where a program that cpack needs is
+# missing, it says so and makes no package.
 # Arguments: the build tree.
 set -euo pipefail
 build=$1
