@@ -6,10 +6,17 @@
 #include <pybind11/numpy.h>
 
 #include <span>
+#include <string>
 
 #include "python/handle.h"
 
 namespace kestrin::python {
+
+/// What Python calls arrays of numbers.
+template <class Number>
+[[nodiscard]] std::string ArrayType() {
+  return "NDArray[" + std::string(py::str(py::dtype::of<Number>())) + ']';
+}
 
 /// A view of some memory of an owner. It cannot be written to, and keeps the owner alive.
 [[nodiscard]] py::array ViewOf(const SharedOwner& owner, const py::dtype& type,

@@ -2,19 +2,16 @@
 
 #include <pybind11/stl.h>
 
+#include "python/bind_draw.h"
 #include "python/bind_record.h"
 #include "python/python_writer.h"
+#include "python/table.h"
 #include "tool/board_document.h"
 
 namespace kestrin::python {
 namespace {
 
 using BoardHandle = Handle<Board>;
-
-const Findings& FindingsOf(const BoardHandle& board) {
-  const py::gil_scoped_release unlocked;
-  return SetOf(*board.owner).FindingsOfSet();
-}
 
 py::dict ReportOf(const BoardHandle& board) {
   py::dict report;
@@ -37,7 +34,9 @@ py::object DocumentOf(const BoardHandle& board) {
 }
 
 void BindWholeBoard(py::module_& module) {
-  BindRecord<Board>(module)
+  auto board = BindRecord<Board>(module);
+  BindDraw(board);
+  board
       .def_property_readonly(
           "tracks",
           [](const BoardHandle& self) {
@@ -52,11 +51,18 @@ void BindWholeBoard(py::module_& module) {
           "Vias: The vias of all nets.")
       .def_property_readonly("via_kinds", &KindsOfVias, "list[str]: The names of the padstacks of vias.")
       .def_property_readonly(
-          "findings", [](const BoardHandle& self) { return MakePython(self.owner, FindingsOf(self).list); },
+          "findings",
+          [](const BoardHandle& self) { return MakePython(self.owner, FindingsOf(SetOf(*self.owner)).list); },
           "list[Finding]: What is wrong with the files, the first hundred of each code; reads them again.")
       .def_property_readonly("report", &ReportOf,
                              "dict[str, FileReport]: What became of the lines of each file: \"tech\", "
                              "\"neutral\", \"geometry\", \"traces\".")
+      .def("_tables", &TablesOf, "_tables(self) -> dict[str, dict[str, Any]]")
+      .def(
+          "tables",
+          [](const py::object& self) { return py::module_::import("kestrin._tables").attr("of")(self); },
+          "tables(self) -> dict[str, Any]\n\nThe board as data frames of pandas: \"components\", "
+          "\"pins\", \"nets\", \"tracks\", \"vias\", \"areas\", \"findings\".")
       .def("to_dict", &DocumentOf,
            "to_dict(self) -> dict[str, Any]\n\nThe board as nested plain data: what `kestrin board` prints.");
 }

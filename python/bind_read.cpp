@@ -27,7 +27,7 @@ py::object ModelsOf(Sources sources) {
 }  // namespace
 
 void BindRead(py::module_& module) {
-  py::class_<Sources>(module, "Sources", "What to read.")
+  py::class_<Sources>(module, "_Sources", "What to read.")
       .def(py::init([](const std::vector<std::string>& paths, std::map<std::string, std::string> files,
                        std::map<std::string, py::bytes> bytes, std::string encoding, bool strict,
                        bool partial) {
@@ -35,15 +35,15 @@ void BindRead(py::module_& module) {
            }),
            "__init__(self, paths: list[bytes], files: dict[str, bytes], contents: dict[str, bytes], "
            "encoding: str, strict: bool, partial: bool) -> None");
-  py::class_<tool::ReadingWords>(module, "ReadingWords", "What the caller fixes of the reading of a board.")
+  py::class_<tool::ReadingWords>(module, "_ReadingWords", "What the caller fixes of the reading of a board.")
       .def(py::init([](std::string rotation, std::string bottom, std::string bottomTurn,
                        std::optional<double> widthStep) {
              return tool::ReadingWords{std::move(rotation), std::move(bottom), std::move(bottomTurn),
                                        widthStep};
            }),
            "__init__(self, rotation: str, bottom: str, bottom_turn: str, width_step: float | None) -> None");
-  module.def("read", &ReadBoardOf, "read(sources: Sources, words: ReadingWords) -> Board");
-  module.def("dump", &ModelsOf, "dump(sources: Sources) -> dict[str, Any]");
+  module.def("_read", &ReadBoardOf, "_read(sources: _Sources, words: _ReadingWords) -> Board");
+  module.def("_dump", &ModelsOf, "_dump(sources: _Sources) -> dict[str, Any]");
 }
 
 }  // namespace kestrin::python

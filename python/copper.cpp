@@ -5,7 +5,11 @@
 namespace kestrin::python {
 namespace {
 
-std::string Doc(const char* type, const char* meaning) { return std::string(type) + ": " + meaning; }
+/// The type of a column.
+template <class Number>
+std::string TypeOf(std::vector<Number> Legs::* /*column*/) {
+  return ArrayType<Number>();
+}
 
 py::array Column(const Vias& vias, const auto& member) {
   static const Via kNone;
@@ -21,7 +25,7 @@ void BindTracks(py::module_& module) {
   tool::ForEachFieldOf<Legs>([&](const auto& field) {
     tracks.def_property_readonly(
         field.name, [getter = field.getter](const Tracks& self) { return self.Column(getter); },
-        Doc("numpy.ndarray", field.meaning).c_str());
+        (TypeOf(field.getter) + ": " + field.meaning).c_str());
   });
   tracks.def("__len__", &Tracks::Size, "__len__(self) -> int");
   tracks.def("__repr__",
@@ -39,21 +43,21 @@ void BindVias(py::module_& module) {
         return Column(
             self, [](const Via& via) -> auto& { return via.position.x; });
       },
-      "numpy.ndarray: The positions in mm.");
+      "NDArray[float64]: The positions in mm.");
   vias.def_property_readonly(
       "y",
       [](const Vias& self) {
         return Column(
             self, [](const Via& via) -> auto& { return via.position.y; });
       },
-      "numpy.ndarray: The positions in mm.");
+      "NDArray[float64]: The positions in mm.");
   vias.def_property_readonly(
       "kind",
       [](const Vias& self) {
         return Column(
             self, [](const Via& via) -> auto& { return via.padstack; });
       },
-      "numpy.ndarray: Their padstacks, as indexes into Board.via_kinds.");
+      "NDArray[uint32]: Their padstacks, as indexes into Board.via_kinds.");
   vias.def(
       "__len__", [](const Vias& self) { return self.vias.size(); }, "__len__(self) -> int");
   vias.def("__repr__",
@@ -68,11 +72,6 @@ Tracks::Tracks(SharedOwner owner, std::span<const Track> tracks) : owner_(std::m
   const auto track = static_cast<std::size_t>(tracks.data() - board.tracks.data());
   first_ = LegsBefore(board, track);
   count_ = LegsBefore(board, track + tracks.size()) - first_;
-}
-
-const Legs& Tracks::AllLegs() const {
-  const py::gil_scoped_release unlocked;
-  return SetOf(*owner_).LegsOfBoard();
 }
 
 void BindCopper(py::module_& module) {

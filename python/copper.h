@@ -17,13 +17,11 @@ class Tracks {
   /// A column of the legs, a view.
   template <class Number>
   [[nodiscard]] py::array Column(std::vector<Number> Legs::*column) const {
-    const Legs& legs = AllLegs();
+    const Legs& legs = LegsOf(SetOf(*owner_));
     return ViewOf(owner_, std::span<const Number>(legs.*column).subspan(first_, count_));
   }
 
  private:
-  [[nodiscard]] const Legs& AllLegs() const;
-
   SharedOwner owner_;
   std::size_t first_ = 0;
   std::size_t count_ = 0;

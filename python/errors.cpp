@@ -13,12 +13,11 @@ constexpr char kMeaning[] =
     "file is the path of the file, and line the number of its line, where they are known; else they are "
     "None.";
 
-/// What to do is said in words of the tool, whose options are arguments here: "name one with --tech".
+/// Messages name options of the tool, which are arguments here: "name one with --tech".
 std::string InPythonsWords(const std::string& message) {
-  const std::size_t advice = message.rfind("; ");
-  if (advice == std::string::npos) return message;
-  static const std::regex kOption("--(tech|neutral|geometry|traces)");
-  return message.substr(0, advice) + std::regex_replace(message.substr(advice), kOption, "$1=");
+  static const std::regex kOption("(^| )--(tech|neutral|geometry|traces|strict|width|box|view|against)\\b");
+  static const std::regex kStep("--width-step");
+  return std::regex_replace(std::regex_replace(message, kStep, "width_step"), kOption, "$1$2=");
 }
 
 void Raise(const py::object& type, const std::string& message, const py::object& file,

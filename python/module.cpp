@@ -5,6 +5,7 @@
 
 #include "kestrin/version.h"
 #include "python/bind_board.h"
+#include "python/bind_compare.h"
 #include "python/bind_read.h"
 #include "python/errors.h"
 
@@ -16,4 +17,5 @@ PYBIND11_MODULE(_kestrin, module) {
   BindErrors(module);
   BindBoard(module);
   BindRead(module);
+  BindCompare(module);
 }

@@ -1,17 +1,25 @@
 #include "python/read_set.h"
 
+#include <pybind11/pybind11.h>
+
 #include "tool/check/check.h"
 
 namespace kestrin::python {
 
-const Findings& ReadSet::FindingsOfSet() const {
-  std::call_once(findingsMade_, [&] { findings_ = FindFaults(tool::SetOf(imported), board); });
-  return *findings_;
+// A thread that waits for another one to make something must not have Python's lock, since the other one may
+// need it.
+
+const Findings& FindingsOf(const ReadSet& set) {
+  const pybind11::gil_scoped_release unlocked;
+  std::call_once(set.findingsMade_,
+                 [&] { set.findings_ = FindFaults(tool::SetOf(set.imported), set.board); });
+  return *set.findings_;
 }
 
-const Legs& ReadSet::LegsOfBoard() const {
-  std::call_once(legsMade_, [&] { legs_ = LegsOf(board); });
-  return *legs_;
+const Legs& LegsOf(const ReadSet& set) {
+  const pybind11::gil_scoped_release unlocked;
+  std::call_once(set.legsMade_, [&] { set.legs_ = LegsOf(set.board); });
+  return *set.legs_;
 }
 
 }  // namespace kestrin::python

@@ -28,16 +28,14 @@ class ReadSet : public Owner {
  public:
   explicit ReadSet(const tool::ExportSet& files) : imported(files) {}
 
-  /// The findings of the set. Reads the files again. Call it without Python's lock.
-  [[nodiscard]] const Findings& FindingsOfSet() const;
-  /// The legs of all tracks. Call it without Python's lock.
-  [[nodiscard]] const Legs& LegsOfBoard() const;
-
   tool::Imported imported;
   Board board;
   std::vector<tool::ReadFile> files;  ///< the reports of the files that were read
 
  private:
+  friend const Findings& FindingsOf(const ReadSet& set);
+  friend const Legs& LegsOf(const ReadSet& set);
+
   mutable std::once_flag findingsMade_;
   mutable std::optional<Findings> findings_;
   mutable std::once_flag legsMade_;
@@ -46,6 +44,12 @@ class ReadSet : public Owner {
 
 using SharedOwner = std::shared_ptr<const Owner>;
 using SharedSet = std::shared_ptr<const ReadSet>;
+
+///@{
+/// What a set makes when it is asked first. Call them with Python's lock.
+[[nodiscard]] const Findings& FindingsOf(const ReadSet& set);
+[[nodiscard]] const Legs& LegsOf(const ReadSet& set);
+///@}
 
 /// The set that owns records of a board or of its files.
 [[nodiscard]] inline const ReadSet& SetOf(const Owner& owner) { return static_cast<const ReadSet&>(owner); }

@@ -29,6 +29,11 @@ py::str PathOf(std::string_view path) {
   return Owned(PyUnicode_DecodeFSDefaultAndSize(path.data(), SizeOf(path)));
 }
 
+std::string BytesOf(tool::Encoding encoding, const py::str& text) {
+  const char* name = encoding == tool::Encoding::kUtf8 ? "utf-8" : "latin-1";
+  return py::bytes(text.attr("encode")(name, "replace"));
+}
+
 std::string SnakeCase(std::string_view name) {
   std::string snake;
   for (const char c : name) {

@@ -20,6 +20,9 @@ namespace py = pybind11;
 /// A path as Python's functions for files take it.
 [[nodiscard]] py::str PathOf(std::string_view path);
 
+/// The bytes of a file that are a text of the caller.
+[[nodiscard]] std::string BytesOf(tool::Encoding encoding, const py::str& text);
+
 /// "bottomTurn" as Python writes it: "bottom_turn".
 [[nodiscard]] std::string SnakeCase(std::string_view name);
 

@@ -146,7 +146,7 @@ struct ToPython<std::span<const Via>> {
 /// Arrays, which are views.
 template <class Value>
 struct ArrayToPython {
-  static std::string Type() { return "numpy.ndarray"; }
+  static std::string Type() { return ArrayType<double>(); }
   static py::object Make(const SharedOwner& owner, const std::vector<Value>& values) {
     return ViewOf(owner, std::span<const Value>(values));
   }

@@ -16,11 +16,11 @@ Encoding = Literal["auto", "utf-8", "latin-1"]
 
 def _sources(
     paths: tuple[Path, ...], files: dict[str, File], encoding: Encoding, strict: bool, partial: bool
-) -> _kestrin.Sources:
+) -> _kestrin._Sources:
     _check("encoding", encoding, ("auto", "utf-8", "latin-1"))
     named = {name: os.fsencode(file) for name, file in files.items() if isinstance(file, (str, os.PathLike))}
     contents = {name: file for name, file in files.items() if isinstance(file, bytes)}
-    return _kestrin.Sources([os.fsencode(path) for path in paths], named, contents, encoding, strict, partial)
+    return _kestrin._Sources([os.fsencode(path) for path in paths], named, contents, encoding, strict, partial)
 
 
 def _check(name: str, value: object, choices: tuple[object, ...]) -> None:
@@ -61,8 +61,8 @@ def read(
     _check("bottom_turn", bottom_turn, (None, 0, 180))
     files = {"tech": tech, "neutral": neutral, "geometry": geometry, "traces": traces}
     turn = "" if bottom_turn is None else str(bottom_turn)
-    words = _kestrin.ReadingWords(rotation or "", bottom or "", turn, width_step)
-    return _kestrin.read(_sources(paths, files, encoding, strict, partial), words)
+    words = _kestrin._ReadingWords(rotation or "", bottom or "", turn, width_step)
+    return _kestrin._read(_sources(paths, files, encoding, strict, partial), words)
 
 
 def dump(
@@ -79,4 +79,4 @@ def dump(
     A text has one character for each byte. The arguments are those of read.
     """
     files = {"tech": tech, "neutral": neutral, "geometry": geometry, "traces": traces}
-    return _kestrin.dump(_sources(paths, files, "latin-1", strict, partial))
+    return _kestrin._dump(_sources(paths, files, "latin-1", strict, partial))

@@ -19,11 +19,15 @@ void ImportWhole(Imported& imported) {
 
 }  // namespace
 
-int Diff(const ExportSet& before, const ExportSet& after, const std::string& format, bool all) {
+void RequireSameFiles(const ExportSet& before, const ExportSet& after) {
   for (const FileKind& kind : kFileKinds) {
     if (kind.file == ImportFile::kTech || before.Has(kind.file) == after.Has(kind.file)) continue;
     throw UsageError(std::string("only one of the two sets has a ") + kind.name + " file");
   }
+}
+
+int Diff(const ExportSet& before, const ExportSet& after, const std::string& format, bool all) {
+  RequireSameFiles(before, after);
   Imported first(before);
   Imported second(after);
   ImportWhole(first);

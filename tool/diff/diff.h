@@ -13,4 +13,7 @@ namespace kestrin::tool {
 /// kSuccess if there is none, kIncomplete if there is one, kUnusable if a set cannot be read to its end.
 int Diff(const ExportSet& before, const ExportSet& after, const std::string& format, bool all);
 
+/// Raises UsageError if only one of the sets has a file, but for the Tech file.
+void RequireSameFiles(const ExportSet& before, const ExportSet& after);
+
 }  // namespace kestrin::tool
