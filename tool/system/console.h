@@ -11,7 +11,7 @@ class StandardStreams {
   StandardStreams();
   StandardStreams(const StandardStreams&) = delete;
   StandardStreams& operator=(const StandardStreams&) = delete;
-  ~StandardStreams();
+  ~StandardStreams();  // NOLINT(performance-trivially-destructible): on Windows it restores the terminal
 
  private:
   unsigned encodingBefore_ = 0;

@@ -15,7 +15,7 @@ FileHandle CreateTemporaryFile(std::string& path) {
 }
 
 std::string TakeName(FileHandle& file, const std::string& path) {
-  const std::string open = "/proc/self/fd/" + std::to_string(fileno(file.get()));
+  std::string open = "/proc/self/fd/" + std::to_string(fileno(file.get()));
   if (!std::filesystem::exists(open)) return path;
   std::remove(path.c_str());
   return open;
