@@ -3,7 +3,7 @@
 # Leaves out constructors, copies and destructors that do the usual. Where copying has a meaning of its own, the
 # comment of the class says so.
 s/^ .*= (default|delete);.*//
-s/^ +(virtual )?~.*[;}]$//
+s/^ +(KESTRIN_EXPORT )?(virtual )?~.*[;}]$//
 s/^ +(\w+)\((const \1&( \w+)?)?\)( :.*\}|;)$//
 s/^ +(\w+)& operator=\(const \1&( \w+)?\);$//
 

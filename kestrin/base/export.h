@@ -21,3 +21,11 @@
 /// Marks a class or function that hosts may use.
 #define KESTRIN_EXPORT [[gnu::visibility("default")]]
 #endif
+
+/// Marks a class that has a template among its bases. MSVC would export the template's members, too: for it,
+/// the members of the class are marked one by one.
+#ifdef _MSC_VER
+#define KESTRIN_TYPE
+#else
+#define KESTRIN_TYPE KESTRIN_EXPORT
+#endif

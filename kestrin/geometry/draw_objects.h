@@ -30,10 +30,10 @@ class KESTRIN_EXPORT CMGeomDrawObj : public PooledRecord {
 };
 
 /// An open polyline drawn with a pen: "LINE".
-class KESTRIN_EXPORT CMGeomPath : public CMGeomDrawObj, private OwnedLists<1> {
+class KESTRIN_TYPE CMGeomPath : public CMGeomDrawObj, private OwnedLists<1> {
  public:
   CMGeomPath() : CMGeomDrawObj("LINE") {}
-  ~CMGeomPath() override;
+  KESTRIN_EXPORT ~CMGeomPath() override;
 
   CString m_sLayer;                     ///< the name of the layer in the file
   double m_dWidth = 0.0;                ///< the width of the pen
@@ -41,10 +41,10 @@ class KESTRIN_EXPORT CMGeomPath : public CMGeomDrawObj, private OwnedLists<1> {
 };
 
 /// A closed outline: "POLYGON".
-class KESTRIN_EXPORT CMGeomPolygon : public CMGeomDrawObj, private OwnedLists<1> {
+class KESTRIN_TYPE CMGeomPolygon : public CMGeomDrawObj, private OwnedLists<1> {
  public:
   CMGeomPolygon() : CMGeomDrawObj("POLYGON") {}
-  ~CMGeomPolygon() override;
+  KESTRIN_EXPORT ~CMGeomPolygon() override;
 
   CString m_sLayer;                     ///< the name of the layer in the file
   NumberArray* m_pCoords = MakeList();  ///< coordinates of the corners
@@ -88,6 +88,6 @@ class KESTRIN_EXPORT CMGeomCircle : public CMGeomDrawObj {
 };
 
 /// A list of drawing objects in file order. It deletes them when it is destroyed.
-class KESTRIN_EXPORT CMGeomDrawObjArray : public Owning<RecordArray<CMGeomDrawObj>> {};
+class KESTRIN_TYPE CMGeomDrawObjArray : public Owning<RecordArray<CMGeomDrawObj>> {};
 
 }  // namespace kestrin

@@ -152,12 +152,12 @@ class CMGeomVia : public PooledRecord, private OwnedLists<3> {
 };
 
 /// A panel: several boards on one sheet.
-class KESTRIN_EXPORT CMGeomPanel : public PooledRecord, private OwnedLists<5> {
+class KESTRIN_TYPE CMGeomPanel : public PooledRecord, private OwnedLists<5> {
  public:
   CMGeomPanel() = default;
   CMGeomPanel(const CMGeomPanel&) = delete;
   CMGeomPanel& operator=(const CMGeomPanel&) = delete;
-  virtual ~CMGeomPanel();
+  KESTRIN_EXPORT virtual ~CMGeomPanel();
 
   CString m_sName;   ///< its name
   CString m_sUnits;  ///< the unit of its lengths: "MM", "IN", "MIL", "CM" or empty

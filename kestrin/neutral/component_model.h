@@ -53,7 +53,7 @@ class KESTRIN_EXPORT CMCompsRefLoc : public PooledRecord {
 };
 
 /// A component.
-class KESTRIN_EXPORT CMCompsInfo : public PooledRecord, private OwnedLists<2> {
+class KESTRIN_TYPE CMCompsInfo : public PooledRecord, private OwnedLists<2> {
  public:
   CString m_sExtra1;
   tagMCOMPDATA m_Data;     ///< the values of its COMP line
@@ -86,7 +86,7 @@ class KESTRIN_EXPORT CMCompsPanel : public PooledRecord {
 /// The root of the components of a Neutral file.
 ///
 ///     for (const CMCompsInfo* component : *comps->m_pInfos) Place(component->m_Data.m_sValue1);
-class KESTRIN_EXPORT CMComps : private OwnedLists<2> {
+class KESTRIN_TYPE CMComps : private OwnedLists<2> {
  public:
   CString m_sUnits;             ///< the unit that the file names last
   int m_nReadFlag = 0;          ///< 1 once a reader has started on the root

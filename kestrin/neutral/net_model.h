@@ -25,7 +25,7 @@ class KESTRIN_EXPORT CMNetProperty {
 };
 
 /// A net.
-class KESTRIN_EXPORT CMNetInfo : public PooledRecord, private OwnedLists<2> {
+class KESTRIN_TYPE CMNetInfo : public PooledRecord, private OwnedLists<2> {
  public:
   CString m_sName;                              ///< its name, without apostrophes and trailing white space
   RecordArray<CMRefPin>* m_pPins = MakeList();  ///< its pins, in file order
@@ -35,7 +35,7 @@ class KESTRIN_EXPORT CMNetInfo : public PooledRecord, private OwnedLists<2> {
 /// The root of the nets of a Neutral file.
 ///
 ///     for (const CMNetInfo* net : *netList->m_pNets) Use(net->m_sName, *net->m_pPins);
-class KESTRIN_EXPORT CMNetList : private OwnedLists<1> {
+class KESTRIN_TYPE CMNetList : private OwnedLists<1> {
  public:
   RecordArray<CMNetInfo>* m_pNets = MakeList();  ///< the nets of the selected board, in file order
 };

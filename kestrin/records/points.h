@@ -95,50 +95,50 @@ class KESTRIN_EXPORT CPoint3D {
 };
 
 /// An array of points, stored by value.
-class KESTRIN_EXPORT CArrayPointD : public CArray<CPointD, CPointD&> {
+class KESTRIN_TYPE CArrayPointD : public CArray<CPointD, CPointD&> {
  public:
   CArrayPointD() = default;
   CArrayPointD(const CArrayPointD& source) : CArray() { Copy(source); }
-  CArrayPointD& operator=(const CArrayPointD& source);
+  KESTRIN_EXPORT CArrayPointD& operator=(const CArrayPointD& source);
 
   /// Returns a copy on the heap, which the caller owns.
-  [[nodiscard]] virtual CArrayPointD* clone() const;
+  [[nodiscard]] KESTRIN_EXPORT virtual CArrayPointD* clone() const;
 
   /// If the archive is storing, writes the number of points, then x and y of each. Otherwise replaces the
   /// points with those of the archive; if the archive ends early, raises CArchiveException and leaves the
   /// points unchanged.
-  void Serialize(CArchive& archive) override;
+  KESTRIN_EXPORT void Serialize(CArchive& archive) override;
 };
 
 /// An array of pointers to point arrays. Copying clones the point arrays. Like every CExPtrArray, the array
 /// deletes them only when you call one of its delete operations.
-class KESTRIN_EXPORT CArrayArrayPointD : public CExPtrArray<CArrayPointD*> {
+class KESTRIN_TYPE CArrayArrayPointD : public CExPtrArray<CArrayPointD*> {
  public:
   CArrayArrayPointD() = default;
-  CArrayArrayPointD(const CArrayArrayPointD& source);
+  KESTRIN_EXPORT CArrayArrayPointD(const CArrayArrayPointD& source);
   CArrayArrayPointD& operator=(const CArrayArrayPointD&) = delete;
 
   /// Returns a copy on the heap, which the caller owns, with clones of the point arrays.
-  [[nodiscard]] virtual CArrayArrayPointD* clone() const;
+  [[nodiscard]] KESTRIN_EXPORT virtual CArrayArrayPointD* clone() const;
 };
 
 /// An array of pointers to points in space. Copying clones the points. Like every CExPtrArray, the array
 /// deletes them only when you call one of its delete operations.
-class KESTRIN_EXPORT CArrayPoint3D : public CExPtrArray<CPoint3D*> {
+class KESTRIN_TYPE CArrayPoint3D : public CExPtrArray<CPoint3D*> {
  public:
   CArrayPoint3D() = default;
-  CArrayPoint3D(const CArrayPoint3D& source);
+  KESTRIN_EXPORT CArrayPoint3D(const CArrayPoint3D& source);
   CArrayPoint3D& operator=(const CArrayPoint3D&) = delete;
 
   ///@{
   /// Compares the points pairwise with CPoint3D's operators; returns 1 for true, 0 for false. A null slot
   /// equals only a null slot. An array equals itself.
-  virtual int operator==(const CArrayPoint3D& other) const;
-  virtual int operator!=(const CArrayPoint3D& other) const;
+  KESTRIN_EXPORT virtual int operator==(const CArrayPoint3D& other) const;
+  KESTRIN_EXPORT virtual int operator!=(const CArrayPoint3D& other) const;
   ///@}
 
   /// Returns a copy on the heap, which the caller owns, with clones of the points.
-  [[nodiscard]] virtual CArrayPoint3D* clone() const;
+  [[nodiscard]] KESTRIN_EXPORT virtual CArrayPoint3D* clone() const;
 };
 
 }  // namespace kestrin

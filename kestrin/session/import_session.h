@@ -49,6 +49,10 @@ struct FileReading;
 /// your message handlers and windows throw. What was read before stays in the roots, and you can use the
 /// session again.
 ///
+/// When are messages dispatched? Between the lines of the Geometry and Traces files: before every line, and
+/// on Windows before the first line and then whenever the system's tick count has changed, because a look at
+/// the system's queue takes longer than a line.
+///
 /// May threads share a session? Use a session on one thread at a time. Several threads may read its models as
 /// long as none changes them, and different sessions may work on different threads at once. During a parse,
 /// messages of your windows are dispatched on the calling thread: their handlers must not use the session or

@@ -50,11 +50,11 @@ class KESTRIN_EXPORT CMTechVia : public PooledRecord {
 };
 
 /// A list of pins. The list of a root owns its records.
-class KESTRIN_EXPORT CMTechPinArray : public CExPtrArray<CMTechPin*> {};
+class KESTRIN_TYPE CMTechPinArray : public CExPtrArray<CMTechPin*> {};
 /// A list of physical layers. The list of a root owns its records.
-class KESTRIN_EXPORT CMTechStackupArray : public CExPtrArray<CMTechStackUpOrder*> {};
+class KESTRIN_TYPE CMTechStackupArray : public CExPtrArray<CMTechStackUpOrder*> {};
 /// A list of via rules. The list of a root owns its records.
-class KESTRIN_EXPORT CMTechViaArray : public CExPtrArray<CMTechVia*> {};
+class KESTRIN_TYPE CMTechViaArray : public CExPtrArray<CMTechVia*> {};
 
 /// The root of a Tech file.
 ///

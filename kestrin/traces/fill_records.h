@@ -41,7 +41,7 @@ class KESTRIN_EXPORT CMTracesTTI : public PooledRecord {
 };
 
 /// The fields of ARE and ARS lines. A line has 6, 8 or 13 values.
-class KESTRIN_EXPORT CMTracesArea : public PooledRecord, private OwnedLists<2> {
+class KESTRIN_TYPE CMTracesArea : public PooledRecord, private OwnedLists<2> {
  public:
   CString m_sName1;  ///< value 1
   CString m_sName2;  ///< value 2
@@ -71,19 +71,19 @@ class KESTRIN_EXPORT CMTracesARE : public CMTracesArea {};
 class KESTRIN_EXPORT CMTracesARS : public CMTracesArea {};
 
 /// An ISL line: an island of a fill.
-class KESTRIN_EXPORT CMTracesISL : public PooledRecord, private OwnedLists<1> {
+class KESTRIN_TYPE CMTracesISL : public PooledRecord, private OwnedLists<1> {
  public:
   int m_nValue1 = 0;                                   ///< value 1
   RecordArray<CMTracesVER>* m_pVerArray = MakeList();  ///< the vertices of the island
 };
 
 /// An ISS line: an island of a fill, in a list of its own.
-class KESTRIN_EXPORT CMTracesISS : public PooledRecord, private OwnedLists<1> {
+class KESTRIN_TYPE CMTracesISS : public PooledRecord, private OwnedLists<1> {
  public:
   CMTracesISS() = default;
   CMTracesISS(const CMTracesISS&) = delete;
   CMTracesISS& operator=(const CMTracesISS&) = delete;
-  virtual ~CMTracesISS();
+  KESTRIN_EXPORT virtual ~CMTracesISS();
 
   int m_nValue1 = 0;                                   ///< value 1
   RecordArray<CMTracesVER>* m_pVerArray = MakeList();  ///< the vertices of the island
@@ -93,7 +93,7 @@ class KESTRIN_EXPORT CMTracesISS : public PooledRecord, private OwnedLists<1> {
 ///
 /// An area without a fill gets one, too. It has the names of the area; the session's reader also sets
 /// m_dValue9 to the area's m_dValue5 and m_nValue7 to 1.
-class KESTRIN_EXPORT CMTracesFIL : public PooledRecord, private OwnedLists<6> {
+class KESTRIN_TYPE CMTracesFIL : public PooledRecord, private OwnedLists<6> {
  public:
   /// Makes an empty fill. The ARS list is created last because hosts expect its records to be deleted last.
   CMTracesFIL() { m_pArsArray = MakeList(); }

@@ -23,7 +23,7 @@ class KESTRIN_EXPORT CMTracesSEG : public PooledRecord {
 };
 
 /// A WIR line (a wire), or an ANT line with five values.
-class KESTRIN_EXPORT CMTracesWIRANT : public PooledRecord, private OwnedLists<1> {
+class KESTRIN_TYPE CMTracesWIRANT : public PooledRecord, private OwnedLists<1> {
  public:
   ///@{
   /// Value N of the line, where N is the number in the name.
@@ -37,7 +37,7 @@ class KESTRIN_EXPORT CMTracesWIRANT : public PooledRecord, private OwnedLists<1>
 };
 
 /// An INC line (an incomplete connection), or an ANT line with seven values.
-class KESTRIN_EXPORT CMTracesINCANT : public PooledRecord, private OwnedLists<1> {
+class KESTRIN_TYPE CMTracesINCANT : public PooledRecord, private OwnedLists<1> {
  public:
   ///@{
   /// Value N of the line, where N is the number in the name.
@@ -67,7 +67,7 @@ class KESTRIN_EXPORT CMTracesGUICHG : public PooledRecord {
 };
 
 /// A net header line, and the lines that belong to it. Headers with the same name make separate nets.
-class KESTRIN_EXPORT CMTracesNET : public PooledRecord, private OwnedLists<6> {
+class KESTRIN_TYPE CMTracesNET : public PooledRecord, private OwnedLists<6> {
  public:
   CString m_sName;                                           ///< its name, without the apostrophes around it
   RecordArray<CMTracesWIRANT>* m_pWirArray = MakeList();     ///< WIR lines

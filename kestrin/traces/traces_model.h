@@ -56,7 +56,7 @@ class KESTRIN_EXPORT CMTracesTTT : public PooledRecord {
 ///     for (const CMTracesNET* net : *traces->m_pNetArray) {
 ///       for (const CMTracesWIRANT* wire : *net->m_pWirArray) Route(net->m_sName, *wire->m_pSegArray);
 ///     }
-class KESTRIN_EXPORT CMTraces : private OwnedLists<5> {
+class KESTRIN_TYPE CMTraces : private OwnedLists<5> {
  public:
   std::int64_t m_nReserved = 0;
   CString m_sUnits;  ///< the unit that the file names last

@@ -13,11 +13,8 @@
 #include "kestrin/traces/strict/strict_parser.h"
 #include "kestrin/windowing/message_box.h"
 #include "kestrin/windowing/messages.h"
-#include "support/generators/generators.h"
 #include "support/source_of.h"
-#include "support/temporary_folder.h"
 #include "tests/support/content_of.h"
-#include "tests/support/no_threads.h"
 #include "tests/support/recording_dialog.h"
 #include "tests/support/sample_board.h"
 
@@ -87,24 +84,6 @@ TEST(Threads, BoardsAreReadFromTheSameModelsAtOnce) {
     EXPECT_EQ(board.points, first.points);
     EXPECT_EQ(board.reading.pinsTouching, first.reading.pinsTouching);
   });
-}
-
-TEST(Threads, LargeBoardsAreReadByTwoThreads) {
-  const test::TemporaryFolder folder;
-  constexpr std::uint64_t kLegs = 40'000;
-  ASSERT_TRUE(test::GenerateBoard(folder.Path(), kLegs));
-  CPC_KESTRIN_GET session;
-  test::ImportBoard(session, folder.Path());
-  const Board board = ReadBoard(ModelsOf(session));
-  const Board byOne = [&] {
-    const test::NoThreads noThreads;
-    return ReadBoard(ModelsOf(session));
-  }();
-  EXPECT_GT(board.points.size(), kLegs);
-  EXPECT_EQ(board.points, byOne.points);
-  EXPECT_EQ(board.netPins.size(), byOne.netPins.size());
-  EXPECT_GT(board.reading.pinsTouching, 1000U);
-  EXPECT_EQ(board.reading.pinsTouching, byOne.reading.pinsTouching);
 }
 
 TEST(Threads, CopiesOfAStringChangeWhileOthersAreMade) {

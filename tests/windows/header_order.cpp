@@ -11,6 +11,7 @@
 #endif
 
 #include <algorithm>
+#include <memory>
 #include <type_traits>
 
 namespace {
@@ -56,6 +57,11 @@ int main() {
     return 5;
   } catch (const CInvalidArgException&) {
   }
+  CArrayPointD points;
+  CPointD point;
+  points.Add(point);
+  const std::unique_ptr<CArrayPointD> clone(points.clone());  // of a class that has a template as its base
+  if (clone->GetSize() != 1) return 6;
   const Board board = ReadBoard(BoardModels{});
-  return board.nets.empty() ? 0 : 6;
+  return board.nets.empty() ? 0 : 7;
 }

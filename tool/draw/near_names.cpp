@@ -37,19 +37,20 @@ std::string NoSuchName(std::string_view what, std::string_view wrong,
   std::string message = "no " + std::string(what) + " \"" + std::string(wrong) + '"';
   if (wrong.size() > kLongest) return message;
   const double farthest = std::max(1.0, static_cast<double>(wrong.size()) / 2.0);
-  std::vector<std::pair<double, std::string_view>> near;
+  std::vector<std::pair<double, std::string_view>> closest;
   for (const std::string_view name : names) {
     if (name.size() > kLongest) continue;
     const double distance = DistanceBetween(wrong, name);
-    if (distance <= farthest) near.emplace_back(distance, name);
+    if (distance <= farthest) closest.emplace_back(distance, name);
   }
-  std::stable_sort(near.begin(), near.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
-  near.resize(std::min(near.size(), kMostNames));
-  if (near.empty()) return message;
+  std::stable_sort(closest.begin(), closest.end(),
+                   [](const auto& a, const auto& b) { return a.first < b.first; });
+  closest.resize(std::min(closest.size(), kMostNames));
+  if (closest.empty()) return message;
   message += "; did you mean ";
-  for (std::size_t i = 0; i < near.size(); ++i) {
-    if (i > 0) message += i + 1 == near.size() ? " or " : ", ";
-    message += '"' + std::string(near[i].second) + '"';
+  for (std::size_t i = 0; i < closest.size(); ++i) {
+    if (i > 0) message += i + 1 == closest.size() ? " or " : ", ";
+    message += '"' + std::string(closest[i].second) + '"';
   }
   return message + '?';
 }
