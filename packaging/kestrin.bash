@@ -24,7 +24,7 @@ _kestrin() {
         diff) mapfile -t COMPREPLY < <(compgen -W '--format --all --encoding --help' -- "$word") ;;
         anonymise) mapfile -t COMPREPLY < <(compgen -W "$files --key --map --force --help" -- "$word") ;;
         dump) mapfile -t COMPREPLY < <(compgen -W "$files --strict --help" -- "$word") ;;
-        summary) mapfile -t COMPREPLY < <(compgen -W "$files --strict --encoding --help" -- "$word") ;;
+        summary) mapfile -t COMPREPLY < <(compgen -W "$files --format --strict --encoding --help" -- "$word") ;;
         board)
           mapfile -t COMPREPLY < <(
             compgen -W "$files --strict --encoding --rotation --bottom --bottom-turn --width-step --help" -- "$word") ;;

@@ -7,7 +7,7 @@ namespace {
 
 /// The type of a column.
 template <class Number>
-std::string TypeOf(std::vector<Number> Legs::* /*column*/) {
+std::string TypeOf(NumberBlock<Number> Legs::* /*column*/) {
   return ArrayType<Number>();
 }
 

@@ -16,9 +16,9 @@ class Tracks {
 
   /// A column of the legs, a view.
   template <class Number>
-  [[nodiscard]] py::array Column(std::vector<Number> Legs::*column) const {
+  [[nodiscard]] py::array Column(NumberBlock<Number> Legs::*column) const {
     const Legs& legs = LegsOf(SetOf(*owner_));
-    return ViewOf(owner_, std::span<const Number>(legs.*column).subspan(first_, count_));
+    return ViewOf(owner_, (legs.*column).Numbers().subspan(first_, count_));
   }
 
  private:

@@ -1,7 +1,5 @@
 #include "python/errors.h"
 
-#include <regex>
-
 #include "python/texts.h"
 #include "tool/usage_error.h"
 
@@ -14,15 +12,13 @@ constexpr char kMeaning[] =
     "None.";
 
 /// Messages name options of the tool, which are arguments here: "name one with --tech".
-std::string InPythonsWords(const std::string& message) {
-  static const std::regex kOption("(^| )--(tech|neutral|geometry|traces|strict|width|box|view|against)\\b");
-  static const std::regex kStep("--width-step");
-  return std::regex_replace(std::regex_replace(message, kStep, "width_step"), kOption, "$1$2=");
+py::object InPythonsWords(const std::string& message) {
+  return py::module_::import("re").attr("sub")("(?<!\\S)--([a-z]+)", "\\1=", PathOf(message));
 }
 
-void Raise(const py::object& type, const std::string& message, const py::object& file,
+void Raise(const py::object& type, const py::object& message, const py::object& file,
            const py::object& line) {
-  const py::object error = type(PathOf(message));
+  const py::object error = type(message);
   error.attr("file") = file;
   error.attr("line") = line;
   PyErr_SetObject(type.ptr(), error.ptr());
@@ -42,7 +38,7 @@ void BindErrors(py::module_& module) {
     try {
       std::rethrow_exception(std::move(raised));
     } catch (const StoppedError& error) {
-      Raise(py::reinterpret_borrow<py::object>(kError), error.what(), PathOf(error.File()),
+      Raise(py::reinterpret_borrow<py::object>(kError), PathOf(error.what()), PathOf(error.File()),
             py::int_(error.Line()));
     } catch (const tool::UsageError& error) {
       const py::object file = error.File().empty() ? py::object(py::none()) : PathOf(error.File());

@@ -5,22 +5,25 @@
 
 #include <cstdint>
 #include <tuple>
-#include <vector>
 
 #include "kestrin/board/board.h"
+#include "python/number_block.h"
 #include "tool/fields.h"
 
 namespace kestrin::python {
 
 /// A row for each leg: a pair of consecutive points of a track. They are in the order of the tracks.
 struct Legs {
-  std::vector<double> x1;
-  std::vector<double> y1;
-  std::vector<double> x2;
-  std::vector<double> y2;
-  std::vector<std::int32_t> layer;
-  std::vector<double> width;
-  std::vector<std::uint32_t> net;
+  explicit Legs(std::size_t count)
+      : x1(count), y1(count), x2(count), y2(count), layer(count), width(count), net(count) {}
+
+  NumberBlock<double> x1;
+  NumberBlock<double> y1;
+  NumberBlock<double> x2;
+  NumberBlock<double> y2;
+  NumberBlock<std::int32_t> layer;
+  NumberBlock<double> width;
+  NumberBlock<std::uint32_t> net;
 };
 
 /// Lays out the legs of a board.

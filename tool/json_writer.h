@@ -11,11 +11,12 @@
 
 namespace kestrin::tool {
 
-/// Writes one document as text, without a copy of it in memory.
-class JsonWriter final : public DocumentWriter {
+/// Writes one document as text, without a copy of it in memory. The text is what the underlying writer makes.
+template <class TextWriter>
+class BasicJsonWriter final : public DocumentWriter {
  public:
   /// The caller keeps the stream open until Finish.
-  explicit JsonWriter(std::FILE* target = stdout);
+  explicit BasicJsonWriter(std::FILE* target = stdout);
 
   void Key(const char* name) override { writer_.Key(name); }
   void StartObject() override { writer_.StartObject(); }
@@ -38,7 +39,12 @@ class JsonWriter final : public DocumentWriter {
  private:
   std::array<char, 65536> buffer_;
   rapidjson::FileWriteStream stream_;
-  rapidjson::PrettyWriter<rapidjson::FileWriteStream> writer_;
+  TextWriter writer_;
 };
+
+/// A document for people, too: a member a line.
+using JsonWriter = BasicJsonWriter<rapidjson::PrettyWriter<rapidjson::FileWriteStream>>;
+/// A document in one line.
+using JsonLineWriter = BasicJsonWriter<rapidjson::Writer<rapidjson::FileWriteStream>>;
 
 }  // namespace kestrin::tool

@@ -34,6 +34,7 @@ struct Arguments {
   ExportSet files;
   AnonymiseWords anonymise;
   CheckWords check;
+  std::string summaryFormat = "text";
   ReadingWords reading;
   DiffWords diff;
   draw::DrawWords draw;
@@ -94,10 +95,14 @@ void AddReadingOptions(CLI::App& command, ReadingWords& words) {
       ->option_text("NUMBER");
 }
 
-void AddCheckOptions(CLI::App& command, CheckWords& words) {
-  command.add_option("--format", words.format, "The output format (default: text)")
+void AddFormat(CLI::App& command, std::string& word) {
+  command.add_option("--format", word, "The output format (default: text)")
       ->check(CLI::IsMember({"text", "json"}))
       ->option_text("text|json");
+}
+
+void AddCheckOptions(CLI::App& command, CheckWords& words) {
+  AddFormat(command, words.format);
   command
       .add_option("--fail-on", words.failOn,
                   "End with status 1 if there is a problem that is at least this bad (default: warning)")
@@ -144,9 +149,7 @@ void AddDiffOptions(CLI::App& command, DiffWords& words) {
   const char* const meaning = "A folder with an export set, or one of its files";
   command.add_option("BEFORE", words.before, meaning)->required()->option_text(" ");
   command.add_option("AFTER", words.after, meaning)->required()->option_text(" ");
-  command.add_option("--format", words.format, "The output format (default: text)")
-      ->check(CLI::IsMember({"text", "json"}))
-      ->option_text("text|json");
+  AddFormat(command, words.format);
   command.add_flag("--all", words.all, "Print all differences, not only the first of each kind");
   command.footer(
       "Example:\n  kestrin diff boards/a boards/b\n\nExit status: 0 if there is no difference; 1 if there "
@@ -187,6 +190,7 @@ class CommandLine {
     app_.set_version_flag("-V,--version", std::string("kestrin ") + kVersion);
     app_.require_subcommand(0, 1);
     app_.footer(std::string("Example:\n  kestrin summary examples/board\n\n") + kExitStatuses);
+    AddFormat(*summary_, arguments_.summaryFormat);
     AddReadingOptions(*board_, arguments_.reading);
     AddReadingOptions(*draw_, arguments_.reading);
     AddDrawOptions(*draw_, arguments_.draw);
@@ -221,7 +225,7 @@ class CommandLine {
     if (board_->parsed()) return PrintBoard(files, arguments_.reading);
     if (draw_->parsed()) return draw::Draw(files, arguments_.reading, arguments_.draw);
     if (check_->parsed()) return Check(files, arguments_.check);
-    if (summary_->parsed()) return Summary(files);
+    if (summary_->parsed()) return Summary(files, arguments_.summaryFormat);
     files.EncodingWord() = "latin-1";  // a dump has one character for each byte
     return Dump(files);
   }

@@ -8,9 +8,11 @@
 #include "tool/exit_status.h"
 #include "tool/geometry_summary.h"
 #include "tool/import.h"
+#include "tool/json_writer.h"
 #include "tool/neutral_summary.h"
 #include "tool/output.h"
 #include "tool/readable_text.h"
+#include "tool/summary_document.h"
 #include "tool/tech_summary.h"
 #include "tool/text_table.h"
 #include "tool/traces_summary.h"
@@ -52,11 +54,7 @@ void PrintFiles(const Imported& imported) {
   }
 }
 
-}  // namespace
-
-int Summary(const ExportSet& files) {
-  Imported imported(files);
-  const std::string stopped = Import(imported);
+void PrintTables(const Imported& imported) {
   const CPC_KESTRIN_GET& session = imported.session;
   PrintFiles(imported);
   if (const CMTech* tech = session.GetTech()) PrintTech(*tech);
@@ -66,6 +64,23 @@ int Summary(const ExportSet& files) {
   if (const CMGeom* geom = session.GetGeom()) PrintGeometry(*geom);
   if (const CMTraces* traces = imported.Traces()) PrintTraces(*traces);
   PrintBoardSummary(BoardOf(imported));
+}
+
+/// Prints a line of JSON, in one piece: several processes may write to the same pipe or file.
+void PrintLine(const Imported& imported) {
+  constexpr std::size_t kLongest = std::size_t{1} << 16;
+  std::setvbuf(stdout, nullptr, _IOFBF, kLongest);
+  JsonLineWriter json;
+  WriteSummary(json, imported, BoardOf(imported));
+  json.Finish();
+}
+
+}  // namespace
+
+int Summary(const ExportSet& files, const std::string& format) {
+  Imported imported(files);
+  const std::string stopped = Import(imported);
+  format == "json" ? PrintLine(imported) : PrintTables(imported);
   return FinishOutput(stopped.empty() ? kSuccess : ReportError(stopped, kIncomplete));
 }
 

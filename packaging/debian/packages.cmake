@@ -54,3 +54,17 @@ ${about}
 This package contains the tool kestrin, which summarizes, checks, compares and
 draws boards, and prints them as JSON.")
 endif()
+
+if(TARGET kestrin_python)
+  kestrin_debian_package(python python3-kestrin python
+"importer of exported printed-circuit boards - Python module
+${about}
+
+This package contains the module kestrin: boards as objects, numpy arrays and
+tables of pandas, also of many boards on Dask.")
+  math(EXPR next_minor "${KESTRIN_PYTHON_MINOR} + 1")
+  set(CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS 
+      "python3 (>= 3.${KESTRIN_PYTHON_MINOR}~), python3 (<< 3.${next_minor}), python3-numpy")
+  set(CPACK_DEBIAN_PYTHON_PACKAGE_RECOMMENDS python3-pandas)
+  set(CPACK_DEBIAN_PYTHON_PACKAGE_SUGGESTS python3-distributed)
+endif()

@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+import math
 import os
 from typing import Any, Literal, Optional, Union
 
@@ -59,6 +60,8 @@ def read(
     _check("rotation", rotation, (None, "ccw", "cw"))
     _check("bottom", bottom, (None, "ccw", "cw"))
     _check("bottom_turn", bottom_turn, (None, 0, 180))
+    if width_step is not None and not 0 < width_step < math.inf:
+        raise ValueError(f"width_step is {width_step!r}; it must be greater than 0")
     files = {"tech": tech, "neutral": neutral, "geometry": geometry, "traces": traces}
     turn = "" if bottom_turn is None else str(bottom_turn)
     words = _kestrin._ReadingWords(rotation or "", bottom or "", turn, width_step)

@@ -29,7 +29,7 @@ def indented(doc: str, indent: str) -> str:
 
 def property_lines(name: str, member: property) -> Iterator[str]:
     kind, meaning = (member.__doc__ or "").split(": ", 1)
-    yield f"    @property\n    def {name}(self) -> {kind}:\n        \"\"\"{meaning}\"\"\"\n"
+    yield f'    @property\n    def {name}(self) -> {kind}:\n        """{meaning}"""\n'
 
 
 def function_lines(doc: str, indent: str = "") -> Iterator[str]:

@@ -18,7 +18,9 @@ SAMPLE = Path(os.environ["KESTRIN_EXAMPLES"]) / "board"
 
 def tool(*arguments: object) -> Any:
     """What the tool prints, as data."""
-    result = subprocess.run([TOOL, *map(str, arguments)], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, check=False)
+    result = subprocess.run(
+        [TOOL, *map(str, arguments)], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, check=False
+    )
     return json.loads(result.stdout)
 
 

@@ -43,7 +43,7 @@ def client(tmp_path_factory: pytest.TempPathFactory) -> Iterator[Any]:
     import dask
 
     dask.config.set({"temporary-directory": str(tmp_path_factory.mktemp("dask"))})
-    with distributed.LocalCluster(n_workers=2, threads_per_worker=1, dashboard_address=None) as cluster:
+    with distributed.LocalCluster(n_workers=2, threads_per_worker=1, dashboard_address=":0") as cluster:
         with distributed.Client(cluster) as client:
             yield client
 
