@@ -25,6 +25,7 @@ case "${1-}" in
   all)
     scripts/install-packages.sh $(cat scripts/build-packages scripts/check-packages)
     clang-format-14 --dry-run --Werror $(git ls-files '*.h' '*.cpp')
+    black --quiet --check -l 120 python tests/python
     scripts/check-layers
     scripts/check-usings
     scripts/make-reference

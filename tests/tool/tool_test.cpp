@@ -64,6 +64,26 @@ TEST(Tool, WrongUsageAndUnreadableFilesPrintOneLineAndReturn2) {
   }
 }
 
+TEST(Tool, SummarizesASetInOneLineOfJson) {
+  const auto summary = RunTool("summary --format json " + kBoard);
+  EXPECT_EQ(summary.status, 0);
+  EXPECT_TRUE(IsOneLine(summary.out)) << summary.out;
+  rapidjson::Document document;
+  ASSERT_FALSE(document.Parse(summary.out.c_str()).HasParseError());
+  EXPECT_EQ(document["files"].Size(), 4U);
+  EXPECT_EQ(document["files"][3]["lines"].GetInt(), 404);
+  EXPECT_EQ(document["components"].GetInt(), 16);
+  EXPECT_EQ(document["length"][0]["name"].GetString(), "TOP"s);
+  EXPECT_TRUE(document["reading"]["confirmed"].GetBool());
+
+  const TemporaryFolder folder;
+  const auto stopped =
+      RunTool("summary --format json --traces " + folder.File("a.traces", "UNITS MM\nVER 9\n"));
+  EXPECT_EQ(stopped.status, 1);
+  ASSERT_FALSE(document.Parse(stopped.out.c_str()).HasParseError());
+  EXPECT_EQ(document["files"][0]["end"].GetString(), "stopped"s);
+}
+
 TEST(Tool, HasHelpOnEveryLevel) {
   for (const char* arguments : {"--help", "help", "help check", "summary --help", "dump --help",
                                 "check --help", "board --help", "diff --help", "draw --help"}) {
