@@ -205,9 +205,9 @@ TEST(Draw, WrongOptionsEndWith2AndLeaveTheOldPicture) {
       {"--width 0 -o " + old, "--width needs a number from 1 to 30000"},
       {"--box 0,0,1,99 --width 20000 -o " + old, "more than 30000 pixels high"},
       {"", "--output"},
-      {"-o " + folder.Path("a.gif"), "ends in .svg"},
+      {"-o " + folder.Path("a.gif"), "its name must end in .svg"},
       {"-o " + folder.Path("none/a.svg"), "cannot write \"" + folder.Path("none/a.svg") + "\": No such file"},
-      {"-o " + folder.Path() + "/.svg/", "ends in .svg"},
+      {"-o " + folder.Path() + "/.svg/", "its name must end in .svg"},
   };
   for (const Case& c : cases) {
     const auto result = RunTool("draw " + kBoard + ' ' + c.options);
