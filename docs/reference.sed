@@ -4,8 +4,8 @@
 # comment of the class says so.
 s/^ .*= (default|delete);.*//
 s/^ +(KESTRIN_EXPORT )?(virtual )?~.*[;}]$//
-s/^ +(\w+)\((const \1&( \w+)?)?\)( :.*\}|;)$//
-s/^ +(\w+)& operator=\(const \1&( \w+)?\);$//
+s/^ +(KESTRIN_EXPORT )?(\w+)\((const \2&( \w+)?)?\)( :.*\}|;)$//
+s/^ +(KESTRIN_EXPORT )?(\w+)& operator=\(const \2&( \w+)?\);$//
 
 # Members that exist only because hosts expect the layout.
 s|^( +[^/]* m_[a-z]*_?(Spare\|Unset\|Extra\|Reserved)[A-Za-z]*[0-9]?( = [^;]+)?;)$|\1  ///< never filled|

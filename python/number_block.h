@@ -32,6 +32,7 @@ class NumberBlock {
   static Number* Allocate(std::size_t bytes) {
     const std::size_t alignment = bytes < kHugePage ? alignof(std::max_align_t) : kHugePage;
     const std::size_t rounded = (bytes / alignment + 1) * alignment;
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the unique_ptr owns it
     void* block = std::aligned_alloc(alignment, rounded);
     if (block == nullptr) throw std::bad_alloc();
     if (alignment == kHugePage) PreferHugePages(block, rounded);

@@ -1,5 +1,6 @@
 #include "tool/import.h"
 
+#include <cstdint>
 #include <exception>
 #include <future>
 #include <memory>
@@ -75,9 +76,13 @@ std::string ReadFiles(Imported& imported, ImportDialog& dialog, StrictReading st
   return stopped.empty() ? imported.strictTraces->stopped : stopped;
 }
 
-/// Keeps the models of a session until the process ends. The system then frees their memory at once;
+/// Keeps large models of a session until the process ends. The system then frees their memory at once;
 /// destroying them would take a fifth of the time of the import.
 void LeaveToSystem(const CPC_KESTRIN_GET& session) {
+  constexpr std::int64_t kManyLines = 10'000;
+  std::int64_t lines = 0;
+  for (const FileKind& kind : kFileKinds) lines += session.GetReport().Of(kind.file).linesRead;
+  if (lines < kManyLines) return;
   static auto* const kept = std::make_unique<std::vector<CPC_KESTRIN_GET>>().release();
   kept->push_back(session);
 }

@@ -45,7 +45,7 @@ enum class StrictReading {
 [[nodiscard]] std::string Import(Imported& imported, ImportDialog& dialog,
                                  StrictReading strict = StrictReading::kOnly);
 
-/// The same for a command, with progress on the terminal. The models then exist until the process ends.
+/// The same for a command, with progress on the terminal. Large models then exist until the process ends.
 [[nodiscard]] std::string Import(Imported& imported, StrictReading strict = StrictReading::kOnly);
 
 }  // namespace kestrin::tool
