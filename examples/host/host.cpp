@@ -32,7 +32,8 @@ class Dialog : public kestrin::CWnd {
 
    private:
     kestrin::LRESULT WindowProc(kestrin::UINT message, kestrin::WPARAM position, kestrin::LPARAM) override {
-      if (message == kestrin::PBM_SETPOS && position / 25 != quarter_) {
+      using namespace kestrin;  // PBM_SETPOS is a macro on Windows
+      if (message == PBM_SETPOS && position / 25 != quarter_) {
         quarter_ = position / 25;
         std::cerr << "  " << position << " %\n";
       }

@@ -1,5 +1,6 @@
 #include "import_dialog.h"
 
+#include <memory>
 #include <stdexcept>
 
 #include "resource.h"
@@ -40,22 +41,25 @@ bool ImportDialog::Import(kestrin::CPC_KESTRIN_GET& session, const std::string& 
   session.vSetTraceFilePath(files + ".traces");
   session.m_pStatusWnd = &status_;
   session.SetProgressPtr(&geometry_, &neutral_, &traces_, &tech_);
+  const auto end = [&](kestrin::CPC_KESTRIN_GET* ended) {
+    isImporting_ = false;
+    ended->m_pStatusWnd = nullptr;  // the session may live longer than the dialog
+    ended->SetProgressPtr(nullptr, nullptr, nullptr, nullptr);
+  };
   bool isComplete = true;
   isImporting_ = true;
   try {
+    const std::unique_ptr<kestrin::CPC_KESTRIN_GET, decltype(end)> whileImporting(&session, end);
     session.vParse();
   } catch (const Cancelled&) {
     isComplete = false;
   }
-  isImporting_ = false;
-  session.m_pStatusWnd = nullptr;  // the session may live longer than the dialog
-  session.SetProgressPtr(nullptr, nullptr, nullptr, nullptr);
   status_.SetWindowTextA(isComplete ? "Complete" : "Cancelled");
   return isComplete;
 }
 
 LRESULT ImportDialog::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_COMMAND && LOWORD(wParam) == IDCANCEL) {  // also when the dialog is closed, or by Esc
+  if (message == WM_COMMAND && LOWORD(wParam) == IDCANCEL) {  // also when the dialog is closed
     if (isImporting_) throw Cancelled();                      // leaves vParse
     isClosed_ = true;
     return 0;

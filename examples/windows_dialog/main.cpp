@@ -2,6 +2,7 @@
 // Its argument is the path of the four files without their endings.
 
 #include <exception>
+#include <stdexcept>
 
 #include "import_dialog.h"
 

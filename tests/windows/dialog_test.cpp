@@ -98,9 +98,8 @@ class Dialog : public testing::Test {
 TEST_F(Dialog, ShowsEachFileAndMovesItsBar) {
   std::vector<std::string> texts;
   std::vector<WPARAM> positions;
-  const Spy status(Control(IDC_STATUS), [&](UINT message, WPARAM, LPARAM text) {
+  const Spy status(Control(IDC_STATUS), [&](UINT message, WPARAM, LPARAM) {
     if (message == WM_SETTEXT) texts.push_back(Status());
-    static_cast<void>(text);
   });
   const Spy bar(Control(IDC_TRACES), [&](UINT message, WPARAM position, LPARAM) {
     if (message == PBM_SETPOS) positions.push_back(position);

@@ -1,14 +1,9 @@
-// A host that includes windows.h, with all that it has, before or after the library's headers.
+// A host that includes windows.h, with all that it has, after the library's headers; or before them, if the
+// build says so.
 
-#ifdef FIRST_IS_windows
 #include <kestrin/kestrin.h>
 #include <shellapi.h>
 #include <windows.h>
-#else
-#include <kestrin/kestrin.h>
-#include <shellapi.h>
-#include <windows.h>
-#endif
 
 #include <algorithm>
 #include <memory>

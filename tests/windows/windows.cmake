@@ -22,9 +22,11 @@ add_test(NAME Windows.ToolPrintsTheSameBytes
           ${PROJECT_SOURCE_DIR}/examples/board ${wine})
 
 # Hosts of kestrin.dll. One includes windows.h before the library's headers, one after them.
+set(header_of_windows windows.h)
+set(header_of_kestrin kestrin/kestrin.h)
 foreach(first windows kestrin)
   add_executable(kestrin_${first}_first windows/header_order.cpp)
-  target_compile_definitions(kestrin_${first}_first PRIVATE FIRST_IS_${first})
+  target_compile_options(kestrin_${first}_first PRIVATE "SHELL:-include ${header_of_${first}}")
   target_compile_options(kestrin_${first}_first PRIVATE -Wall -Wextra -Wconversion -Werror)
   target_link_libraries(kestrin_${first}_first PRIVATE kestrin)
   add_test(NAME Windows.HeadersInAnyOrder.${first}First COMMAND ${headless} ${wine} $<TARGET_FILE:kestrin_${first}_first>)

@@ -1,16 +1,19 @@
 #include "kestrin/windowing/host_calls.h"
 
+#include <optional>
+
 #include "kestrin/windowing/windows/keep_exceptions.h"
 
 namespace kestrin {
 
 void PumpMessages() {
-  const auto dispatchOne = [] {
+  std::optional<int> quit;  // is for the host's own loop
+  const auto dispatchOne = [&quit] {
     MSG message;
     if (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE) == FALSE) return false;
-    if (message.message == WM_QUIT) {  // for the host's own loop
-      PostQuitMessage(static_cast<int>(message.wParam));
-      return false;
+    if (message.message == WM_QUIT) {
+      quit = static_cast<int>(message.wParam);
+      return true;
     }
     TranslateMessage(&message);
     DispatchMessageA(&message);
@@ -18,6 +21,7 @@ void PumpMessages() {
   };
   while (CallSystem(dispatchOne)) {
   }
+  if (quit) PostQuitMessage(*quit);
 }
 
 void Send(HWND window, UINT message, WPARAM wParam) {

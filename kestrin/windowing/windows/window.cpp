@@ -67,6 +67,10 @@ struct CWnd::Trampoline {
                                   DWORD_PTR object) noexcept {
     // NOLINTNEXTLINE(performance-no-int-to-ptr): the system keeps the pointer as a number
     auto* window = reinterpret_cast<CWnd*>(object);
+    // An object that was destroyed on another thread could not be removed from the window.
+    if (WindowTable::Instance().Find(handle) != window) {
+      return DefSubclassProc(handle, message, wParam, lParam);
+    }
     if (message == WM_NCDESTROY) {  // the last message
       window->m_hWnd = nullptr;
       window->m_bOwnsWindow = false;
