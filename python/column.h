@@ -65,7 +65,7 @@ class Column<bool> : public Column<std::uint8_t> {
   [[nodiscard]] py::object Finish() const { return Column<std::uint8_t>::Finish().attr("astype")("bool"); }
 };
 
-/// Texts; None if there is none.
+/// Texts, with None where a record has no text.
 template <>
 class Column<std::optional<std::string_view>> {
  public:

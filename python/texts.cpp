@@ -5,7 +5,7 @@
 namespace kestrin::python {
 namespace {
 
-/// Takes a new reference; raises Python's error if there is none.
+/// Takes a new reference. A null pointer means that Python has set an error, which is raised.
 py::str Owned(PyObject* text) {
   if (text == nullptr) throw py::error_already_set();
   return py::reinterpret_steal<py::str>(text);

@@ -19,7 +19,7 @@ class NetTable {
   /// Reserves room for a number of names.
   NetTable(std::size_t names, Board& board) : nets_(board.nets), byName_(names) { nets_.reserve(names); }
 
-  /// The net of a name. Adds a net to the board if there is none.
+  /// The net of a name. Adds it to the board if the name is new.
   [[nodiscard]] Index IndexOf(std::string_view name) {
     const std::string_view compared = ComparedName(name);
     const Index next = ToIndex(nets_.size());

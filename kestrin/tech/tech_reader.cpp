@@ -36,7 +36,7 @@ void TechReader::ForEachWord(const FormatWordVisitor& visit) {
   ForEachRowName(Table::kCommands, visit, {.place = WordPlace::kInside});
 }
 
-/// The row of the command that the line contains; null if there is none.
+/// The row of the command that the line contains; null if it contains no command.
 const TechReader::Command* TechReader::Find(std::string_view line) {
   for (const Command& command : Table::kCommands) {
     if (Contains(line, command.name)) return &command;

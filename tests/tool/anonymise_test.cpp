@@ -452,51 +452,5 @@ TEST(Anonymise, AnEqualSizeAndEqualUtf8OfEveryFile) {
   EXPECT_FALSE(document.Parse<rapidjson::kParseValidateEncodingFlag>(json.c_str()).HasParseError()) << json;
 }
 
-/// The names in a folder.
-std::set<std::string> EntriesOf(const std::string& folder) {
-  std::set<std::string> names;
-  for (const auto& entry : std::filesystem::directory_iterator(folder)) names.insert(entry.path().filename());
-  return names;
-}
-
-TEST(Anonymise, TheFolderIsWrittenAsAWholeOrNotAtAll) {
-  const TemporaryFolder folder;
-  const auto run = [&](const std::string& arguments) { return RunTool("anonymise " + arguments).status; };
-  const std::string out = folder.Path("out");
-  EXPECT_EQ(run(kBoard + " " + out), 0);
-  EXPECT_EQ(EntriesOf(out), (std::set<std::string>{kFiles.begin(), kFiles.end()}));
-  EXPECT_EQ(run(kBoard + " " + out), 2);
-  EXPECT_EQ(run(kBoard + "/board.tech " + out + "/ --force"), 0);
-  EXPECT_EQ(EntriesOf(out), (std::set<std::string>{"board.tech"}));
-
-  // Neither the original nor anything else is replaced.
-  EXPECT_EQ(run(out + "/board.tech " + out + " --force"), 2);
-  static_cast<void>(folder.File("out/notes.txt", "kept"));
-  EXPECT_EQ(run(kBoard + " " + out + " --force"), 2);
-  EXPECT_EQ(ContentOf(folder.Path("out/notes.txt")), "kept");
-
-  EXPECT_EQ(run(kBoard + " " + folder.Path("no/such/folder")), 2);
-  EXPECT_EQ(run(kBoard + " " + folder.Path("new") + " --map " + folder.Path("no/such/map")), 2);
-  EXPECT_EQ(run(folder.Path("missing") + " " + folder.Path("new")), 2);
-  EXPECT_EQ(run(folder.Path("new")), 2);
-  EXPECT_EQ(EntriesOf(folder.Path()), (std::set<std::string>{"out"}));
-}
-
-TEST(Anonymise, TheMapIsWrittenOnRequestAndSaysWhatEachWordBecame) {
-  const TemporaryFolder folder;
-  const std::string map = folder.Path("map");
-  const std::string arguments = "anonymise " + kBoard + "/board.tech " + folder.Path("out") + " --map ";
-  EXPECT_EQ(RunTool(arguments + folder.Path("out") + "/map").status, 2);
-  EXPECT_EQ(RunTool(arguments + map).status, 0);
-  const std::string text = ContentOf(map);
-  const auto inner = text.find("INNER\t");
-  ASSERT_NE(inner, std::string::npos) << text;
-  EXPECT_NE(ContentOf(folder.Path("out/board.tech")).find('"' + text.substr(inner + 6, 5) + "_1\""),
-            std::string::npos);
-  EXPECT_EQ(RunTool("anonymise " + kBoard + "/board.tech " + folder.Path("new") + " --map " + map).status, 2);
-  EXPECT_EQ(ContentOf(map), text);
-  EXPECT_EQ(static_cast<unsigned>(std::filesystem::status(map).permissions()), 0600U);
-}
-
 }  // namespace
 }  // namespace kestrin

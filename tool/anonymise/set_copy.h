@@ -20,7 +20,7 @@ namespace kestrin::tool {
 /// The bytes of each file; empty if the set does not have it.
 using SetBytes = std::array<std::string, kImportFileCount>;
 
-/// A copy of a set in which every word that is none of the formats' is another one.
+/// A copy of a set with other words in place of all that do not belong to the formats.
 ///
 /// The copy is made line by line and then compared with the original: where a line of it has a word of a
 /// format that the original does not have there, the words that made it are chosen again.

@@ -22,7 +22,7 @@ Span SpanOf(std::string_view part, std::string_view line) {
   return {static_cast<std::size_t>(part.data() - line.data()), part.size()};
 }
 
-/// A comment that contains a command is none.
+/// A line that looks like a comment but contains a command is read as the command.
 void FindInTech(std::string_view line, Texts& texts) {
   if (IsBlankOrComment(line) && !Contains(line, "$$")) texts.push_back({{0, line.size()}, true});
 }

@@ -17,8 +17,9 @@ KESTRIN_EXPORT LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LP
 KESTRIN_EXPORT BOOL PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
 /// Copies the first message of the calling thread's queue to the argument; PM_REMOVE also removes it from the
-/// queue. Returns FALSE at once if there is none. A window that is not null restricts this to the messages
-/// for that window; firstMessage and lastMessage restrict it to a range of message numbers unless both are 0.
+/// queue. Returns FALSE at once if no message is waiting. A window that is not null restricts this to the
+/// messages for that window; firstMessage and lastMessage restrict it to a range of message numbers unless
+/// both are 0.
 [[nodiscard]] KESTRIN_EXPORT BOOL PeekMessageA(MSG* message, HWND window, UINT firstMessage, UINT lastMessage,
                                                UINT flags);
 
@@ -28,7 +29,7 @@ KESTRIN_EXPORT BOOL TranslateMessage(const MSG* message);
 /// Calls the WindowProc of the message's window and returns its result; returns 0 if there is no such window.
 KESTRIN_EXPORT LRESULT DispatchMessageA(const MSG* message);
 
-/// The handle of the parent window; null if there is none or it has been destroyed.
+/// The handle of the parent window; null if the window has no parent, or the parent has been destroyed.
 [[nodiscard]] KESTRIN_EXPORT HWND GetParent(HWND window);
 
 /// Shows a message box with the process's handler (SetMessageBoxHandler) and returns what the handler
