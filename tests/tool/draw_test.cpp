@@ -276,6 +276,38 @@ TEST(Draw, HostileCoordinatesAndSizesAreLeftOut) {
   EXPECT_EQ(Select(svg, "string(/*/@viewBox)"), ".45 -4 3.55 3.55");
 }
 
+TEST(Draw, AnSvgKeepsTheCharactersAndSpacesOfTexts) {
+  const TemporaryFolder folder;
+  const std::string svg = folder.Path("a.svg");
+  const auto draw = [&](const std::string& text, const std::string& encoding) {
+    const std::string geometry =
+        folder.File("a.geometry", "$$create_board(B)\n$$text(X, \"" + text + "\", 0, 0, 1, @CL, 0)\n");
+    EXPECT_EQ(RunTool("draw --geometry " + geometry + " --encoding " + encoding + " -o " + svg).status, 0);
+    return Select(svg, "string(//*[name()=\"text\"])");
+  };
+  EXPECT_EQ(draw("Gr\xC3\xB6\xC3\x9F\x65 \xE9\x9B\xBB <&>", "utf-8"),
+            "Gr\xC3\xB6\xC3\x9F\x65 \xE9\x9B\xBB <&>");
+  EXPECT_EQ(draw("Gr\xF6\xDF\x65", "latin-1"), "Gr\xC3\xB6\xC3\x9F\x65");
+  EXPECT_EQ(draw("a\x01\xEF\xBF\xBF\xEF\xBF\xBE", "utf-8"), "a\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD");
+  EXPECT_EQ(draw(" A  B ", "utf-8"), " A  B ");
+  EXPECT_EQ(Select(svg, "string(//*[name()=\"text\"]/../@xml:space)"), "preserve");
+}
+
+TEST(Draw, PensAndTextsAreAsFineOnALargeBoardAndInASmallBox) {
+  const TemporaryFolder folder;
+  const std::string files =
+      "--geometry " + folder.File("a.geometry",
+                                  "$$create_board(B)\n$$page(@mm)\n$$path(X, 0.126, [0, 0, 3000, 0.1])\n"
+                                  "$$path(X, 0, [0, 0, 0.2, 0.1])\n$$text(X, \"A\", 0, 0, 1, @CL, 30)\n");
+  const std::string svg = folder.Path("a.svg");
+  ASSERT_EQ(RunTool("draw " + files + " -o " + svg).status, 0);
+  EXPECT_EQ(Select(svg, "count(//*[@stroke-width=\".126\"])"), "1");
+  EXPECT_EQ(Select(svg, "starts-with(//*[name()=\"text\"]/@transform, \"matrix(.866 -.5 .5 .866 \")"),
+            "true");
+  ASSERT_EQ(RunTool("draw " + files + " --box 0,0,.9,.9 -o " + svg).status, 0);
+  EXPECT_EQ(Select(svg, "count(//*[@stroke-width=\".001\"])"), "1");
+}
+
 TEST(Draw, ALargeDrawingThatIsPlacedVeryOftenIsLeftOutInTheEnd) {
   const TemporaryFolder folder;
   std::string geometry = "$$create_component(G)\n$$page(@mm)\n$$path(SILKSCREEN_1, 0.1, [0, 0";
