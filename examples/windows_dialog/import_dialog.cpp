@@ -17,9 +17,14 @@ HWND CreateDialogOfTheResource() {
 
 }  // namespace
 
-ImportDialog::ImportDialog() {
+ImportDialog::ImportDialog(HWND dialog) {
   // The dialog is this object from now on: its messages go to WindowProc first.
-  if (Attach(CreateDialogOfTheResource()) == FALSE) throw std::runtime_error("cannot create the dialog");
+  if (Attach(dialog) != FALSE) return;
+  DestroyWindow(dialog);
+  throw std::runtime_error("cannot create the dialog");
+}
+
+ImportDialog::ImportDialog() : ImportDialog(CreateDialogOfTheResource()) {
   AttachControl(status_, IDC_STATUS);
   AttachControl(tech_, IDC_TECH);
   AttachControl(neutral_, IDC_NEUTRAL);

@@ -21,6 +21,7 @@ class ImportDialog : public kestrin::CWnd {
  private:
   struct Cancelled {};
 
+  explicit ImportDialog(HWND dialog);
   LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
   void AttachControl(kestrin::CWnd& control, int id);
 

@@ -9,6 +9,7 @@
 #include <functional>
 #include <sstream>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -45,6 +46,8 @@ class Spy {
   Received received_;
 };
 
+constexpr DWORD kPictureHeaders = sizeof(BITMAPFILEHEADER) + sizeof(BITMAPINFOHEADER);
+
 /// Saves what a dialog shows, without its frame, as a bitmap file.
 void SavePicture(HWND window, const std::string& path) {
   RECT inside;
@@ -62,8 +65,7 @@ void SavePicture(HWND window, const std::string& path) {
   GdiFlush();
 
   const auto size = static_cast<DWORD>(width * height * 4);
-  constexpr DWORD kHeaders = sizeof(BITMAPFILEHEADER) + sizeof(BITMAPINFOHEADER);
-  const BITMAPFILEHEADER header{0x4D42, kHeaders + size, 0, 0, kHeaders};
+  const BITMAPFILEHEADER header{0x4D42, kPictureHeaders + size, 0, 0, kPictureHeaders};
   std::ofstream file(path, std::ios::binary);
   file.write(reinterpret_cast<const char*>(&header), sizeof(header));
   file.write(reinterpret_cast<const char*>(&info.bmiHeader), sizeof(info.bmiHeader));
@@ -79,6 +81,15 @@ std::string ContentOf(const std::string& path) {
   std::ostringstream text;
   text << std::ifstream(path, std::ios::binary).rdbuf();
   return text.str();
+}
+
+/// Whether a picture that SavePicture saved shows more than one colour.
+bool ShowsSomething(const std::string& path) {
+  constexpr std::size_t kPixel = 4;
+  const std::string picture = ContentOf(path);
+  if (picture.size() < kPictureHeaders + kPixel) return false;
+  const std::string_view pixels = std::string_view(picture).substr(kPictureHeaders);
+  return pixels.substr(kPixel) != pixels.substr(0, pixels.size() - kPixel);
 }
 
 class Dialog : public testing::Test {
@@ -123,6 +134,7 @@ TEST_F(Dialog, CancelEndsTheImportAndAnotherMayFollow) {
   std::string many;
   while (many.size() < 8'000'000) many += traces;
   const std::string large = folder.File("large.traces", many);
+  std::filesystem::remove(picturePath);
   bool isSatisfied = false;
   const Spy user(Control(IDC_TRACES), [&](UINT message, WPARAM position, LPARAM) {
     if (message != PBM_SETPOS || position != 20 || std::exchange(isSatisfied, true)) return;
@@ -130,6 +142,7 @@ TEST_F(Dialog, CancelEndsTheImportAndAnotherMayFollow) {
     PostMessageA(Control(IDCANCEL), BM_CLICK, 0, 0);
   });
   EXPECT_FALSE(dialog_.Import(session_, folder.Path("large")));
+  EXPECT_TRUE(ShowsSomething(picturePath));
   EXPECT_EQ(Status(), "Cancelled");
   EXPECT_GE(Position(IDC_TRACES), 20);
   EXPECT_LT(Position(IDC_TRACES), 99);
@@ -137,6 +150,8 @@ TEST_F(Dialog, CancelEndsTheImportAndAnotherMayFollow) {
   EXPECT_TRUE(dialog_.Import(session_, sampleBoard));
   EXPECT_EQ(Status(), "Complete");
 }
+
+TEST_F(Dialog, ItsProgramTakesPathsWithAnyCharacters) { EXPECT_EQ(GetACP(), static_cast<UINT>(CP_UTF8)); }
 
 TEST_F(Dialog, ClosesWhenNoImportIsUnderWay) {
   PostMessageA(dialog_.GetSafeHwnd(), WM_CLOSE, 0, 0);

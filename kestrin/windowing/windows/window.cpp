@@ -1,5 +1,6 @@
 #include "kestrin/windowing/window.h"
 
+#include <memory>
 #include <mutex>
 #include <unordered_map>
 #include <utility>
@@ -37,12 +38,18 @@ class WindowTable {
   std::unordered_map<HWND, CWnd*> windows_;
 };
 
+struct WindowDestroyer {
+  using pointer = HWND;
+  void operator()(HWND window) const { DestroyWindow(window); }
+};
+using OwnedWindow = std::unique_ptr<HWND, WindowDestroyer>;
+
 /// A window that nobody sees: a child of the parent, or else one for messages only.
-HWND CreateHidden(const CWnd* parent) {
+OwnedWindow CreateHidden(const CWnd* parent) {
   HWND above = parent == nullptr ? nullptr : parent->GetSafeHwnd();
   const DWORD style = above == nullptr ? 0 : WS_CHILD;
-  return CreateWindowExA(WS_EX_NOPARENTNOTIFY, "STATIC", "", style, 0, 0, 0, 0,
-                         above == nullptr ? HWND_MESSAGE : above, nullptr, nullptr, nullptr);
+  return OwnedWindow(CreateWindowExA(WS_EX_NOPARENTNOTIFY, "STATIC", "", style, 0, 0, 0, 0,
+                                     above == nullptr ? HWND_MESSAGE : above, nullptr, nullptr, nullptr));
 }
 
 }  // namespace
@@ -86,7 +93,12 @@ struct CWnd::Trampoline {
   }
 };
 
-CWnd::CWnd(const CWnd* parent) { m_bOwnsWindow = Attach(CreateHidden(parent)) != FALSE; }
+CWnd::CWnd(const CWnd* parent) {
+  OwnedWindow hidden = CreateHidden(parent);
+  if (Attach(hidden.get()) == FALSE) return;
+  hidden.release();
+  m_bOwnsWindow = true;
+}
 
 CWnd::~CWnd() { Detach(); }
 
