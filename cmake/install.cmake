@@ -8,6 +8,7 @@ install(TARGETS ${KESTRIN_LIBRARIES}
   ARCHIVE COMPONENT development
   FILE_SET HEADERS COMPONENT development
   FILE_SET generated COMPONENT development)
+install(FILES ${KESTRIN_RUNTIME_DLLS} TYPE BIN COMPONENT runtime)  # of the compiler, on Windows
 install(EXPORT kestrinTargets
   NAMESPACE kestrin::
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/kestrin
@@ -29,13 +30,14 @@ function(kestrin_pkg_config name definitions link)
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
     COMPONENT development)
 endfunction()
+set(static "\${libdir}/$<TARGET_FILE_NAME:kestrin_static>$<$<PLATFORM_ID:Windows>: -lcomctl32 -luser32>")
 if(kestrin IN_LIST KESTRIN_LIBRARIES)
-  kestrin_pkg_config(kestrin -DKESTRIN_USING_SHARED "-L\${libdir} -lkestrin")
+  kestrin_pkg_config(kestrin "-D$<TARGET_PROPERTY:kestrin,INTERFACE_COMPILE_DEFINITIONS>" "-L\${libdir} -lkestrin")
 else()
-  kestrin_pkg_config(kestrin "" "-L\${libdir} -lkestrin")
+  kestrin_pkg_config(kestrin "" "${static}")
 endif()
 if(kestrin_static IN_LIST KESTRIN_LIBRARIES)
-  kestrin_pkg_config(kestrin-static "" "\${libdir}/$<TARGET_FILE_NAME:kestrin_static>$<$<PLATFORM_ID:Windows>: -lcomctl32 -luser32>")
+  kestrin_pkg_config(kestrin-static "" "${static}")
 endif()
 
 if(KESTRIN_BUILD_TOOL)

@@ -40,5 +40,16 @@ add_test(NAME Windows.DialogMovesAndCanBeCancelled
   COMMAND ${headless} ${wine} $<TARGET_FILE:kestrin_dialog_test> ${PROJECT_SOURCE_DIR}/examples/board/board
           ${PROJECT_BINARY_DIR}/dialog.bmp)
 
+# Hosts of the ZIP. Building them needs no Wine, so that other tests can run meanwhile.
+set(zip ${PROJECT_BINARY_DIR}/zip_test)
+add_test(NAME Windows.HostsBuildWithTheZip
+  COMMAND ${here}/zip_test.sh ${PROJECT_BINARY_DIR} ${zip} ${CMAKE_CXX_COMPILER} ${CMAKE_RC_COMPILER})
+foreach(host host static_host)
+  add_test(NAME Windows.HostsOfTheZipRun.${host}
+    COMMAND ${headless} ${PROJECT_SOURCE_DIR}/tests/install/run_host.sh ${wine} ${zip}/prefix/bin/${host}.exe)
+  set_tests_properties(Windows.HostsOfTheZipRun.${host} PROPERTIES FIXTURES_REQUIRED zip)
+endforeach()
+
 get_property(tests DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR} PROPERTY TESTS)
-set_tests_properties(${tests} PROPERTIES TIMEOUT 300 RUN_SERIAL ON)
+set_tests_properties(${tests} PROPERTIES TIMEOUT 300 RESOURCE_LOCK wine)
+set_tests_properties(Windows.HostsBuildWithTheZip PROPERTIES FIXTURES_SETUP zip RESOURCE_LOCK "")
