@@ -127,7 +127,7 @@ class KESTRIN_EXPORT CString {
   ///@{
   /// Formats like printf and replaces the string. `%s` also takes a CString, even this one; objects of other
   /// classes do not compile. The compiler checks the arguments against the format if none is a CString.
-  [[gnu::format(printf, 2, 3)]] void Format(const char* format, ...);
+  KESTRIN_PRINTF(2, 3) void Format(const char* format, ...);
   template <class... Arguments>
   void Format(const char* format, Arguments... arguments) requires(!std::is_scalar_v<Arguments> || ...) {
     FormatUnchecked(format, Printable(arguments)...);
