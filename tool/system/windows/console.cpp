@@ -6,23 +6,37 @@
 
 #include <array>
 #include <cstdio>
+#include <optional>
 
 namespace kestrin::tool {
 
-StandardStreams::StandardStreams() : encodingBefore_(GetConsoleOutputCP()) {
+namespace {
+
+/// The mode of the terminal of standard error, if that is one.
+std::optional<DWORD> TerminalMode() {
+  DWORD mode = 0;
+  if (GetConsoleMode(GetStdHandle(STD_ERROR_HANDLE), &mode) == FALSE) return std::nullopt;
+  return mode;
+}
+
+void SetTerminalMode(DWORD mode) { SetConsoleMode(GetStdHandle(STD_ERROR_HANDLE), mode); }
+
+}  // namespace
+
+StandardStreams::StandardStreams() : before_{GetConsoleOutputCP(), TerminalMode()} {
   for (std::FILE* stream : std::array{stdin, stdout}) _setmode(_fileno(stream), _O_BINARY);
   SetConsoleOutputCP(CP_UTF8);
+  if (before_.mode) SetTerminalMode(*before_.mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING);
 }
 
 StandardStreams::~StandardStreams() {
-  if (encodingBefore_ != 0) SetConsoleOutputCP(encodingBefore_);
+  if (before_.encoding != 0) SetConsoleOutputCP(before_.encoding);
+  if (before_.mode) SetTerminalMode(*before_.mode);
 }
 
 bool CanRedrawErrors() {
-  HANDLE terminal = GetStdHandle(STD_ERROR_HANDLE);
-  DWORD mode = 0;
-  return GetConsoleMode(terminal, &mode) != FALSE &&
-         SetConsoleMode(terminal, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != FALSE;
+  const std::optional<DWORD> mode = TerminalMode();
+  return mode && (*mode & ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
 }
 
 int TerminalWidth() {
