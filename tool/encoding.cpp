@@ -6,7 +6,7 @@
 #include <cstring>
 #include <vector>
 
-#include "kestrin/base/file_handle.h"
+#include "kestrin/framework/open_file.h"
 
 namespace kestrin::tool {
 namespace {
@@ -38,7 +38,7 @@ bool IsUtf8(std::string_view& bytes) {
 
 bool IsUtf8File(const std::string& path) {
   constexpr std::size_t kBlock = std::size_t{1} << 16;
-  const FileHandle file(std::fopen(path.c_str(), "rb"));
+  const FileHandle file = OpenToRead(path.c_str());
   if (file == nullptr) return true;
   std::vector<char> block(kBlock);
   std::size_t kept = 0;  // bytes of a character that the last block cut off

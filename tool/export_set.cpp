@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-#include "kestrin/base/file_handle.h"
+#include "kestrin/framework/open_file.h"
 #include "kestrin/text/ignoring_case.h"
 #include "tool/system/files.h"
 #include "tool/usage_error.h"
@@ -66,7 +66,7 @@ bool IsRegularFile(const std::string& path) {
   const fs::file_status status = fs::status(PathOfText(path), error);
   if (fs::is_directory(status)) throw UsageError(Quoted(path) + " is a folder, not a file", path);
   if (fs::exists(status) && !fs::is_regular_file(status)) return false;
-  const FileHandle file(std::fopen(path.c_str(), "rb"));
+  const FileHandle file = OpenToRead(path.c_str());
   if (file == nullptr) throw UsageError("cannot open " + Quoted(path) + ": " + std::strerror(errno), path);
   return true;
 }

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <vector>
 
+#include "kestrin/framework/open_file.h"
 #include "tool/system/files.h"
 #include "tool/usage_error.h"
 
@@ -17,7 +18,7 @@ FileHandle Create(std::string& path) {
 }
 
 FileHandle Open(const std::string& path) {
-  FileHandle file(std::fopen(path.c_str(), "rb"));
+  FileHandle file = OpenToRead(path.c_str());
   if (file == nullptr) throw UsageError("cannot open \"" + path + "\": " + std::strerror(errno));
   return file;
 }

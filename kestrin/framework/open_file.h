@@ -7,7 +7,7 @@
 
 namespace kestrin {
 
-/// Opens a file to read its bytes. Returns null if it cannot be opened or is a folder.
+/// Opens a file to read its bytes. Returns null and sets errno if it cannot be opened or is a folder.
 [[nodiscard]] FileHandle OpenToRead(const char* path);
 
 }  // namespace kestrin

@@ -6,7 +6,7 @@
 #include <optional>
 #include <vector>
 
-#include "kestrin/base/file_handle.h"
+#include "kestrin/framework/open_file.h"
 #include "tool/anonymise/output_folder.h"
 #include "tool/anonymise/set_copy.h"
 #include "tool/exit_status.h"
@@ -19,7 +19,7 @@ namespace {
 
 std::string BytesOf(const std::string& path) {
   constexpr std::size_t kBlock = std::size_t{1} << 20;
-  const FileHandle file(std::fopen(path.c_str(), "rb"));
+  const FileHandle file = OpenToRead(path.c_str());
   std::string bytes;
   std::size_t size = 0;
   do {

@@ -2,9 +2,9 @@
 #include <cstdio>
 #include <map>
 
-#include "kestrin/base/file_handle.h"
 #include "kestrin/board/findings/checks.h"
 #include "kestrin/board/findings/line_kinds.h"
+#include "kestrin/framework/open_file.h"
 #include "kestrin/framework/stdio_file.h"
 #include "kestrin/geometry/command_line.h"
 #include "kestrin/geometry/page_unit.h"
@@ -42,7 +42,7 @@ void CheckKind(ImportFile file, const FileReport& report, Collector& findings) {
 }
 
 void CheckEnd(ImportFile file, const FileReport& report, Collector& findings) {
-  const FileHandle bytes(std::fopen(report.path.c_str(), "rb"));
+  const FileHandle bytes = OpenToRead(report.path.c_str());
   if (bytes == nullptr || std::fseek(bytes.get(), -1, SEEK_END) != 0 || std::fgetc(bytes.get()) == '\n')
     return;
   findings.Add(FindingCode::kNoFinalNewline, [&] {

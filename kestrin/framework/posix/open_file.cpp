@@ -1,5 +1,6 @@
 #include "kestrin/framework/open_file.h"
 
+#include <cerrno>
 #include <filesystem>
 #include <system_error>
 
@@ -7,7 +8,9 @@ namespace kestrin {
 
 FileHandle OpenToRead(const char* path) {
   std::error_code ignored;
-  return FileHandle(std::filesystem::is_directory(path, ignored) ? nullptr : std::fopen(path, "rb"));
+  if (!std::filesystem::is_directory(path, ignored)) return FileHandle(std::fopen(path, "rb"));
+  errno = EISDIR;
+  return nullptr;
 }
 
 }  // namespace kestrin
