@@ -34,21 +34,23 @@ class KESTRIN_EXPORT CWnd : public CObject {
   /// The window with this handle; null if the handle is null or the window has been destroyed. On Windows
   /// also null if no CWnd stands for the handle.
   [[nodiscard]] static CWnd* FromHandle(HWND handle);
-  /// The window's handle. Null only on Windows: once the system's window has been destroyed, which it is with
-  /// its parent, or detached.
+  /// The window's handle. Null only on Windows: if the system could not create the window, and once that has
+  /// been detached or destroyed, which it is with its parent.
   [[nodiscard]] HWND GetSafeHwnd() const { return m_hWnd; }
 
 #ifdef _WIN32
-  /// Stands for a window of the system from now on: its messages go to WindowProc first. The window that the
-  /// object stood for is detached. The attached window stays yours: the destructor only detaches it. Returns
-  /// FALSE, and changes nothing, if the handle is null or of another thread, or another CWnd stands for it.
+  /// Stands for a window of the system from now on: its messages go to WindowProc first, all but the last,
+  /// WM_NCDESTROY. The window that the object stood for is detached. The attached window stays yours: the
+  /// destructor only detaches it. Returns FALSE, and changes nothing, if there is no such window, or it is of
+  /// another thread, or a CWnd stands for it already.
   BOOL Attach(HWND window);
   /// Stands for no window any more. Returns the window that was attached.
   HWND Detach();
 #endif
 
   /// Exchanges data between a dialog and its controls; an import calls it with FALSE when the controls should
-  /// show new data. The default does nothing and returns TRUE.
+  /// show new data. On Windows, a dialog that no CWnd stands for is not told; its bars move all the same. The
+  /// default does nothing and returns TRUE.
   virtual BOOL UpdateData(BOOL saveAndValidate = true);
   /// Enables or disables input. Returns nonzero if the window was disabled before. Without a windowing
   /// system, the default does nothing and returns FALSE.
@@ -58,8 +60,8 @@ class KESTRIN_EXPORT CWnd : public CObject {
 
   /// Receives the messages that are sent or dispatched to the window. The default returns 0; on Windows it
   /// lets the system's window handle the message, so call it for all that you do not handle yourself.
-  /// An exception that leaves a handler during an import leaves the import. At other times it must not leave
-  /// a handler on Windows: it would end the program.
+  /// An exception that leaves a handler during an import leaves the import. On Windows it also comes out of
+  /// EnableWindow and SetWindowTextA above; at other times it would end the program.
   virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
 
  private:
