@@ -31,7 +31,7 @@ inline constexpr std::int64_t kGreatestStep = 1024;
 /// not grow one element at a time gets exactly its capacity.
 [[nodiscard]] constexpr std::int64_t AllocatedSlots(std::int64_t capacity) {
   constexpr std::int64_t kSmall = 64;
-  constexpr std::int64_t kFirstTwo = 1 + kSmallestStep;  // growing by one element: 1, 5, 9, 13, …
+  constexpr std::int64_t kFirstTwo = 1 + kSmallestStep;  // growing by one element: 1, 5, 9, 13, ...
   const auto slots = static_cast<std::uint64_t>(capacity);
   if (capacity <= kFirstTwo) return capacity == 1 ? kFirstTwo : capacity;
   if (capacity <= kSmall) {

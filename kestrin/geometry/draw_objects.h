@@ -2,7 +2,7 @@
 
 /// @file
 /// The drawing objects of a geometry: paths, polygons, arcs and circles. Lengths are in the unit of the
-/// geometry. Coordinate lists are flat: x, y, x, y, …
+/// geometry. Coordinate lists are flat: x, y, x, y, ...
 
 #include "kestrin/base/export.h"
 #include "kestrin/framework/string.h"

@@ -8,9 +8,9 @@
 ///       Draw(component->m_sName, *component->m_pDrawObjs);
 ///     }
 ///
-/// All lengths of a geometry are in its unit, m_sUnits. Coordinate lists are flat: x, y, x, y, … Lists are in
-/// file order. No pointer to a list or a record is null, except the reserved ones. Members named spare, unset
-/// or reserved are never filled; they keep the layout that hosts expect.
+/// All lengths of a geometry are in its unit, m_sUnits. Coordinate lists are flat: x, y, x, y, ... Lists are
+/// in file order. No pointer to a list or a record is null, except the reserved ones. Members named spare,
+/// unset or reserved are never filled; they keep the layout that hosts expect.
 
 #include <cstdint>
 #include <memory>

@@ -2,7 +2,8 @@
 
 /// @file
 /// The records that geometries consist of. Lengths are in the unit of the geometry. Coordinate lists are
-/// flat: x, y, x, y, … Members named spare or unset are never filled; they keep the layout that hosts expect.
+/// flat: x, y, x, y, ... Members named spare or unset are never filled; they keep the layout that hosts
+/// expect.
 
 #include <cstdint>
 

@@ -12,6 +12,7 @@ trap 'rm -rf "$work"' EXIT
 cmake --install "$build" --component development --prefix "$work" >/dev/null
 cd "$work/include"
 headers=$(find . -name '*.h' -printf '%P\n' | LC_ALL=C sort)
+if LC_ALL=C grep -rn '[^[:print:][:blank:]]' .; then echo "some compilers would read this in another encoding" >&2; exit 1; fi
 
 mkdir "$work/programs"
 cd "$work/programs"
