@@ -249,6 +249,35 @@ TEST(ToolDiff, IsDrawnInRedAndGreen) {
   EXPECT_EQ(RunTool(command + after.Path() + " --view top -o " + picture).status, 2);
 }
 
+TEST(ToolDiff, DrawsOnlyWhatCanBeDrawn) {
+  const TemporaryFolder folder;
+  for (const char* side : {"a", "b"}) {
+    std::filesystem::create_directory(folder.Path(side));
+    const std::string name = side;
+    const bool isBefore = name == "a";
+    static_cast<void>(folder.File(name + "/x.geometry",
+                                  "$$create_board(B)\n$$page(@mm)\n$$create_component(G)\n$$page(@mm)\n"
+                                  "$$attribute(COMPONENT_PLACEMENT_OUTLINE, [1])\n"
+                                  "$$attribute(COMPONENT_PLACEMENT_OUTLINE, [0, 0, 1e300, 0, 1, 1])\n"));
+    static_cast<void>(folder.File(name + "/x.neutral", "B_UNITS MM\n###Component\nCOMP U_1 P S G " +
+                                                           std::string(isBefore ? "0" : "9") + " 0 1 0\n"));
+    static_cast<void>(
+        folder.File(name + "/x.traces", isBefore ? "UNITS MM\n# NET A\nWIR 1 0 0 0 0\nSEG 1 1 1 0.1\nSEG 2 1 "
+                                                   "1 0.1\nSEG 2 2 1 0.3\nSEG 4 2 1 0.3\n"
+                                                   "WIR 2 0 0 0 0\nSEG 1 1 1 0.1\nSEG 1e12 5 1 0.2\n"
+                                                 : "UNITS MM\n# NET A\n"));
+  }
+  const std::string picture = folder.Path("changes.svg");
+  const std::string command = "draw " + folder.Path("a") + " --against " + folder.Path("b");
+  ASSERT_EQ(RunTool(command + " -o " + picture).status, 0);
+  const std::string svg = ContentOf(picture);
+  EXPECT_NE(svg.find("<g stroke-width=\".1\">\n<path d=\"m1-1h1v-1\"/>"), std::string::npos) << svg;
+  EXPECT_NE(svg.find("<g stroke-width=\".3\">\n<path d=\"m2-2h2\"/>"), std::string::npos) << svg;
+  ASSERT_EQ(RunTool(command + " --layers removed --box 90,90,91,91 -o " + picture).status, 0);
+  EXPECT_EQ(ContentOf(picture).find("<path"), std::string::npos);
+  EXPECT_EQ(RunTool(command + " --net A -o " + picture).status, 2);
+}
+
 TEST(ToolDiff, EndsWith2IfASetCannotBeRead) {
   EXPECT_EQ(RunTool("diff " + kBoard + " /nowhere").status, 2);
   EXPECT_EQ(RunTool("diff " + kBoard).status, 2);

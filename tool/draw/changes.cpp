@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
 #include "kestrin/board/for_each_record.h"
 #include "kestrin/geometry/geometry_model.h"
 #include "tool/diff/wires.h"
+#include "tool/draw/scene_layers.h"
 
 namespace kestrin::tool::draw {
 namespace {
@@ -13,15 +15,20 @@ namespace {
 /// Adds shapes to one of the two layers.
 class ChangeLayer {
  public:
-  ChangeLayer(Scene& scene, Role role, const char* name) : scene_(scene) {
-    layer_.id = name;
-    layer_.label = name;
-    layer_.role = role;
-  }
+  ChangeLayer(SceneLayers& layers, PointStore& points, Role role, const char* name)
+      : layers_(layers), points_(points), layer_(layers.OfRole(role, name, name)) {}
 
+  /// Adds the legs of a wire; those of one width are a shape.
   void Add(const Wire& wire) {
-    const double width = wire.legs == 0 ? 0.0 : wire.CopperAt(0).width;
-    Add({.part = Part::kTrack, .form = Form::kLine, .width = width}, wire.Points());
+    const std::span<const Point> points = Kept(wire.Points());
+    if (wire.legs == 0) Add({.part = Part::kTrack, .form = Form::kLine}, points);
+    for (std::size_t from = 0; from < wire.legs;) {
+      const double width = wire.CopperAt(from).width;
+      std::size_t to = from + 1;
+      while (to < wire.legs && wire.CopperAt(to).width == width) ++to;
+      Add({.part = Part::kTrack, .form = Form::kLine, .width = width}, points.subspan(from, to - from + 1));
+      from = to;
+    }
   }
 
   /// Adds the placement outlines of a component.
@@ -34,23 +41,21 @@ class ChangeLayer {
       for (std::int64_t i = 0; i + 1 < coordinates.GetSize(); i += 2) {
         points.push_back(Moved(component.transform.Apply({coordinates[i], coordinates[i + 1]}), shift));
       }
-      Add({.form = Form::kContour}, points);
+      Add({.form = Form::kContour}, Kept(points));
     });
   }
 
-  void Finish() { scene_.layers.push_back(std::move(layer_)); }
-
  private:
-  void Add(const Brush& brush, const std::vector<Point>& points) {
-    if (!std::all_of(points.begin(), points.end(), IsFinite)) return;
-    const std::span<Point> kept = scene_.points.Make(points.size());
+  std::span<const Point> Kept(const std::vector<Point>& points) {
+    const std::span<Point> kept = points_.Make(points.size());
     std::copy(points.begin(), points.end(), kept.begin());
-    for (const Point point : points) scene_.bounds.Add(point);
-    layer_.batches[brush].push_back({.points = kept, .owner = {}, .isHole = false});
+    return kept;
   }
+  void Add(const Brush& brush, std::span<const Point> points) { layers_.Add(layer_, brush, {}, points); }
 
-  Scene& scene_;
-  SceneLayer layer_;
+  SceneLayers& layers_;
+  PointStore& points_;
+  SceneLayer& layer_;
 };
 
 void AddWires(const Sides& sides, ChangeLayer& removed, ChangeLayer& added) {
@@ -85,13 +90,21 @@ void AddComponents(const Sides& sides, const Difference& difference, ChangeLayer
 
 }  // namespace
 
-void AddChanges(const Sides& sides, const Difference& difference, Scene& scene) {
-  ChangeLayer removed(scene, Role::kRemoved, "removed");
-  ChangeLayer added(scene, Role::kAdded, "added");
+void AddChanges(const Sides& sides, const Difference& difference, const std::optional<Box>& window,
+                Scene& scene) {
+  // With a window, a layer stays although nothing is on it: somebody may name it.
+  constexpr Box kEverywhere{-1e9, -1e9, 1e9, 1e9};
+  SceneLayers layers(*scene.board, window.value_or(kEverywhere), {});
+  ChangeLayer removed(layers, scene.points, Role::kRemoved, "removed");
+  ChangeLayer added(layers, scene.points, Role::kAdded, "added");
   AddWires(sides, removed, added);
   AddComponents(sides, difference, removed, added);
-  removed.Finish();
-  added.Finish();
+  const Box& bounds = layers.Bounds();
+  if (!bounds.IsEmpty()) {
+    scene.bounds.Add({bounds.x0, bounds.y0});
+    scene.bounds.Add({bounds.x1, bounds.y1});
+  }
+  for (SceneLayer& layer : layers.Take()) scene.layers.push_back(std::move(layer));
 }
 
 }  // namespace kestrin::tool::draw

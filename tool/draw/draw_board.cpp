@@ -193,6 +193,8 @@ void CheckWords(const DrawWords& words, bool isAgainst) {
   static_cast<void>(BoxOf(words.box));
   if (isAgainst && (format.showsNets || ViewOf(words.view) != View::kLayers))
     throw UsageError("--against needs a picture of all layers: .svg, .png or .pdf, without another --view");
+  if (isAgainst && !words.nets.empty())
+    throw UsageError("--against dims everything but the changes, so it does not go with --net");
 }
 
 std::vector<std::string> DrawBoard(const Subject& subject, const DrawWords& words) {
@@ -207,7 +209,7 @@ std::vector<std::string> DrawBoard(const Subject& subject, const DrawWords& word
   if (!format.showsNets) sceneOptions = {box, picture.chosenNets};
   if (comparison != nullptr) sceneOptions.brightNets.assign(board.nets.size(), false);
   Scene scene = BuildScene(board, subject.imported.session.GetGeom(), sceneOptions);
-  if (comparison != nullptr) AddChanges(comparison->sides, comparison->difference, scene);
+  if (comparison != nullptr) AddChanges(comparison->sides, comparison->difference, box, scene);
   picture.scene = &scene;
   picture.view = ViewOf(words.view);
   picture.theme = words.theme == "print" ? Theme::kPrint : Theme::kDark;
