@@ -22,13 +22,14 @@ using test::TemporaryFolder;
 
 const std::string kBoard = KESTRIN_EXAMPLES "/board";
 
-/// A PNG of the sample board, 10 pixels a millimetre.
+/// A PNG that the tool draws; without files, of the sample board, 10 pixels a millimetre.
 class Png {
  public:
-  explicit Png(const std::string& options) {
+  explicit Png(const std::string& options,
+               const std::string& files = kBoard + " --box 0,0,60,40 --width 600 ") {
     const TemporaryFolder folder;
     const std::string path = folder.Path("a.png");
-    const auto drawn = RunTool("draw " + kBoard + " --box 0,0,60,40 --width 600 " + options + " -o " + path);
+    const auto drawn = RunTool("draw " + files + options + " -o " + path);
     EXPECT_EQ(drawn.status, 0) << drawn.err;
     surface_.reset(cairo_image_surface_create_from_png(path.c_str()));
     EXPECT_EQ(cairo_surface_status(surface_.get()), CAIRO_STATUS_SUCCESS);
@@ -40,7 +41,9 @@ class Png {
   /// The colour at a point of the board, as seen from the top or from below: "rrggbb".
   [[nodiscard]] std::string At(double x, double y, bool isFromBelow = false) const {
     const auto column = static_cast<std::ptrdiff_t>((isFromBelow ? 60.0 - x : x) * 10.0);
-    const auto row = static_cast<std::ptrdiff_t>((40.0 - y) * 10.0);
+    return Pixel(column, static_cast<std::ptrdiff_t>((40.0 - y) * 10.0));
+  }
+  [[nodiscard]] std::string Pixel(std::ptrdiff_t column, std::ptrdiff_t row) const {
     const unsigned char* pixel = cairo_image_surface_get_data(surface_.get()) +
                                  row * cairo_image_surface_get_stride(surface_.get()) + column * 4;
     std::uint32_t colour = 0;
@@ -85,6 +88,42 @@ TEST(DrawCairo, OtherNetsDim) {
   const Png png("--net 'VCC 3V3'");
   EXPECT_EQ(png.At(16.0, 29.0), "e5534b");
   EXPECT_NE(png.At(3.5, 21.6), "e5534b");
+}
+
+TEST(DrawCairo, LettersMayBeLargerThanThePicture) {
+  const Png png("--box 30.3,20.3,30.35,20.35 --width 500", kBoard + ' ');
+  EXPECT_EQ(png.Pixel(250, 250), "8fa3bd") << "in the U of U_1";
+}
+
+TEST(DrawCairo, LinesToFarPointsAreWhereTheyBelong) {
+  const TemporaryFolder folder;
+  const std::string traces =
+      folder.File("a.traces",
+                  "UNITS MM\n# NET A\nWIR 1 0 0 0 0\nSEG -500000 -400000 1 1\nSEG 500000 400000 1 1\n"
+                  "WIR 2 0 0 0 0\nSEG 8 2 1 0.5\nSEG 900000 2 1 0.5\nSEG 8 1 1 0.5\n"
+                  "FIL A SIGNAL_1 S 1 2 0 1 0 0.25 0 4 0 STYLE FULL CROSS 1\nARE A SIGNAL_1 S 1 0.25 8\n"
+                  "VER 1 7\nVER 1 9\nVER -900000 900009\nVER -900000 7\n");
+  const Png png("--box 0,0,10,10 --width 1000", traces + ' ');
+  const struct {
+    std::ptrdiff_t column;
+    std::ptrdiff_t row;
+    bool isCopper;
+  } cases[] = {{500, 600, true}, {500, 500, false}, {850, 800, true}, {950, 850, false}, {999, 900, true},
+               {50, 200, true},  {50, 70, true},    {50, 30, false},  {150, 200, false}};
+  for (const auto& c : cases) {
+    EXPECT_EQ(png.Pixel(c.column, c.row) != "10151c", c.isCopper) << c.column << ' ' << c.row;
+  }
+}
+
+TEST(DrawCairo, APdfKeepsTextsThatArePerhapsReadOnlyWhenItIsEnlarged) {
+  const TemporaryFolder folder;
+  const std::string path = folder.Path("a.pdf");
+  const std::string geometry = folder.File(
+      "a.geometry", "$$create_board(B)\n$$page(@mm)\n$$text(SILKSCREEN_1, \"TINY\", 0, 0, 0.2, @BL, 0)\n");
+  ASSERT_EQ(RunTool("draw --geometry " + geometry + " -o " + path).status, 0);
+  std::ifstream file(path, std::ios::binary);
+  const std::string pdf((std::istreambuf_iterator<char>(file)), {});
+  EXPECT_NE(pdf.find("/Font"), std::string::npos);
 }
 
 TEST(DrawCairo, APdfIsAsLargeAsTheBoard) {
