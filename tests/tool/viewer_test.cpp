@@ -133,6 +133,57 @@ TEST_F(Viewer, SwitchesLayersViewsAndThemes) {
   EXPECT_EQ(Run("return getComputedStyle(document.body).backgroundColor"), "rgb(255, 255, 255)");
 }
 
+TEST_F(Viewer, ShowsTheWholeBoardAgain) {
+  OpenSampleBoard();
+  const std::string whole = Picture();
+  Open(kBoard + " --theme dark --box 0,0,5,5");
+  EXPECT_NE(Picture(), whole);
+  Click("#fit");
+  EXPECT_EQ(Picture(), whole);
+  static_cast<void>(Run("document.getElementById('board').focus()"));
+  Type(std::string(80, '-'));
+  EXPECT_EQ(Run("const c = document.getElementById('board');"
+                "const d = c.getContext('2d').getImageData(0, 0, c.width, c.height).data;"
+                "let n = 0; for (let i = 0; i < d.length; i += 4) n += d[i] !== 16;"
+                "return n > 50"),
+            "true")
+      << "the board does not vanish";
+}
+
+TEST_F(Viewer, HolesStayOpenInAHighlightedPlane) {
+  const TemporaryFolder folder;
+  const std::string geometry =
+      folder.File("a.geometry",
+                  "$$create_board(B)\n$$page(@mm)\n$$create_via(V)\n$$page(@mm)\n"
+                  "$$attribute(TERMINAL_DRILL_SIZE, [1])\n$$circle(SIGNAL_1, 0, 0, 2, 0)\n");
+  const std::string traces =
+      folder.File("a.traces",
+                  "UNITS MM\n# NET GND\nFIL GND SIGNAL_1 S 1 2 0 1 0 0.25 0 4 0 STYLE FULL CROSS 1\n"
+                  "ARE GND SIGNAL_1 S 1 0.25 8\nVER 0 0\nVER 9 0\nVER 9 9\nVER 0 9\n"
+                  "# NET B\nWIR 1 0 0 0 0\nSEG 2 5 1 0.2\nSEG 5 5 1 V\n");
+  Open("--geometry " + geometry + " --traces " + traces + " --theme dark --net GND");
+  EXPECT_EQ(TextOf("#details h2"), "Net GND");
+  EXPECT_EQ(ColourAt(5.0, 5.0), kDarkBackground);
+  EXPECT_NE(ColourAt(8.0, 8.0), kDarkBackground);
+}
+
+TEST_F(Viewer, CountsPinsThatNoComponentHas) {
+  Open("--neutral " + kBoard + "/board.neutral --net XIN");
+  EXPECT_EQ(TextOf("#details p"), "3 pins, 0 mm of track");
+  EXPECT_EQ(TextOf("#details .more"), "and 3 more pins");
+}
+
+TEST_F(Viewer, SaysHowManyPinsItDoesNotList) {
+  const TemporaryFolder folder;
+  const std::string neutral = folder.File("a.neutral", "B_UNITS MM\n###Component\nCOMP U_1 P S G 0 0 1 0\n");
+  std::string geometry = "$$create_component(G)\n$$page(@mm)\n";
+  for (int i = 0; i < 103; ++i)
+    geometry += "$$attribute(COMPONENT_PIN_DEFINITION, " + std::to_string(i) + ", [2, 0])\n";
+  Open("--neutral " + neutral + " --geometry " + folder.File("a.geometry", geometry));
+  Type("/U_1\\uE007");
+  EXPECT_EQ(TextOf("#details .more"), "and 3 more pins");
+}
+
 TEST_F(Viewer, SaysWhatIsUnderThePointer) {
   OpenSampleBoard();
   Point(16.0, 29.0, false);

@@ -219,7 +219,8 @@ std::vector<std::string> DrawBoard(const Subject& subject, const DrawWords& word
   picture.background = BackgroundOf(picture.theme);
   picture.isMirrored = picture.view == View::kBottom;
   picture.hasTags = words.hasTags;
-  picture.box = box.value_or(WholeBox(scene, picture.view));
+  picture.wholeBox = WholeBox(scene, picture.view);
+  picture.box = box.value_or(picture.wholeBox);
   picture.width = words.width;
   CheckSize(picture);
   OutputFile file(words.output);

@@ -126,6 +126,8 @@ void HtmlWriter::WriteData() {
   json_.Bool(board_.reading.isConfirmed || board_.components.empty());
   json_.Key("background");
   WriteColours(json_, BackgroundOf(Theme::kDark), BackgroundOf(Theme::kPrint));
+  json_.Key("box");
+  WriteBox(picture_.wholeBox);
   WriteFirstLook();
   json_.Key("layers");
   json_.StartArray();
@@ -242,7 +244,7 @@ void HtmlWriter::WriteCoat(const Coat& dark, const Coat& print) {
 }
 
 /// The numbers of a net are among the bytes: the number of its layers, and of each its number and the length
-/// of its tracks.
+/// of its tracks; then the number of pins that no component has.
 void HtmlWriter::WriteNets() {
   json_.Key("nets");
   json_.StartObject();
@@ -260,6 +262,9 @@ void HtmlWriter::WriteNets() {
       AppendNumber(bytes_,
                    length.length <= kFarthest ? static_cast<std::uint64_t>(steps_.Of(length.length)) : 0);
     }
+    const auto pins = board_.PinsOf(net);
+    AppendNumber(bytes_, static_cast<std::uint64_t>(std::count_if(
+                             pins.begin(), pins.end(), [](const NetPin& pin) { return !pin.pin; })));
   }
 }
 

@@ -28,6 +28,7 @@ struct Picture {
   bool isMirrored = false;   ///< seen from below
   bool hasTags = false;      ///< say the nets of tracks, vias and areas
   Box box;                   ///< what the picture shows, in board coordinates
+  Box wholeBox;              ///< what it would show if nobody had chosen a box
   std::optional<int> width;  ///< in pixels; must not make the height too large for an int
 
   /// The width of lines that have none.

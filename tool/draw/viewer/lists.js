@@ -51,7 +51,7 @@ class Lists {
     });
     list.replaceChildren(...found.slice(0, most).map((index) => {
       const net = this.board.nets[index];
-      return jumpButton(Kind.net, index, net.name, `${net.pins.length} pins, ${millimetres(net.length)}`,
+      return jumpButton(Kind.net, index, net.name, `${this.board.pinCountOf(net)} pins, ${millimetres(net.length)}`,
         this.select);
     }));
     if (found.length > most) {
@@ -94,14 +94,17 @@ class Lists {
     const lines = [];
     const jumps = [];
     const most = 100;
+    let pinCount = 0; // with those that are not listed
     if (kind === Kind.net) {
       const net = board.nets[index];
+      pinCount = board.pinCountOf(net);
       place.append(element("h2", {}, `Net ${net.name}`));
-      lines.push(`${net.pins.length} pins, ${millimetres(net.length)} of track`);
+      lines.push(`${pinCount} pins, ${millimetres(net.length)} of track`);
       for (const { layer, length } of net.lengths) lines.push(`${layer}: ${millimetres(length)}`);
       for (const pin of net.pins.slice(0, most)) jumps.push([Kind.pin, pin, board.pinName(pin), ""]);
     } else if (kind === Kind.component) {
       const component = board.components[index];
+      pinCount = component.pinCount;
       place.append(element("h2", {}, `Component ${component.name}`));
       lines.push(`${component.part || "no part"}, on the ${component.isBottom ? "bottom" : "top"}`);
       lines.push(`x ${component.x / board.steps} mm, y ${component.y / board.steps} mm`);
@@ -117,6 +120,9 @@ class Lists {
       if (pin.net >= 0) jumps.push([Kind.net, pin.net, board.nets[pin.net].name, "net"]);
     }
     place.append(...lines.map((line) => element("p", {}, line)));
-    place.append(element("ul", {}, ...jumps.map((jump) => jumpButton(...jump, this.select))));
+    const list = element("ul", {}, ...jumps.map((jump) => jumpButton(...jump, this.select)));
+    const rest = pinCount - jumps.length;
+    if (rest > 0) list.append(element("li", { class: "more" }, `and ${rest} more pin${rest === 1 ? "" : "s"}`));
+    place.append(list);
   }
 }

@@ -70,15 +70,17 @@ class Painter {
         if (!coat.parts.includes(batch.part)) continue;
         for (const cell of batch.shapes.cells) {
           if (!boxesMeet(cell.box, this.box, batch.width)) continue;
-          this.paintCell(coat, batch, cell, accepts);
+          this.paintCell(coat, batch, cell, this.isHole(coat) ? undefined : accepts);
           yield cell.points;
         }
       }
-      if (coat.hasTexts && accepts === undefined) {
-        this.paintTexts(layer.texts, coat.colours[this.theme]);
-        yield layer.texts.length * 10;
-      }
+      if (coat.hasTexts && accepts === undefined) yield* this.paintTexts(layer.texts, coat.colours[this.theme]);
     }
+  }
+
+  // Holes have the colour of what is behind the board. They stay open whatever is chosen.
+  isHole(coat) {
+    return coat.colours[this.theme] === this.board.data.background[this.theme];
   }
 
   paintCell(coat, batch, cell, accepts) {
@@ -143,23 +145,33 @@ class Painter {
     if (form !== Form.line) context.closePath();
   }
 
-  paintTexts(texts, colour) {
+  *paintTexts(texts, colour) {
+    const textsOfPiece = 500;
+    const pointsOfText = 10; // it takes as long as so many points of a shape
+    const widestLetter = 2; // in heights of capitals
     const capitals = 0.72; // the height of capitals, as a part of the size of the font
     const fontSize = 100;
     const { context, camera } = this;
+    const { width, height: canvasHeight } = context.canvas;
     const steps = this.board.steps;
+    let drawn = 0;
     context.fillStyle = colour;
     context.font = `${fontSize}px sans-serif`;
     for (const [text, x, y, height, cosX, sinX, cosY, sinY, column, row] of texts) {
       const pixels = height * steps * camera.scale;
       if (pixels < 3) continue;
       const scale = pixels / capitals / fontSize;
+      const reach = pixels * widestLetter * (text.length + 1);
+      const left = camera.toX(x * steps);
+      const top = camera.toY(y * steps);
+      if (left < -reach || left > width + reach || top < -reach || top > canvasHeight + reach) continue;
       const down = (height * (2 - row)) / 2;
       context.textAlign = ["left", "center", "right"][column];
       context.setTransform(
         camera.sign * cosX * scale, -sinX * scale, -camera.sign * cosY * scale, sinY * scale,
         camera.toX((x - cosY * down) * steps), camera.toY((y - sinY * down) * steps));
       context.fillText(text, 0, 0);
+      if (++drawn % textsOfPiece === 0) yield textsOfPiece * pointsOfText;
     }
     context.setTransform(1, 0, 0, 1, 0, 0);
   }

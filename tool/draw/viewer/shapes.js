@@ -181,6 +181,7 @@ class Board {
         net.lengths.push({ layer: data.layerNames[number] ?? `layer ${number}`, length });
         net.length += length;
       }
+      net.unplacedPins = reader.number();
       return net;
     });
   }
@@ -209,6 +210,10 @@ class Board {
   pinName(index) {
     const pin = this.pins[index];
     return `${this.components[pin.component].name}-${pin.name}`;
+  }
+
+  pinCountOf(net) {
+    return net.pins.length + net.unplacedPins;
   }
 
   // Whether a shape belongs to something that is selected.

@@ -15,7 +15,7 @@ class Viewer {
     this.isFramePlanned = false;
     const { first } = board.data;
     this.view = first.view;
-    this.firstBox = this.boxInSteps(first.box);
+    this.wholeBox = this.boxInSteps(board.data.box);
     const prefersLight = window.matchMedia("(prefers-color-scheme: light)");
     this.setTheme(first.theme ?? (prefersLight.matches ? "light" : "dark"));
     if (!first.theme) prefersLight.addEventListener("change", (e) => this.setTheme(e.matches ? "light" : "dark"));
@@ -64,7 +64,7 @@ class Viewer {
     this.redraw();
   }
 
-  fit(box = this.firstBox) {
+  fit(box = this.wholeBox) {
     this.camera.fit(box, this.canvas.width, this.canvas.height, this.camera.sign);
     this.redraw();
   }
@@ -231,7 +231,7 @@ class Viewer {
     this.canvas.dataset.sized = "yes";
     this.canvas.width = Math.max(1, Math.round(width * window.devicePixelRatio));
     this.canvas.height = Math.max(1, Math.round(height * window.devicePixelRatio));
-    if (isFirst) this.fit();
+    if (isFirst) this.fit(this.boxInSteps(this.board.data.first.box));
     this.redraw();
   }
 
@@ -241,7 +241,9 @@ class Viewer {
 
   zoom(factor, x, y) {
     const most = 400; // pixels of a step
-    if (factor > 1 && this.camera.scale * factor > most) return;
+    const least = 20 / Math.max(this.wholeBox.x1 - this.wholeBox.x0, this.wholeBox.y1 - this.wholeBox.y0);
+    const scale = this.camera.scale * factor;
+    if (factor > 1 ? scale > most : scale < least) return;
     this.camera.zoom(factor, x, y);
     this.redrawMoved();
   }
