@@ -237,6 +237,25 @@ TEST(Draw, NeverLeavesHalfAPicture) {
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path()), {}), 3);
 }
 
+TEST(Draw, FollowsALinkToAFileThatDoesNotExistYet) {
+  const TemporaryFolder folder;
+  std::filesystem::create_symlink("new.svg", folder.Path("link.svg"));
+  EXPECT_EQ(RunTool("draw " + kBoard + " -o " + folder.Path("link.svg")).status, 0);
+  EXPECT_TRUE(std::filesystem::is_symlink(folder.Path("link.svg")));
+  EXPECT_TRUE(std::filesystem::is_regular_file(folder.Path("new.svg")));
+}
+
+TEST(Draw, SaysThatUnitsAreUnknown) {
+  const TemporaryFolder folder;
+  const std::string track = "# NET A\nWIR 1 0 0 0 0\nSEG 1 1 1 0.1\nSEG 5 5 1 0.1\n";
+  const std::string options = " -o " + folder.Path("a.svg");
+  const auto unknown =
+      RunTool("draw --traces " + folder.File("a.traces", "UNITS FURLONG\n" + track) + options);
+  EXPECT_EQ(unknown.status, 0);
+  EXPECT_NE(unknown.err.find("no file names a known unit"), std::string::npos) << unknown.err;
+  EXPECT_EQ(RunTool("draw --traces " + folder.File("b.traces", "UNITS MIL\n" + track) + options).err, "");
+}
+
 TEST(Draw, WorksOnAnyOfTheFiles) {
   const TemporaryFolder folder;
   const std::string svg = folder.Path("a.svg");

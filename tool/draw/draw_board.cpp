@@ -8,6 +8,9 @@
 #include <set>
 #include <string_view>
 
+#include "kestrin/geometry/geometry_model.h"
+#include "kestrin/neutral/component_model.h"
+#include "kestrin/traces/traces_model.h"
 #include "tool/board.h"
 #include "tool/diff/compare.h"
 #include "tool/draw/build_scene.h"
@@ -158,8 +161,20 @@ void CheckSize(const Picture& picture) {
     throw UsageError("the picture would be more than 30000 pixels high; choose a smaller --width");
 }
 
-std::vector<std::string> WarningsOf(const Scene& scene) {
+/// Whether a file whose lengths are drawn names a unit.
+bool IsUnitKnown(const BoardModels& models) {
+  const auto isKnown = [](const CString& unit) { return MillimetresIn(unit.View()).has_value(); };
+  if (models.components == nullptr && models.traces == nullptr) return true;  // each geometry has its own
+  return (models.components != nullptr && isKnown(models.components->m_sUnits)) ||
+         (models.geometry != nullptr && isKnown(models.geometry->m_pBoard->m_sUnits)) ||
+         (models.traces != nullptr && isKnown(models.traces->m_sUnits));
+}
+
+std::vector<std::string> WarningsOf(const Subject& subject, const Scene& scene) {
   std::vector<std::string> warnings;
+  if (!IsUnitKnown(ModelsIn(subject.imported))) {
+    warnings.emplace_back("no file names a known unit; the picture takes lengths for millimetres");
+  }
   if (!scene.board->reading.isConfirmed && !scene.board->components.empty()) {
     warnings.emplace_back(
         "placement of components is not confirmed by the copper; the picture may show them wrongly");
@@ -226,7 +241,7 @@ std::vector<std::string> DrawBoard(const Subject& subject, const DrawWords& word
   OutputFile file(words.output);
   format.write(picture, file);
   file.Complete();
-  return WarningsOf(scene);
+  return WarningsOf(subject, scene);
 }
 
 }  // namespace kestrin::tool::draw

@@ -14,12 +14,15 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Where a path leads if it is a link: the link is to stay.
+/// Where a path leads if it is a link, perhaps to a file that does not exist yet: the link is to stay.
 std::string Followed(const std::string& path) {
+  constexpr int kMostLinks = 40;
   std::error_code error;
-  if (!fs::is_symlink(PathOfText(path), error)) return path;
-  const fs::path target = fs::canonical(PathOfText(path), error);
-  return error ? path : TextOfPath(target);
+  fs::path target = PathOfText(path);
+  for (int i = 0; i < kMostLinks && fs::is_symlink(target, error); ++i) {
+    target = target.parent_path() / fs::read_symlink(target, error);
+  }
+  return TextOfPath(target);
 }
 
 }  // namespace
