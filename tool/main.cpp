@@ -133,7 +133,8 @@ void AddDrawOptions(CLI::App& command, draw::DrawWords& words) {
       ->option_text("NAME");
   command.add_option("--box", words.box, "What to show, in millimetres (default: everything)")
       ->option_text("X0,Y0,X1,Y1");
-  command.add_option("--width", words.width, "The width in pixels (default of a .png: 2000)")
+  command
+      .add_option("--width", words.width, "The width in pixels (default of a .png: 2000 for the longer side)")
       ->option_text("NUMBER");
   command
       .add_option("--against", words.against,

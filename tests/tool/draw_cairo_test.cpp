@@ -90,6 +90,19 @@ TEST(DrawCairo, OtherNetsDim) {
   EXPECT_NE(png.At(3.5, 21.6), "e5534b");
 }
 
+TEST(DrawCairo, TheLongerSideHas2000Pixels) {
+  const Png high("--box 0,0,1,40", kBoard + ' ');
+  EXPECT_EQ(high.Width(), 50);
+  EXPECT_EQ(high.Height(), 2000);
+  const Png flat("--box 0,0,40,1", kBoard + ' ');
+  EXPECT_EQ(flat.Width(), 2000);
+  EXPECT_EQ(flat.Height(), 50);
+  const TemporaryFolder folder;
+  const auto line = RunTool("draw " + kBoard + " --box 0,0,0.001,1000000 -o " + folder.Path("a.png"));
+  EXPECT_EQ(line.status, 2);
+  EXPECT_NE(line.err.find("too high for its width"), std::string::npos) << line.err;
+}
+
 TEST(DrawCairo, LettersMayBeLargerThanThePicture) {
   const Png png("--box 30.3,20.3,30.35,20.35 --width 500", kBoard + ' ');
   EXPECT_EQ(png.Pixel(250, 250), "8fa3bd") << "in the U of U_1";

@@ -300,9 +300,13 @@ void CairoPainter::PaintTextAsShapes(const SceneText& text, const std::string& u
 }  // namespace
 
 void WritePng(const Picture& picture, OutputFile& file) {
-  constexpr int kUsualWidth = 2000;
+  constexpr double kUsualSide = 2000.0;  // the longer one
+  constexpr int kMostPixels = 30000;     // of a side
   Picture sized = picture;
-  sized.width = picture.width.value_or(kUsualWidth);
+  const double shape = std::min(1.0, picture.box.Width() / picture.box.Height());
+  if (!sized.width) sized.width = std::max(1, static_cast<int>(std::lround(kUsualSide * shape)));
+  if (sized.HeightInPixels() > kMostPixels)
+    throw UsageError("the picture would be too high for its width; choose a wider --box");
   const Surface surface(cairo_image_surface_create(CAIRO_FORMAT_RGB24, *sized.width, sized.HeightInPixels()));
   Sink sink{file, nullptr};
   if (cairo_surface_status(surface.get()) == CAIRO_STATUS_NO_MEMORY)
