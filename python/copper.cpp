@@ -11,7 +11,7 @@ std::string TypeOf(NumberBlock<Number> Legs::* /*column*/) {
   return ArrayType<Number>();
 }
 
-py::array Column(const Vias& vias, const auto& member) {
+py::array ColumnOf(const Vias& vias, const auto& member) {
   static const Via kNone;
   const Via& first = vias.vias.empty() ? kNone : vias.vias.front();
   return ViewOf(vias.owner, vias.vias, member(first));
@@ -40,21 +40,21 @@ void BindVias(py::module_& module) {
   vias.def_property_readonly(
       "x",
       [](const Vias& self) {
-        return Column(
+        return ColumnOf(
             self, [](const Via& via) -> auto& { return via.position.x; });
       },
       "NDArray[float64]: The positions in mm.");
   vias.def_property_readonly(
       "y",
       [](const Vias& self) {
-        return Column(
+        return ColumnOf(
             self, [](const Via& via) -> auto& { return via.position.y; });
       },
       "NDArray[float64]: The positions in mm.");
   vias.def_property_readonly(
       "kind",
       [](const Vias& self) {
-        return Column(
+        return ColumnOf(
             self, [](const Via& via) -> auto& { return via.padstack; });
       },
       "NDArray[uint32]: Their padstacks, as indexes into Board.via_kinds.");
