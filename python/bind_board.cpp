@@ -20,6 +20,13 @@ py::dict ReportOf(const BoardHandle& board) {
   return report;
 }
 
+py::object SyntaxErrorsOf(const Handle<tool::ReadFile>& file) {
+  static const std::vector<SyntaxError> kNone;
+  const auto& strict = SetOf(*file.owner).imported.strictTraces;
+  const bool isRead = strict && file.record->file == ImportFile::kTraces;
+  return MakePython(file.owner, isRead ? strict->parse.errors : kNone);
+}
+
 py::list KindsOfVias(const BoardHandle& board) {
   py::list names;
   for (const ViaPadstack& kind : board.record->viaPadstacks)
@@ -81,10 +88,16 @@ void BindBoard(py::module_& module) {
   BindNames<Pin>(module);
   BindNames<NetPin>(module);
   BindNames<Net>(module);
-  BindAll<FindingPlace, Finding, SkippedLine, tool::SkippedGroup>(module);
-  BindRecord<tool::ReadFile>(module).def_property_readonly(
-      "codes", [](const Handle<tool::ReadFile>& self) { return MakePython(self.owner, self.record->codes); },
-      "list[SkippedLines]: The skipped lines by reason.");
+  BindAll<FindingPlace, Finding, SkippedLine, tool::SkippedGroup, SyntaxError>(module);
+  BindRecord<tool::ReadFile>(module)
+      .def_property_readonly(
+          "codes",
+          [](const Handle<tool::ReadFile>& self) { return MakePython(self.owner, self.record->codes); },
+          "list[SkippedLines]: The skipped lines by reason.")
+      .def_property_readonly(
+          "syntax_errors", &SyntaxErrorsOf,
+          "list[SyntaxFault]: Of the Traces file after read(strict=True): where it breaks its "
+          "grammar.");
   BindCopper(module);
   BindWholeBoard(module);
 }

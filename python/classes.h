@@ -35,6 +35,8 @@ inline constexpr ClassWords kClass<SkippedLine>{"SkippedLine", "A line that was 
 template <>
 inline constexpr ClassWords kClass<tool::SkippedGroup>{"SkippedLines", "The lines skipped for a reason."};
 template <>
+inline constexpr ClassWords kClass<SyntaxError>{"SyntaxFault", "Where a Traces file breaks its grammar."};
+template <>
 inline constexpr ClassWords kClass<tool::ReadFile>{"FileReport", "What became of the lines of a file."};
 template <>
 inline constexpr ClassWords kClass<tool::Detail>{"Detail", "A value that changed."};

@@ -138,6 +138,15 @@ def test_findings_and_reports_are_those_of_the_tool(edited: Callable[..., Path])
         assert lines == [(group["code"], [line["line"] for line in group["lines"]]) for group in file["codes"]]
 
 
+def test_syntax_errors_are_those_of_the_tool(edited: Callable[..., Path]) -> None:
+    folder = edited("traces", ("WIR 2 ", "WIR x\nWIR 2 "))
+    wanted = tool("check", folder, "--strict", "--format", "json")["strict"]["errors"]
+    report = kestrin.read(folder, strict=True, partial=True).report
+    assert [{"line": error.line, "reason": error.reason} for error in report["traces"].syntax_errors] == wanted
+    assert wanted and report["tech"].syntax_errors == []
+    assert kestrin.read(folder).report["traces"].syntax_errors == []
+
+
 def test_a_signal_ends_a_long_reading(large: Path) -> None:
     class Enough(Exception):
         pass

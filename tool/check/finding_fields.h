@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "kestrin/board/findings.h"
+#include "kestrin/traces/strict/syntax_error.h"
 #include "tool/export_set.h"
 #include "tool/fields.h"
 #include "tool/write_fields.h"
@@ -69,6 +70,13 @@ inline constexpr auto kFields<SkippedLine> = std::tuple{
     Field{"line", "The number of the line.", &SkippedLine::number},
     Field{"reason", "Why it was skipped, in a sentence.", &SkippedLine::reason},
     Field{"text", "The beginning of the line.", &SkippedLine::text},
+};
+
+template <>
+inline constexpr auto kFields<SyntaxError> = std::tuple{
+    Field{"line", "The number of the line.", [](const SyntaxError& error) { return error.line + 1; }},
+    Field{"reason", "What was found and what was expected.",
+          [](const SyntaxError& error) { return error.Describe(); }},
 };
 
 template <>

@@ -40,9 +40,8 @@ void WriteStrict(JsonWriter& json, const Checked& checked, const StrictTraces& s
       .Member("error", strict.parse.result == ParseResult::kExhausted ? std::string_view(strict.parse.error)
                                                                       : std::string_view())
       .Member("line", LastLine(checked));
-  WriteList(json, "errors", strict.parse.errors, [&](const SyntaxError& error) {
-    DocumentObject(json).Member("line", LineOf(error)).Member("reason", CString(error.Describe()));
-  });
+  WriteList(json, "errors", strict.parse.errors,
+            [&](const SyntaxError& error) { WriteValue(json, checked.imported.files, error); });
 }
 
 }  // namespace
