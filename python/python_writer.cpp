@@ -36,6 +36,8 @@ void PythonWriter::Add(const py::object& value) {
 }
 
 void PythonWriter::Close() {
+  constexpr std::size_t kBetweenLooks = 4096;
+  if (++closed_ % kBetweenLooks == 0 && PyErr_CheckSignals() != 0) throw py::error_already_set();
   const py::object complete = std::move(open_.back().container);
   open_.pop_back();
   Add(complete);

@@ -15,7 +15,22 @@ namespace kestrin::python {
 
 namespace py = pybind11;
 
-/// Makes dictionaries, lists, numbers and texts of a document.
+/// While it lives, Python looks for no garbage. Of many new containers it would look again and again, for
+/// most of the time.
+class GarbagePause {
+ public:
+  GarbagePause() : wasOn_(PyGC_Disable() == 1) {}
+  GarbagePause(const GarbagePause&) = delete;
+  GarbagePause& operator=(const GarbagePause&) = delete;
+  ~GarbagePause() {
+    if (wasOn_) PyGC_Enable();
+  }
+
+ private:
+  bool wasOn_;
+};
+
+/// Makes dictionaries, lists, numbers and texts of a document. Ctrl-C ends that.
 class PythonWriter final : public tool::DocumentWriter {
  public:
   explicit PythonWriter(tool::Encoding encoding) : encoding_(encoding) {}
@@ -47,10 +62,12 @@ class PythonWriter final : public tool::DocumentWriter {
   void Add(const py::object& value);
   void Close();
 
+  GarbagePause pause_;
   tool::Encoding encoding_;
   py::object document_;
   std::vector<Open> open_;                // from the outermost
   std::map<const char*, py::str> names_;  // of all keys, which are constants
+  std::size_t closed_ = 0;                // how many objects and arrays are complete
 };
 
 }  // namespace kestrin::python
