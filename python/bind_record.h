@@ -19,6 +19,12 @@ template <class Value>
 [[nodiscard]] std::string ShortText(const SharedOwner& owner, const std::string& name, const Value& value) {
   if constexpr (!std::is_convertible_v<Value, std::string_view> && requires { value.size(); }) {
     return std::to_string(value.size()) + ' ' + name;
+  } else if constexpr (requires {
+                         value->data();
+                         value->size();
+                       } &&
+                       !std::is_same_v<Value, const std::string*>) {
+    return std::to_string(value == nullptr ? 0 : value->size()) + ' ' + name;
   } else {
     const py::object object = MakePython(owner, value);
     if constexpr (std::is_pointer_v<Value> && tool::Listed<std::remove_cv_t<std::remove_pointer_t<Value>>>) {
@@ -47,6 +53,7 @@ template <class Record>
 template <Bound Record>
 py::class_<Handle<Record>> BindRecord(py::module_& module) {
   py::class_<Handle<Record>> type(module, kClass<Record>.name, kClass<Record>.meaning);
+  ForbidMaking(type);
   tool::ForEachFieldOf<Record>([&](const auto& field) {
     using Value = ValueType<decltype(field), Record>;
     type.def_property_readonly(
@@ -71,13 +78,15 @@ void BindNames(py::module_& module) {
   const std::string record = kClass<Record>.name;
   const std::string name = record + 's';
   const std::string meaning = name + " in their order, found by name or position.";
-  py::class_<List>(module, name.c_str(), meaning.c_str())
-      .def("__len__", &List::Size, "__len__(self) -> int")
+  py::class_<List> type(module, name.c_str(), meaning.c_str());
+  ForbidMaking(type);
+  type.def("__len__", &List::Size, "__len__(self) -> int")
       .def("__getitem__", &List::WithName, ("__getitem__(self, key: str | int) -> " + record).c_str())
       .def("__getitem__", &List::At)
-      .def(
-          "__contains__", [](const List& self, const py::str& key) { return self.Find(key).has_value(); },
-          "__contains__(self, key: str) -> bool")
+      .def("__contains__", &List::Has,
+           ("__contains__(self, key: object) -> bool\n\nWhether there is such a name, or such a " + record +
+            '.')
+               .c_str())
       .def(
           "__iter__",
           [](const py::object& self) { return py::reinterpret_steal<py::object>(PySeqIter_New(self.ptr())); },

@@ -22,6 +22,7 @@ void BindTracks(py::module_& module) {
       module, "Tracks",
       "The legs of tracks, as arrays of equal length.\n\nA leg is straight and has one "
       "layer, width and net. The arrays are read-only views of memory that the board owns.");
+  ForbidMaking(tracks);
   tool::ForEachFieldOf<Legs>([&](const auto& field) {
     tracks.def_property_readonly(
         field.name, [getter = field.getter](const Tracks& self) { return self.Column(getter); },
@@ -37,6 +38,7 @@ void BindVias(py::module_& module) {
       module, "Vias",
       "Vias, as arrays of equal length.\n\nThe arrays are read-only views of memory that the "
       "board owns.");
+  ForbidMaking(vias);
   vias.def_property_readonly(
       "x",
       [](const Vias& self) {

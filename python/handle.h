@@ -23,6 +23,11 @@ struct Handle {
   friend bool operator==(const Handle& a, const Handle& b) { return a.record == b.record; }
 };
 
+/// Lets only the module make objects of a class. Others would be without a record.
+inline void ForbidMaking(const py::handle& type) {
+  reinterpret_cast<PyTypeObject*>(type.ptr())->tp_new = nullptr;
+}
+
 /// What Python calls a kind of record, and what it is.
 struct ClassWords {
   const char* name;

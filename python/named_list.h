@@ -3,11 +3,12 @@
 /// @file
 /// Lists of records that have names.
 
-#include <map>
+#include <algorithm>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "python/handle.h"
 #include "python/texts.h"
@@ -25,19 +26,30 @@ class NamedList {
   [[nodiscard]] std::size_t Size() const { return records_.size(); }
 
   [[nodiscard]] std::optional<Handle<Record>> Find(const py::str& name) const {
-    const auto found = Positions().find(std::string(name));
-    if (found == Positions().end()) return std::nullopt;
-    return Handle<Record>{owner_, &records_[found->second]};
+    const auto position = PositionOf(Utf8Of(name));
+    if (!position) return std::nullopt;
+    return Handle<Record>{owner_, &records_[*position]};
+  }
+
+  /// Whether there is a record of a name, or this record.
+  [[nodiscard]] bool Has(const py::object& key) const {
+    if (py::isinstance<py::str>(key)) return Find(key).has_value();
+    if (!py::isinstance<Handle<Record>>(key)) return false;
+    const auto* const record = key.cast<Handle<Record>>().record;
+    return std::any_of(records_.begin(), records_.end(), [&](const Record& each) { return &each == record; });
   }
 
   /// The record with a name. Raises Python's KeyError, which says what names are like it.
   [[nodiscard]] Handle<Record> WithName(const py::str& name) const {
     if (const auto found = Find(name)) return *found;
-    std::vector<std::string_view> names;
-    for (const auto& [known, position] : Positions()) names.emplace_back(known);
+    tool::SetEncoding(owner_->encoding);
+    std::vector<std::string> names;
+    for (const Record& record : records_) names.push_back(tool::ToUtf8(record.name));
     const std::string what = SnakeCase(kClass<Record>.name).substr(1);
-    tool::SetEncoding(tool::Encoding::kUtf8);
-    throw py::key_error(tool::draw::NoSuchName(what, std::string(name), names));
+    const std::string message =
+        tool::draw::NoSuchName(what, BytesOf(tool::Encoding::kUtf8, name), {names.begin(), names.end()});
+    PyErr_SetObject(PyExc_KeyError, TextOf(tool::Encoding::kUtf8, message).ptr());
+    throw py::error_already_set();
   }
 
   /// The record at a position; negative ones count from the end. Raises Python's IndexError.
@@ -55,20 +67,32 @@ class NamedList {
   }
 
  private:
-  using PositionsByName = std::map<std::string, std::size_t>;  // names in UTF-8
-
-  [[nodiscard]] const PositionsByName& Positions() const {
-    if (positions_.empty()) {
-      tool::SetEncoding(owner_->encoding);
-      for (std::size_t i = 0; i < records_.size(); ++i)
-        positions_.try_emplace(tool::ToUtf8(records_[i].name), i);
+  [[nodiscard]] std::optional<std::size_t> PositionOf(const std::string& name) const {
+    constexpr std::size_t kFew = 32;
+    tool::SetEncoding(owner_->encoding);
+    if (records_.size() > kFew) {
+      const PositionsByName& positions = Positions();
+      const auto found = positions.find(name);
+      return found == positions.end() ? std::nullopt : std::optional(found->second);
     }
-    return positions_;
+    for (std::size_t i = 0; i < records_.size(); ++i) {
+      if (tool::ToUtf8(records_[i].name) == name) return i;
+    }
+    return std::nullopt;
+  }
+
+  /// The positions, which outlive this list: `board.nets["GND"]` makes a new list each time.
+  [[nodiscard]] const PositionsByName& Positions() const {
+    PositionsByName& positions = owner_->positions[records_.data()];
+    if (positions.empty()) {
+      for (std::size_t i = 0; i < records_.size(); ++i)
+        positions.try_emplace(tool::ToUtf8(records_[i].name), i);
+    }
+    return positions;
   }
 
   SharedOwner owner_;
   std::span<const Record> records_;
-  mutable PositionsByName positions_;  // made when the first name is looked up
 };
 
 }  // namespace kestrin::python

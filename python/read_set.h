@@ -7,6 +7,7 @@
 #include <mutex>
 #include <optional>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "kestrin/board/findings.h"
@@ -17,10 +18,19 @@
 
 namespace kestrin::python {
 
+/// Where the records of a list are, by their names in UTF-8.
+using PositionsByName = std::unordered_map<std::string, std::size_t>;
+
 /// What Python's objects refer to and keep alive.
 struct Owner {
   tool::Encoding encoding = tool::Encoding::kLatin1;  ///< of all texts
+  /// Of long lists, by where they are in memory. Made when a name is looked up, with Python's lock.
+  mutable std::unordered_map<const void*, PositionsByName> positions;
 };
+
+class ReadSet;
+using SharedOwner = std::shared_ptr<const Owner>;
+using SharedSet = std::shared_ptr<const ReadSet>;
 
 /// An export set: its files, models, report and board. Nothing changes after it was read; what takes time and
 /// is not always asked for is made when it is asked for first.

@@ -34,6 +34,8 @@ std::string BytesOf(tool::Encoding encoding, const py::str& text) {
   return py::bytes(text.attr("encode")(name, "replace"));
 }
 
+std::string Utf8Of(const py::str& text) { return py::bytes(text.attr("encode")("utf-8", "surrogatepass")); }
+
 std::string SnakeCase(std::string_view name) {
   std::string snake;
   for (const char c : name) {

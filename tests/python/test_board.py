@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+import re
 from pathlib import Path
 
 import kestrin
@@ -35,17 +36,42 @@ def test_lists_find_by_name_and_position(board: kestrin.Board) -> None:
     assert nets.get("GNDD") is None
     with pytest.raises(KeyError, match='no net "GNDD"; did you mean "GND"'):
         nets["GNDD"]
-    with pytest.raises(IndexError):
-        nets[len(nets)]
+    for half, known in (("\udce9", "?"), ("GN\0D", r"GN\x00D")):
+        assert half not in nets and nets.get(half) is None
+        with pytest.raises(KeyError, match=re.escape(f'no net "{known}"')):
+            nets[half]
+    assert nets[3] in nets and kestrin.read(SAMPLE).nets[3] not in nets and 3 not in nets
+    for position in (len(nets), -len(nets) - 1):
+        with pytest.raises(IndexError):
+            nets[position]
     with pytest.raises(TypeError):
         nets[1.5]  # type: ignore[index]
+
+
+def test_of_records_of_one_name_the_first_is_found(generated: Path) -> None:
+    names = [name for i in range(20) for name in (f"N{i}", "TWICE", f"M{i}")]
+    for count in (6, 60):
+        text = "".join(f"NET {name}\n" for name in names[:count])
+        nets = kestrin.read(neutral=f"{text}".encode()).nets
+        assert [nets[name] for name in nets.names()] == list(nets)
+    board = kestrin.read(generated)
+    assert [board.nets[net.name] for net in board.nets] == list(board.nets)
+
+
+def test_only_the_module_makes_objects(board: kestrin.Board) -> None:
+    kinds = [kind for kind in vars(kestrin).values() if isinstance(kind, type) and kind is not kestrin.Error]
+    assert kestrin.Board in kinds and kestrin.Nets in kinds and kestrin.Tracks in kinds
+    for kind in kinds:
+        for make in (kind, lambda: kind.__new__(kind), lambda: object.__new__(kind)):
+            with pytest.raises(TypeError):
+                make()
 
 
 def test_a_repr_says_what_it_is(board: kestrin.Board) -> None:
     assert repr(board.components["U_1"].pins["3"]) == (
         "<kestrin.Pin: name='3', x=28.0, y=19.5, padstack='SMD_15X05', net='LED_DRV'>"
     )
-    assert "15 nets" in repr(board)
+    assert "15 nets" in repr(board) and "\n" not in repr(board)
     assert repr(board.nets) == "<kestrin.Nets: 15>"
     assert repr(board.tracks) == "<kestrin.Tracks: 64 legs>"
 
