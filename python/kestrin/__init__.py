@@ -12,3 +12,5 @@ from kestrin._kestrin import __version__ as __version__
 from kestrin._many import tables as tables
 from kestrin._reading import dump as dump
 from kestrin._reading import read as read
+
+__all__ = [name for name in globals() if not name.startswith("_")]

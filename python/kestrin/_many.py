@@ -3,7 +3,6 @@
 from __future__ import annotations
 
 import os
-from functools import cache
 from typing import Any, Iterable, Optional
 
 from kestrin._reading import Path, read
@@ -20,7 +19,11 @@ def tables(paths: Iterable[Path]) -> dict[str, Any]:
     import dask.dataframe
     from dask import delayed
 
+    if isinstance(paths, (str, bytes, os.PathLike)):
+        raise TypeError(f"paths is one path, {paths!r}; give a list of them")
     parts = [delayed(_part)(os.fspath(path)) for path in paths]
+    if not parts:
+        parts = [delayed(_empty)()]
     return {
         name: dask.dataframe.from_delayed([part[name] for part in parts], meta=empty, verify_meta=False)
         for name, empty in _empty().items()
@@ -29,8 +32,8 @@ def tables(paths: Iterable[Path]) -> dict[str, Any]:
 
 def _part(path: str) -> dict[str, Any]:
     """The tables of a set. If it cannot be read, they are empty, but for the failures."""
-    found = dict(_empty())
     try:
+        found = {"failures": _failures([])}
         for name, table in read(path).tables().items():
             table.insert(0, "set", path)
             found[name] = table
@@ -40,7 +43,6 @@ def _part(path: str) -> dict[str, Any]:
     return found
 
 
-@cache
 def _empty() -> dict[str, Any]:
     """All tables, without rows."""
     found = {name: table.iloc[:0].copy() for name, table in read(tech=b"").tables().items()}

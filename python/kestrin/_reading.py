@@ -10,7 +10,7 @@ from kestrin import _kestrin
 from kestrin._kestrin import Board
 
 Path = Union[str, "os.PathLike[str]"]
-File = Union[Path, bytes, None]
+File = Union[Path, bytes, bytearray, memoryview, None]
 Sense = Literal["ccw", "cw"]
 Encoding = Literal["auto", "utf-8", "latin-1"]
 
@@ -19,9 +19,24 @@ def _sources(
     paths: tuple[Path, ...], files: dict[str, File], encoding: Encoding, strict: bool, partial: bool
 ) -> _kestrin._Sources:
     _check("encoding", encoding, ("auto", "utf-8", "latin-1"))
-    named = {name: os.fsencode(file) for name, file in files.items() if isinstance(file, (str, os.PathLike))}
-    contents = {name: file for name, file in files.items() if isinstance(file, bytes)}
-    return _kestrin._Sources([os.fsencode(path) for path in paths], named, contents, encoding, strict, partial)
+    named, contents = {}, {}
+    for name, file in files.items():
+        if isinstance(file, (bytes, bytearray, memoryview)):
+            contents[name] = bytes(file)
+        elif file is not None:
+            named[name] = _path_bytes(file)
+    if not (paths or named or contents):
+        raise _kestrin.Error(
+            "no file to read; name a folder or files, or give contents with an argument such as traces="
+        )
+    return _kestrin._Sources([_path_bytes(path) for path in paths], named, contents, encoding, strict, partial)
+
+
+def _path_bytes(path: Path) -> bytes:
+    name = os.fsencode(path)
+    if not name or b"\0" in name:
+        raise ValueError(f"{path!r} is no path")
+    return b"./-" if name == b"-" else name  # alone, it would be standard input
 
 
 def _check(name: str, value: object, choices: tuple[object, ...]) -> None:
@@ -52,7 +67,7 @@ def read(
     components on the top and on the bottom turn, bottom_turn the degrees added to the angle of those on the bottom,
     and width_step the unit of widths that are written with digits only, in units of the Traces file.
 
-    strict reads the Traces file by its grammar, too. Raises Error if a file cannot be read to its end; with partial,
+    strict reads the Traces file by its grammar, too (FileReport.syntax_errors). Raises Error if a file cannot be read to its end; with partial,
     what was read before is a board all the same, and Board.report says where a reader stopped.
 
     Other threads run meanwhile, and Ctrl-C ends it.

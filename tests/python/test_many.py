@@ -80,6 +80,15 @@ def test_an_archive_becomes_tables_and_a_lost_worker_loses_nothing(archive: list
     check(archive, dict(zip(tables, client.gather(futures))))
 
 
+def test_an_archive_may_be_empty_but_is_no_single_path(archive: list[Path]) -> None:
+    tables, one = kestrin.tables([]), kestrin.tables(archive[:1])
+    for name, table in tables.items():
+        assert list(table.compute(scheduler="threads").columns) == list(one[name].columns) and len(table) == 0
+    for path in (archive[0], str(archive[0])):
+        with pytest.raises(TypeError, match="one path"):
+            kestrin.tables(path)  # type: ignore[arg-type]
+
+
 def test_without_a_cluster_it_runs_in_threads(archive: list[Path]) -> None:
     import dask
 
