@@ -59,7 +59,9 @@ void BindWholeBoard(py::module_& module) {
       .def_property_readonly("via_kinds", &KindsOfVias, "list[str]: The names of the padstacks of vias.")
       .def_property_readonly(
           "findings",
-          [](const BoardHandle& self) { return MakePython(self.owner, FindingsOf(SetOf(*self.owner)).list); },
+          [](const BoardHandle& self) {
+            return MakePython(self.owner, FindingsOf(SharedSetOf(self.owner)).list);
+          },
           "list[Finding]: What is wrong with the files, the first hundred of each code; reads them again.")
       .def_property_readonly("report", &ReportOf,
                              "dict[str, FileReport]: What became of the lines of each file: \"tech\", "

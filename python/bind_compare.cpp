@@ -1,6 +1,7 @@
 #include "python/bind_compare.h"
 
 #include "python/bind_record.h"
+#include "python/interruptible.h"
 #include "tool/board.h"
 #include "tool/diff/compare.h"
 #include "tool/diff/diff.h"
@@ -14,16 +15,17 @@ struct Compared : Owner {
 };
 
 Handle<tool::Difference> CompareBoards(const Handle<Board>& before, const Handle<Board>& after) {
-  auto compared = std::make_shared<Compared>();
-  const tool::Imported& first = SetOf(*before.owner).imported;
-  const tool::Imported& second = SetOf(*after.owner).imported;
-  tool::RequireSameFiles(first.files, second.files);
+  const auto compared = std::make_shared<Compared>();
+  const SharedSet first = SharedSetOf(before.owner);
+  const SharedSet second = SharedSetOf(after.owner);
+  tool::RequireSameFiles(first->imported.files, second->imported.files);
   const bool areUtf8 =
       before.owner->encoding == tool::Encoding::kUtf8 && after.owner->encoding == tool::Encoding::kUtf8;
   compared->encoding = areUtf8 ? tool::Encoding::kUtf8 : tool::Encoding::kLatin1;
-  const py::gil_scoped_release unlocked;
-  tool::Sides sides = tool::ReadSides(tool::ModelsIn(first), tool::ModelsIn(second));
-  compared->difference = tool::Compare(sides);
+  RunInterruptibly([=] {
+    tool::Sides sides = tool::ReadSides(tool::ModelsIn(first->imported), tool::ModelsIn(second->imported));
+    compared->difference = tool::Compare(sides);
+  });
   return {compared, &compared->difference};
 }
 

@@ -11,6 +11,7 @@
 #include <variant>
 #include <vector>
 
+#include "python/interruptible.h"
 #include "python/texts.h"
 #include "tool/draw/draw_board.h"
 
@@ -20,21 +21,20 @@ namespace {
 using BoardHandle = Handle<Board>;
 using Names = std::variant<py::str, std::vector<py::str>>;
 
-constexpr char kDoc[] =
-    "draw(self, path: str | os.PathLike[str], *, view: Literal['layers', 'top', 'bottom'] = 'layers', "
-    "layers: str | Sequence[str] = (), net: str | Sequence[str] = (), "
-    "box: tuple[float, float, float, float] | None = None, width: int | None = None, "
-    "theme: Literal['dark', 'print'] | None = None, tags: bool = False, against: Board | None = None) -> "
-    "None\n\n"
-    "Draws the board into a file, whose name ends in .svg, .png, .pdf or .html.\n\n"
-    "view is 'layers', 'top' or 'bottom'. Only the layers named are drawn, and what is not on the nets named "
-    "is "
-    "dimmed. box is what to show in mm: x0, y0, x1, y1. width is that of the picture in pixels. theme is "
-    "'dark' or "
-    "'print'. tags says the nets of tracks, vias, areas and pads in an .svg. against is a board with which "
-    "to "
-    "compare: what it lacks is red, what it adds is green. What one should know about the picture is a "
-    "warning.";
+constexpr char kDoc[] = R"(draw(self, path: str | os.PathLike[str], *,
+         view: Literal['layers', 'top', 'bottom'] = 'layers',
+         layers: str | Sequence[str] = (), net: str | Sequence[str] = (),
+         box: tuple[float, float, float, float] | None = None, width: int | None = None,
+         theme: Literal['dark', 'print'] | None = None, tags: bool = False,
+         against: Board | None = None) -> None
+
+Draws the board into a file, whose name ends in .svg, .png, .pdf or .html.
+
+view is 'layers', 'top' or 'bottom'. Only the layers named are drawn, and what is not on the nets named
+is dimmed. box is what to show in mm: x0, y0, x1, y1. width is that of the picture in pixels. theme is
+'dark' or 'print'. tags says the nets of tracks, vias, areas and pads in an .svg. against is a board with
+which to compare: what it lacks is red, what it adds is green. What one should know about the picture is
+a warning. After Ctrl-C, the file may still be written.)";
 
 std::vector<std::string> BytesOfNames(tool::Encoding encoding, const Names& names) {
   if (const auto* name = std::get_if<py::str>(&names)) return {BytesOf(encoding, *name)};
@@ -63,12 +63,17 @@ std::string BoxWord(const std::optional<std::array<double, 4>>& box) {
 
 std::vector<std::string> Draw(const BoardHandle& board, const tool::draw::DrawWords& words,
                               const BoardHandle* against) {
-  const py::gil_scoped_release unlocked;
-  tool::SetEncoding(board.owner->encoding);
-  return tool::draw::DrawBoard({.imported = SetOf(*board.owner).imported,
-                                .board = *board.record,
-                                .against = against == nullptr ? nullptr : &SetOf(*against->owner).imported},
-                               words);
+  const auto warnings = std::make_shared<std::vector<std::string>>();
+  const SharedSet set = SharedSetOf(board.owner);
+  const SharedSet other = against == nullptr ? nullptr : SharedSetOf(against->owner);
+  RunInterruptibly([=] {
+    tool::SetEncoding(set->encoding);
+    *warnings = tool::draw::DrawBoard({.imported = set->imported,
+                                       .board = set->board,
+                                       .against = other == nullptr ? nullptr : &other->imported},
+                                      words);
+  });
+  return *warnings;
 }
 
 }  // namespace

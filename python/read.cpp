@@ -8,6 +8,7 @@
 
 #include "kestrin/base/file_handle.h"
 #include "python/errors.h"
+#include "python/interruptible.h"
 #include "python/signal_dialog.h"
 #include "tool/usage_error.h"
 
@@ -76,12 +77,15 @@ std::shared_ptr<ReadSet> Read(const Sources& sources, const BoardOptions& option
   auto set = std::make_shared<ReadSet>(sources.Set());
   set->imported.session.KeepSourceLines(true);
   ImportUnlocked(set->imported, sources, tool::StrictReading::kAlso);
-  Unlocked([&] {
-    set->encoding = tool::GetEncoding();
-    set->board = tool::BoardOf(set->imported, options);
-    for (const ImportFile file : set->imported.FilesRead())
-      set->files.push_back(tool::ReadFileOf(set->imported.ReportOf(file), file));
-  });
+  set->encoding = tool::GetEncoding();
+  set->stamps = FileStamps(set->imported.files);
+  for (const ImportFile file : set->imported.FilesRead())
+    set->files.push_back(tool::ReadFileOf(set->imported.ReportOf(file), file));
+  RunInterruptibly([=] { set->board = tool::BoardOf(set->imported, options); });
+  if (set->imported.files.HasCopies()) {  // open files, of which a process may have few
+    static_cast<void>(FindingsOf(set));
+    set->imported.files.CloseCopies();
+  }
   return set;
 }
 

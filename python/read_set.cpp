@@ -2,6 +2,7 @@
 
 #include <pybind11/pybind11.h>
 
+#include "python/interruptible.h"
 #include "tool/check/check.h"
 
 namespace kestrin::python {
@@ -9,11 +10,14 @@ namespace kestrin::python {
 // A thread that waits for another one to make something must not have Python's lock, since the other one may
 // need it.
 
-const Findings& FindingsOf(const ReadSet& set) {
-  const pybind11::gil_scoped_release unlocked;
-  std::call_once(set.findingsMade_,
-                 [&] { set.findings_ = FindFaults(tool::SetOf(set.imported), set.board); });
-  return *set.findings_;
+const Findings& FindingsOf(const SharedSet& set) {
+  RunInterruptibly([set] {
+    std::call_once(set->findingsMade_, [&] {
+      set->stamps.RequireSame();
+      set->findings_ = FindFaults(tool::SetOf(set->imported), set->board);
+    });
+  });
+  return *set->findings_;
 }
 
 const Legs& LegsOf(const ReadSet& set) {

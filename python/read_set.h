@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "kestrin/board/findings.h"
+#include "python/file_stamps.h"
 #include "python/legs.h"
 #include "tool/check/finding_fields.h"
 #include "tool/import.h"
@@ -41,9 +42,10 @@ class ReadSet : public Owner {
   tool::Imported imported;
   Board board;
   std::vector<tool::ReadFile> files;  ///< the reports of the files that were read
+  FileStamps stamps;
 
  private:
-  friend const Findings& FindingsOf(const ReadSet& set);
+  friend const Findings& FindingsOf(const SharedSet& set);
   friend const Legs& LegsOf(const ReadSet& set);
 
   mutable std::once_flag findingsMade_;
@@ -52,16 +54,19 @@ class ReadSet : public Owner {
   mutable std::optional<Legs> legs_;
 };
 
-using SharedOwner = std::shared_ptr<const Owner>;
-using SharedSet = std::shared_ptr<const ReadSet>;
-
 ///@{
-/// What a set makes when it is asked first. Call them with Python's lock.
-[[nodiscard]] const Findings& FindingsOf(const ReadSet& set);
+/// What a set makes when it is asked first. Call them with Python's lock. FindingsOf raises UsageError if a
+/// file changed since it was read, and what Ctrl-C raises.
+[[nodiscard]] const Findings& FindingsOf(const SharedSet& set);
 [[nodiscard]] const Legs& LegsOf(const ReadSet& set);
 ///@}
 
+///@{
 /// The set that owns records of a board or of its files.
 [[nodiscard]] inline const ReadSet& SetOf(const Owner& owner) { return static_cast<const ReadSet&>(owner); }
+[[nodiscard]] inline SharedSet SharedSetOf(const SharedOwner& owner) {
+  return std::static_pointer_cast<const ReadSet>(owner);
+}
+///@}
 
 }  // namespace kestrin::python

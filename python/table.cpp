@@ -92,8 +92,9 @@ py::dict Areas(const Handle<Board>& board) {
 
 /// Findings, with the first line that each is about.
 py::dict FindingsTable(const Handle<Board>& board) {
-  const ReadSet& set = SetOf(*board.owner);
-  const Findings& findings = FindingsOf(set);
+  const SharedSet shared = SharedSetOf(board.owner);
+  const ReadSet& set = *shared;
+  const Findings& findings = FindingsOf(shared);
   py::dict columns = FieldsOf(set, "", AllOf(findings.list));
   py::list files;
   std::vector<std::int64_t> lines;

@@ -115,6 +115,10 @@ void ExportSet::AddStream(ImportFile file, std::FILE* source) {
   copies_[At(file)] = std::make_shared<const TemporaryCopy>(source, PathOf(file));
 }
 
+bool ExportSet::HasCopies() const {
+  return std::any_of(copies_.begin(), copies_.end(), [](const auto& copy) { return copy != nullptr; });
+}
+
 void ExportSet::Open() {
   bool any = false;
   bool usesStandardInput = false;

@@ -71,6 +71,12 @@ class ExportSet {
   /// Adds a file whose bytes are the rest of a stream. Errors name it "<traces>".
   void AddStream(ImportFile file, std::FILE* source);
 
+  ///@{
+  /// Whether some files are temporary copies, and removing them once they need not be read any more.
+  [[nodiscard]] bool HasCopies() const;
+  void CloseCopies() { copies_ = {}; }
+  ///@}
+
   /// Makes the files readable: copies standard input and pipes to temporary files, since an import reads its
   /// files more than once. Raises UsageError unless there is at least one file and each can be opened. Strict
   /// reading also requires a Traces file. Does nothing the second time.

@@ -3,12 +3,15 @@
 from __future__ import annotations
 
 import gc
+import os
 import pickle
 import signal
+import subprocess
+import sys
 import threading
 import time
 from pathlib import Path
-from typing import Callable
+from typing import Any, Callable, Optional
 
 import kestrin
 import pytest
@@ -79,6 +82,57 @@ def test_errors_say_what_is_wrong_and_where(tmp_path: Path, paths, files, messag
 
 
 @pytest.mark.parametrize(
+    ("argument", "kind"),
+    [(3, TypeError), (["board.tech"], TypeError), ("", ValueError), (b"", None), ("a\0b", ValueError)],
+)
+def test_what_is_no_path_is_refused(argument: Any, kind: Optional[type[Exception]]) -> None:
+    for read in (kestrin.read, kestrin.dump):
+        if kind:
+            with pytest.raises(kind):
+                read(SAMPLE, tech=argument)
+        if not isinstance(argument, bytes):
+            with pytest.raises(kind or ()):
+                read(argument)
+
+
+def test_contents_are_bytes_of_any_kind_and_a_file_may_have_any_name(
+    tmp_path: Path, monkeypatch: pytest.MonkeyPatch
+) -> None:
+    tech = (SAMPLE / "board.tech").read_bytes()
+    names = kestrin.read(tech=tech).layers.names()
+    for contents in (bytearray(tech), memoryview(tech)):
+        assert kestrin.read(tech=contents).layers.names() == names
+    monkeypatch.chdir(tmp_path)
+    Path("-").write_bytes(tech)
+    assert kestrin.read(tech="-").layers.names() == names
+
+
+def test_sets_from_contents_leave_no_files_open() -> None:
+    contents = {ending: (SAMPLE / f"board.{ending}").read_bytes() + b"FOO" for ending in ENDINGS}
+    before = os.listdir("/proc/self/fd")
+    board = kestrin.read(**contents)
+    assert os.listdir("/proc/self/fd") == before
+    assert {finding.code for finding in board.findings} == {"no-final-newline"}
+    assert board.tables()["findings"]["file"].tolist() == ["<tech>", "<neutral>", "<geometry>", "<traces>"]
+
+
+def test_findings_need_the_files_that_were_read(edited: Callable[..., Path]) -> None:
+    for change in (lambda file: file.unlink(), lambda file: file.write_bytes(b"UNITS MM\n")):
+        folder = edited("neutral")
+        board = kestrin.read(folder)
+        text = (folder / "board.traces").read_bytes()
+        change(folder / "board.traces")
+        with pytest.raises(kestrin.Error, match="gone or has changed") as raised:
+            board.findings
+        assert raised.value.file == str(folder / "board.traces")
+        (folder / "board.traces").write_bytes(text)
+    board = kestrin.read(folder)
+    assert board.findings == []
+    (folder / "board.traces").unlink()
+    assert board.findings == []
+
+
+@pytest.mark.parametrize(
     "arguments",
     [
         {"rotation": "left"},
@@ -145,6 +199,34 @@ def test_syntax_errors_are_those_of_the_tool(edited: Callable[..., Path]) -> Non
     assert [{"line": error.line, "reason": error.reason} for error in report["traces"].syntax_errors] == wanted
     assert wanted and report["tech"].syntax_errors == []
     assert kestrin.read(folder).report["traces"].syntax_errors == []
+
+
+# Draws until a signal comes, then goes on working, and ends.
+DRAWING = """
+import gc, kestrin, os, signal, sys
+
+def handle(*_):
+    raise InterruptedError
+
+board = kestrin.read(sys.argv[1])
+signal.signal(signal.SIGALRM, handle)
+for work in (lambda: board.draw(sys.argv[2]), lambda: board.to_dict()):
+    signal.setitimer(signal.ITIMER_REAL, 0.001)
+    try:
+        work()
+        print("not interrupted")
+    except InterruptedError:
+        print(os.path.exists(sys.argv[2]), gc.isenabled())
+board.findings
+"""
+
+
+def test_a_signal_ends_the_waiting_for_a_picture_and_python_ends_after_it(large: Path, tmp_path: Path) -> None:
+    picture = tmp_path / "a.png"
+    script = [sys.executable, "-X", "dev", "-W", "error", "-c", DRAWING, str(large), str(picture)]
+    result = subprocess.run(script, capture_output=True, text=True, check=True)
+    assert result.stdout.splitlines() == ["False True"] * 2
+    assert picture.stat().st_size > 0 and not result.stderr
 
 
 def test_a_signal_ends_a_long_reading(large: Path) -> None:

@@ -3,6 +3,8 @@
 from __future__ import annotations
 
 import os
+import pydoc
+import re
 import subprocess
 import sys
 from pathlib import Path
@@ -59,6 +61,17 @@ def test_stubs_and_module_agree(tmp_path: Path) -> None:
     allowed.write_text(ALLOWED)
     options = ["--mypy-config-file", str(HERE / "mypy.ini"), "--allowlist", str(allowed), "--ignore-unused-allowlist"]
     run(tmp_path, "mypy.stubtest", *options, "kestrin._kestrin")
+
+
+def test_help_tells_of_everything() -> None:
+    text = pydoc.render_doc(kestrin, renderer=pydoc.plaintext)
+    assert {"read", "dump", "tables", "compare", "Board", "Nets", "Tracks", "Error"} <= set(kestrin.__all__)
+    for name in kestrin.__all__:
+        member = getattr(kestrin, name)
+        kind = "class " if isinstance(member, type) else ""
+        assert re.search(rf"^    {kind}{name}\(", text, re.MULTILINE), name
+        assert not kind or member.__module__ == "kestrin"
+    assert max(map(len, kestrin.Board.draw.__doc__.splitlines())) < 110
 
 
 def test_everything_says_what_it_is() -> None:
