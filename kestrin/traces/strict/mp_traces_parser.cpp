@@ -7,7 +7,7 @@
 #include <optional>
 #include <utility>
 
-#include "kestrin/framework/open_file.h"
+#include "kestrin/base/file_handle.h"
 #include "kestrin/traces/strict/traces_parser.h"
 
 namespace kestrin {
@@ -67,7 +67,7 @@ MPTracesParser::MPTracesParser(char* file) { SetFile(file); }
 
 void MPTracesParser::SetFile(char* file) {
   Close();
-  FileHandle opened = file == nullptr ? nullptr : OpenToRead(file);
+  FileHandle opened(file == nullptr ? nullptr : std::fopen(file, "rb"));
   if (opened != nullptr) State().file.emplace(std::move(opened));
 }
 
