@@ -312,6 +312,28 @@ TEST(Draw, AnSvgKeepsTheCharactersAndSpacesOfTexts) {
   EXPECT_EQ(Select(svg, "string(//*[name()=\"text\"]/../@xml:space)"), "preserve");
 }
 
+TEST(Draw, APictureWithoutABoardIsAsLargeAsItsTexts) {
+  const TemporaryFolder folder;
+  const std::string svg = folder.Path("a.svg");
+  const std::string geometry = folder.File(
+      "a.geometry", "$$create_board(B)\n$$page(@mm)\n$$text(X, \"ABCDEFGHIJ\", 0, 0, 4, @BR, 90)\n");
+  ASSERT_EQ(RunTool("draw --geometry " + geometry + " -o " + svg).status, 0);
+  EXPECT_EQ(Select(svg, "string(/*/@viewBox)"), "-4.6 -.6 5.2 31.2");
+}
+
+TEST(Draw, ManyLayersOfCopperHaveTheColoursOfTheirDepths) {
+  const TemporaryFolder folder;
+  std::string traces = "UNITS MM\n# NET A\n";
+  for (int layer = 1; layer <= 300; ++layer) {
+    const std::string number = std::to_string(layer);
+    traces += "WIR 1 0 0 0 0\nSEG 0 0 " + number + " 1\nSEG 1 0 " + number + " 1\n";
+  }
+  const std::string svg = folder.Path("a.svg");
+  ASSERT_EQ(RunTool("draw --traces " + folder.File("a.traces", traces) + " -o " + svg).status, 0);
+  EXPECT_EQ(Select(svg, "string(//*[@id=\"layer-SIGNAL_1\"]/@stroke)"), "#e5534b");
+  EXPECT_EQ(Select(svg, "string(//*[@id=\"layer-SIGNAL_300\"]/@stroke)"), "#4c8dff");
+}
+
 TEST(Draw, PensAndTextsAreAsFineOnALargeBoardAndInASmallBox) {
   const TemporaryFolder folder;
   const std::string files =

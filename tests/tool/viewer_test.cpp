@@ -196,6 +196,27 @@ TEST_F(Viewer, SaysWhatIsUnderThePointer) {
   EXPECT_EQ(TextOf("#details h2").substr(0, 10), "Component ");
 }
 
+TEST_F(Viewer, HighlightsTheNameOfAComponent) {
+  OpenSampleBoard();
+  const auto hasBrightLetters = [&] {
+    return Run(PlaceOf(30.0, 20.0) +
+               "const { data } = c.getContext('2d').getImageData(px - 50, py - 20, 100, 40);"
+               "for (let i = 0; i < data.length; i += 4) {"
+               "  if (data[i] === 143 && data[i + 1] === 163 && data[i + 2] === 189) return true;"
+               "} return false");
+  };
+  EXPECT_EQ(hasBrightLetters(), "true");
+  Type("/C_1\\uE007");
+  Click("#fit");
+  EXPECT_EQ(hasBrightLetters(), "false") << "U_1 is dimmed";
+  static_cast<void>(
+      Run("document.getElementById('search').value = ''; document.getElementById('search').focus()"));
+  Type("U_1\\uE007");
+  Click("#fit");
+  EXPECT_EQ(TextOf("#details h2"), "Component U_1");
+  EXPECT_EQ(hasBrightLetters(), "true");
+}
+
 TEST_F(Viewer, MovesAndZoomsByKeys) {
   OpenSampleBoard();
   static_cast<void>(Run("document.getElementById('board').focus()"));

@@ -197,7 +197,6 @@ void SceneBuilder::AddOutlines(const CMGeomComponent& geometry, const Placement&
 
 /// Writes the reference over the pins of a component, as large as they leave room for.
 void SceneBuilder::AddReference(const Component& component, const Owner& owner, const Box& pins) {
-  constexpr double kLetterWidth = 0.75;  // of a letter's height, on average
   constexpr double kLeast = 0.4;
   constexpr double kMost = 1.5;
   const bool isUpright = pins.Height() > pins.Width();

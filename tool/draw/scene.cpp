@@ -24,4 +24,18 @@ Box BoxAround(std::span<const Point> points) {
   return box;
 }
 
+Box BoxAround(const SceneText& text) {
+  const double width = kLetterWidth * text.height * static_cast<double>(text.text.size());
+  const double left = -width * text.column / 2.0;
+  const double bottom = -text.height * (2 - text.row) / 2.0;
+  Box box;
+  for (const double along : {left, left + width}) {
+    for (const double up : {bottom, bottom + text.height}) {
+      box.Add({text.position.x + along * text.cosX + up * text.cosY,
+               text.position.y + along * text.sinX + up * text.sinY});
+    }
+  }
+  return box;
+}
+
 }  // namespace kestrin::tool::draw

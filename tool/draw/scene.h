@@ -102,6 +102,9 @@ struct Shape {
   bool isHole = false;  ///< in the last shape before it that is none
 };
 
+/// The width of a letter, in heights of capitals, on average.
+inline constexpr double kLetterWidth = 0.75;
+
 /// A line of text.
 struct SceneText {
   std::string text;  ///< bytes of the file
@@ -119,6 +122,9 @@ struct SceneText {
   int row = 2;  ///< likewise: 0 the top of capitals, 1 their middle, 2 the baseline
   bool isDimmed = false;
 };
+
+/// About where a text is: its letters may be a little wider or narrower.
+[[nodiscard]] Box BoxAround(const SceneText& text);
 
 struct SceneLayer {
   std::string id;     ///< unique, of letters, digits, "_", "-" and "."

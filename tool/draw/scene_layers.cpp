@@ -162,12 +162,13 @@ void SceneLayers::AddWithHoles(SceneLayer& layer, Brush brush, const Owner& owne
 }
 
 void SceneLayers::Add(SceneLayer& layer, SceneText text, const Owner& owner) {
-  const double length = text.height * static_cast<double>(text.text.size());
-  Box box = BoxAround(std::span(&text.position, 1));
-  box.Grow(length);
+  const Box box = BoxAround(text);
+  Box perhaps = box;  // where a font with wide letters might reach
+  perhaps.Grow(text.height + box.Width() + box.Height());
   if (text.text.empty() || !(text.height > 0.0) || !CanBeDrawn(box)) return;
-  if (window_ && !window_->Meets(box)) return;
-  bounds_.Add(text.position);
+  if (window_ && !window_->Meets(perhaps)) return;
+  bounds_.Add({box.x0, box.y0});
+  bounds_.Add({box.x1, box.y1});
   text.isDimmed = IsDimmed(owner);
   layer.texts.push_back(std::move(text));
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <span>
 #include <string_view>
 
 namespace kestrin::tool::draw {
@@ -58,19 +59,15 @@ Ink InkOfDrawing(std::string_view name) {
   return kOtherDrawing;
 }
 
-/// The layers of copper from the bottom to the top.
-std::vector<const SceneLayer*> CopperOf(const Scene& scene) {
-  std::vector<const SceneLayer*> copper;
-  for (const SceneLayer& layer : scene.layers) {
-    if (layer.role == Role::kCopper) copper.push_back(&layer);
-  }
-  return copper;
+/// The layers of copper from the bottom to the top. They are side by side, since layers are in drawing order.
+std::span<const SceneLayer> CopperOf(const Scene& scene) {
+  const auto copper = std::ranges::equal_range(scene.layers, Role::kCopper, {}, &SceneLayer::role);
+  return {copper.begin(), copper.end()};
 }
 
 Ink InkOfCopper(const Scene& scene, const SceneLayer& layer) {
-  const std::vector<const SceneLayer*> copper = CopperOf(scene);
-  const auto depth = static_cast<std::size_t>(
-      copper.rend() - std::find(copper.rbegin(), copper.rend(), &layer));  // 1 is the bottom
+  const std::span<const SceneLayer> copper = CopperOf(scene);
+  const auto depth = static_cast<std::size_t>(&layer - copper.data()) + 1;  // 1 is the bottom
   const std::vector<Layer>& all = scene.board->layers;
   if (!layer.spans.empty()) {
     const Index index = layer.spans.front();
@@ -142,13 +139,13 @@ std::optional<Index> OuterLayer(const Board& board, Side side) {
 
 /// The copper of that layer; if there are no layers, the outermost copper. May be null.
 const SceneLayer* OuterCopper(const Scene& scene, Side side, std::optional<Index> layer) {
-  const std::vector<const SceneLayer*> copper = CopperOf(scene);
+  const std::span<const SceneLayer> copper = CopperOf(scene);
   if (!layer) {
     if (copper.empty()) return nullptr;
-    return side == Side::kTop ? copper.back() : copper.front();
+    return side == Side::kTop ? &copper.back() : &copper.front();
   }
-  for (const SceneLayer* candidate : copper) {
-    if (candidate->spans == std::vector{*layer}) return candidate;
+  for (const SceneLayer& candidate : copper) {
+    if (candidate.spans == std::vector{*layer}) return &candidate;
   }
   return nullptr;
 }

@@ -62,8 +62,9 @@ class Painter {
     this.thin = Math.max(1, Math.min(2, window.devicePixelRatio));
   }
 
-  // Draws the coats, piece by piece. Yields how many points each piece has. `accepts` chooses the shapes.
-  *paint(coats, accepts) {
+  // Draws the coats, piece by piece. Yields how many points each piece has. `accepts` chooses the shapes, `names` the
+  // texts.
+  *paint(coats, accepts, names) {
     for (const coat of coats) {
       const layer = this.board.layers[coat.layer];
       for (const batch of layer.batches) {
@@ -74,7 +75,9 @@ class Painter {
           yield cell.points;
         }
       }
-      if (coat.hasTexts && accepts === undefined) yield* this.paintTexts(layer.texts, coat.colours[this.theme]);
+      if (!coat.hasTexts) continue;
+      const texts = names === undefined ? layer.texts : layer.texts.filter(([text]) => names.has(text));
+      yield* this.paintTexts(texts, coat.colours[this.theme]);
     }
   }
 

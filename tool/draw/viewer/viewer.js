@@ -161,8 +161,10 @@ class Viewer {
     context.fillStyle = background;
     context.fillRect(0, 0, context.canvas.width, context.canvas.height);
     context.globalAlpha = 1;
+    const names = this.selected.filter(({ kind }) => kind === Kind.component)
+      .map(({ index }) => this.board.components[index].name);
     yield* painter.paint(coats, (shapes, shape) =>
-      this.selected.some((selected) => this.board.belongs(shapes, shape, selected)));
+      this.selected.some((selected) => this.board.belongs(shapes, shape, selected)), new Set(names));
   }
 
   showLast() {
