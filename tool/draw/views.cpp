@@ -61,8 +61,12 @@ Ink InkOfDrawing(std::string_view name) {
 
 /// The layers of copper from the bottom to the top. They are side by side, since layers are in drawing order.
 std::span<const SceneLayer> CopperOf(const Scene& scene) {
-  const auto copper = std::ranges::equal_range(scene.layers, Role::kCopper, {}, &SceneLayer::role);
-  return {copper.begin(), copper.end()};
+  const std::vector<SceneLayer>& layers = scene.layers;
+  const auto first = std::partition_point(layers.begin(), layers.end(),
+                                          [](const SceneLayer& layer) { return layer.role < Role::kCopper; });
+  const auto last = std::partition_point(first, layers.end(),
+                                         [](const SceneLayer& layer) { return layer.role == Role::kCopper; });
+  return {first, last};
 }
 
 Ink InkOfCopper(const Scene& scene, const SceneLayer& layer) {
