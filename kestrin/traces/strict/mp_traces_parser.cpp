@@ -67,6 +67,7 @@ MPTracesParser::MPTracesParser(char* file) { SetFile(file); }
 
 void MPTracesParser::SetFile(char* file) {
   Close();
+  // Not OpenToRead, which refuses folders: without a file, standard input would be read.
   FileHandle opened(file == nullptr ? nullptr : std::fopen(file, "rb"));
   if (opened != nullptr) State().file.emplace(std::move(opened));
 }

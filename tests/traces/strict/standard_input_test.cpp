@@ -54,5 +54,20 @@ TEST(StandardInput, IsReadNoFurtherThanItIsAvailable) {
   testing::internal::GetCapturedStderr();
 }
 
+TEST(StandardInput, IsNotReadInPlaceOfAFolder) {
+  const StandardInputPipe input;
+  input.Write("UNITS MM\n");
+  input.Finish();
+  std::string folder = testing::TempDir();
+  MPTracesParser parser;
+  parser.SetFile(folder.data());
+  testing::internal::CaptureStderr();
+  static_cast<void>(parser.Parse());
+  static_cast<void>(testing::internal::GetCapturedStderr());
+  parser.Close();
+  EXPECT_EQ(std::getc(stdin), 'U');
+  while (std::getc(stdin) != EOF) continue;
+}
+
 }  // namespace
 }  // namespace kestrin
