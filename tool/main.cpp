@@ -137,8 +137,9 @@ void AddDrawOptions(CLI::App& command, draw::DrawWords& words) {
       .add_option("--width", words.width, "The width in pixels (default of a .png: 2000 for the longer side)")
       ->option_text("NUMBER");
   command
-      .add_option("--against", words.against,
-                  "Another export: what it removes is red, what it adds is green, the rest dims")
+      .add_option(
+          "--against", words.against,
+          "Another export: what it removes is red, what it adds is green, the rest dims; not with --net")
       ->option_text("PATH");
   command.add_option("--theme", words.theme, "The colours (default: dark)")
       ->check(CLI::IsMember({"dark", "print"}))

@@ -252,8 +252,12 @@ TEST(Draw, SaysThatUnitsAreUnknown) {
   const auto unknown =
       RunTool("draw --traces " + folder.File("a.traces", "UNITS FURLONG\n" + track) + options);
   EXPECT_EQ(unknown.status, 0);
-  EXPECT_NE(unknown.err.find("no file names a known unit"), std::string::npos) << unknown.err;
-  EXPECT_EQ(RunTool("draw --traces " + folder.File("b.traces", "UNITS MIL\n" + track) + options).err, "");
+  EXPECT_NE(unknown.err.find("the unit of a file is unknown"), std::string::npos) << unknown.err;
+  const std::string known = "draw --traces " + folder.File("b.traces", "UNITS MIL\n" + track) + options;
+  EXPECT_EQ(RunTool(known).err, "");
+  const auto placements =
+      RunTool(known + " --neutral " + folder.File("a.neutral", "###Component\nCOMP U_1 P S G 0 0 1 0\n"));
+  EXPECT_NE(placements.err.find("the unit of a file is unknown"), std::string::npos) << placements.err;
 }
 
 TEST(Draw, WorksOnAnyOfTheFiles) {

@@ -63,8 +63,8 @@ struct Scale {
   double unreadable;  // capitals that are lower than this are left out
 };
 
-/// How far outside the picture, in units, anything may be. Cairo computes crossings with few digits, so lines
-/// that are much longer than a picture would be drawn elsewhere.
+/// How far outside the picture, in units, anything may be. Cairo computes in fixed point, with 24 bits before
+/// it, so lines that are much longer than a picture would be drawn elsewhere.
 constexpr double kFarthest = 30000.0;
 
 class CairoPainter {

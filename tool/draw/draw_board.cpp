@@ -161,19 +161,20 @@ void CheckSize(const Picture& picture) {
     throw UsageError("the picture would be more than 30000 pixels high; choose a smaller --width");
 }
 
-/// Whether a file whose lengths are drawn names a unit.
-bool IsUnitKnown(const BoardModels& models) {
-  const auto isKnown = [](const CString& unit) { return MillimetresIn(unit.View()).has_value(); };
-  if (models.components == nullptr && models.traces == nullptr) return true;  // each geometry has its own
-  return (models.components != nullptr && isKnown(models.components->m_sUnits)) ||
-         (models.geometry != nullptr && isKnown(models.geometry->m_pBoard->m_sUnits)) ||
-         (models.traces != nullptr && isKnown(models.traces->m_sUnits));
+/// Whether the unit of placements is known, and that of tracks, which may have one of their own. Geometries
+/// always may.
+bool AreUnitsKnown(const BoardModels& models) {
+  const auto isKnown = [](const auto* named) { return MillimetresIn(named->m_sUnits.View()).has_value(); };
+  const bool hasUnitOfTracks = models.traces == nullptr || isKnown(models.traces);
+  if (models.components == nullptr && hasUnitOfTracks) return true;
+  return (models.components != nullptr && isKnown(models.components)) ||
+         (models.geometry != nullptr && isKnown(models.geometry->m_pBoard));
 }
 
 std::vector<std::string> WarningsOf(const Subject& subject, const Scene& scene) {
   std::vector<std::string> warnings;
-  if (!IsUnitKnown(ModelsIn(subject.imported))) {
-    warnings.emplace_back("no file names a known unit; the picture takes lengths for millimetres");
+  if (!AreUnitsKnown(ModelsIn(subject.imported))) {
+    warnings.emplace_back("the unit of a file is unknown; the picture takes its lengths as millimetres");
   }
   if (!scene.board->reading.isConfirmed && !scene.board->components.empty()) {
     warnings.emplace_back(

@@ -163,10 +163,10 @@ void SceneLayers::AddWithHoles(SceneLayer& layer, Brush brush, const Owner& owne
 
 void SceneLayers::Add(SceneLayer& layer, SceneText text, const Owner& owner) {
   const Box box = BoxAround(text);
-  Box perhaps = box;  // where a font with wide letters might reach
-  perhaps.Grow(text.height + box.Width() + box.Height());
+  Box reach = box;  // of a font with wide letters
+  reach.Grow(text.height + box.Width() + box.Height());
   if (text.text.empty() || !(text.height > 0.0) || !CanBeDrawn(box)) return;
-  if (window_ && !window_->Meets(perhaps)) return;
+  if (window_ && !window_->Meets(reach)) return;
   bounds_.Add({box.x0, box.y0});
   bounds_.Add({box.x1, box.y1});
   text.isDimmed = IsDimmed(owner);

@@ -28,8 +28,8 @@ std::string_view EscapeOf(char c) {
 
 bool IsPlain(char c) { return c >= 0x20 && c <= 0x7E && EscapeOf(c).empty(); }
 
-/// Whether UTF-8 text begins with one of the two characters that Unicode keeps unused.
-bool BeginsWithNoCharacter(std::string_view utf8) {
+/// Whether UTF-8 text begins with U+FFFE or U+FFFF, which XML forbids.
+bool BeginsWithNoncharacter(std::string_view utf8) {
   return utf8.starts_with("\xEF\xBF\xBE") || utf8.starts_with("\xEF\xBF\xBF");
 }
 
@@ -43,7 +43,7 @@ void AppendEscaped(std::string& text, std::string_view bytes) {
   const std::string utf8 = ToUtf8(bytes);
   for (std::string_view rest = utf8; !rest.empty(); rest.remove_prefix(1)) {
     const char c = rest.front();
-    if (BeginsWithNoCharacter(rest)) {
+    if (BeginsWithNoncharacter(rest)) {
       text += kReplacement;
       rest.remove_prefix(2);
     } else if (static_cast<unsigned char>(c) < 0x20) {
@@ -160,8 +160,8 @@ void SvgWriter::WriteHead() {
 }
 
 void SvgWriter::WriteCoat(const Coat& coat) {
-  Attribute("<g id", "layer-" + coat.id);
-  text_.erase(text_.rfind(" <g"), 1);
+  text_ += "<g";
+  Attribute("id", "layer-" + coat.id);
   Attribute("inkscape:groupmode", "layer");
   Name("inkscape:label", {coat.label});
   Attribute("fill", "none");
