@@ -24,6 +24,7 @@ ImportDialog::ImportDialog(HWND dialog) {
   throw std::runtime_error("cannot create the dialog");
 }
 
+// After the other constructor the object is complete, so its destructor runs if a control is missing.
 ImportDialog::ImportDialog() : ImportDialog(CreateDialogOfTheResource()) {
   AttachControl(status_, IDC_STATUS);
   AttachControl(tech_, IDC_TECH);

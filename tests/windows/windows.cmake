@@ -1,4 +1,4 @@
-# Tests on Windows, or under Wine. They run one after the other, on a display that nobody sees.
+# Tests on Windows, or under Wine. Those that need Wine run one after the other, on a display that nobody sees.
 set(KESTRIN_NATIVE_TOOL ${PROJECT_SOURCE_DIR}/build/release/bin/kestrin CACHE FILEPATH
   "The tool as built for this machine; what the one for Windows prints is compared with what it prints")
 set(here ${CMAKE_CURRENT_LIST_DIR})
