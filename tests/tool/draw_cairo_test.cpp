@@ -1,6 +1,7 @@
 #include <cairo.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstdio>
@@ -31,8 +32,19 @@ class Png {
     const std::string path = folder.Path("a.png");
     const auto drawn = RunTool("draw " + files + options + " -o " + path);
     EXPECT_EQ(drawn.status, 0) << drawn.err;
-    surface_.reset(cairo_image_surface_create_from_png(path.c_str()));
-    EXPECT_EQ(cairo_surface_status(surface_.get()), CAIRO_STATUS_SUCCESS);
+    Read(path);
+  }
+  /// What another program makes of the SVG that the tool draws instead.
+  static Png FromSvg(const std::string& options, const std::string& files) {
+    const TemporaryFolder folder;
+    const std::string svg = folder.Path("a.svg");
+    const std::string path = folder.Path("a.png");
+    const auto drawn = RunTool("draw " + files + options + " -o " + svg);
+    EXPECT_EQ(drawn.status, 0) << drawn.err;
+    EXPECT_EQ(std::system(("rsvg-convert " + svg + " -o " + path).c_str()), 0);
+    Png png;
+    png.Read(path);
+    return png;
   }
 
   [[nodiscard]] int Width() const { return cairo_image_surface_get_width(surface_.get()); }
@@ -44,16 +56,25 @@ class Png {
     return Pixel(column, static_cast<std::ptrdiff_t>((40.0 - y) * 10.0));
   }
   [[nodiscard]] std::string Pixel(std::ptrdiff_t column, std::ptrdiff_t row) const {
+    std::array<char, 8> text{};
+    std::snprintf(text.data(), text.size(), "%06x", Colour(column, row));
+    return text.data();
+  }
+  [[nodiscard]] std::uint32_t Colour(std::ptrdiff_t column, std::ptrdiff_t row) const {
     const unsigned char* pixel = cairo_image_surface_get_data(surface_.get()) +
                                  row * cairo_image_surface_get_stride(surface_.get()) + column * 4;
     std::uint32_t colour = 0;
     std::memcpy(&colour, pixel, sizeof colour);
-    std::array<char, 8> text{};
-    std::snprintf(text.data(), text.size(), "%06x", colour & 0xFFFFFFU);
-    return text.data();
+    return colour & 0xFFFFFFU;
   }
 
  private:
+  Png() = default;
+  void Read(const std::string& path) {
+    surface_.reset(cairo_image_surface_create_from_png(path.c_str()));
+    EXPECT_EQ(cairo_surface_status(surface_.get()), CAIRO_STATUS_SUCCESS);
+  }
+
   struct Destroyer {
     void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
   };
@@ -82,6 +103,48 @@ TEST(DrawCairo, APngShowsTheFinishedBoard) {
   EXPECT_EQ(bottom.At(32.0, 21.3, true), "e2bd62") << "C_3-1";
   EXPECT_EQ(bottom.At(16.0, 29.0, true), "14532d") << "nothing of U_2";
   EXPECT_EQ(bottom.At(48.0, 36.0, true), "ffffff") << "a hole";
+}
+
+bool AreAlike(std::uint32_t one, std::uint32_t other) {
+  constexpr int kMost = 64;
+  return std::ranges::all_of(std::array{0, 8, 16}, [&](int channel) {
+    const auto value = [channel](std::uint32_t colour) {
+      return static_cast<int>(colour >> channel & 0xFFU);
+    };
+    return std::abs(value(one) - value(other)) <= kMost;
+  });
+}
+
+/// The number of crosses of five pixels by five that differ in two pictures. Edges of shapes and letters are
+/// thinner: they may be smoothed in another way.
+int DifferentCrosses(const Png& one, const Png& other) {
+  constexpr int kArm = 2;
+  const auto differs = [&](int column, int row) {
+    return !AreAlike(one.Colour(column, row), other.Colour(column, row));
+  };
+  int crosses = 0;
+  for (int row = kArm; row < one.Height() - kArm; ++row) {
+    for (int column = kArm; column < one.Width() - kArm; ++column) {
+      if (differs(column, row) && differs(column - kArm, row) && differs(column + kArm, row) &&
+          differs(column, row - kArm) && differs(column, row + kArm)) {
+        ++crosses;
+      }
+    }
+  }
+  return crosses;
+}
+
+TEST(DrawCairo, APngShowsWhatAnotherProgramMakesOfTheSvg) {
+  // So large that no line is thinner than a pixel, which only the PNG would make wider.
+  const std::string files = kBoard + " --box 0,0,60,40 --width 2000 ";
+  for (const std::string options : {"", "--view top", "--view bottom --theme print", "--net GND"}) {
+    const Png png(options, files);
+    const Png fromSvg = Png::FromSvg(options, files);
+    ASSERT_EQ(fromSvg.Width(), png.Width());
+    ASSERT_EQ(fromSvg.Height(), png.Height());
+    EXPECT_EQ(DifferentCrosses(png, fromSvg), 0) << options;
+  }
+  EXPECT_GT(DifferentCrosses(Png("", files), Png("--layers TOP", files)), 1000) << "they are compared";
 }
 
 TEST(DrawCairo, OtherNetsDim) {
