@@ -76,9 +76,12 @@ void ImportUnlocked(tool::Imported& imported, const Sources& sources, tool::Stri
 std::shared_ptr<ReadSet> Read(const Sources& sources, const BoardOptions& options) {
   auto set = std::make_shared<ReadSet>(sources.Set());
   set->imported.session.KeepSourceLines(true);
+  Unlocked([&] {
+    set->imported.files.Open();
+    set->stamps = FileStamps(set->imported.files);  // before reading, since a file may change meanwhile
+  });
   ImportUnlocked(set->imported, sources, tool::StrictReading::kAlso);
   set->encoding = tool::GetEncoding();
-  set->stamps = FileStamps(set->imported.files);
   for (const ImportFile file : set->imported.FilesRead())
     set->files.push_back(tool::ReadFileOf(set->imported.ReportOf(file), file));
   RunInterruptibly([=] { set->board = tool::BoardOf(set->imported, options); });

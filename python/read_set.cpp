@@ -2,6 +2,8 @@
 
 #include <pybind11/pybind11.h>
 
+#include <utility>
+
 #include "python/interruptible.h"
 #include "tool/check/check.h"
 
@@ -14,7 +16,9 @@ const Findings& FindingsOf(const SharedSet& set) {
   RunInterruptibly([set] {
     std::call_once(set->findingsMade_, [&] {
       set->stamps.RequireSame();
-      set->findings_ = FindFaults(tool::SetOf(set->imported), set->board);
+      Findings findings = FindFaults(tool::SetOf(set->imported), set->board);
+      set->stamps.RequireSame();  // a file may change while it is read
+      set->findings_ = std::move(findings);
     });
   });
   return *set->findings_;

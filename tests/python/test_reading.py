@@ -132,6 +132,21 @@ def test_findings_need_the_files_that_were_read(edited: Callable[..., Path]) -> 
     assert board.findings == []
 
 
+def test_a_file_that_changes_while_a_set_is_read_is_noticed(large: Path, tmp_path: Path) -> None:
+    tech = tmp_path / "a.tech"
+    tech.write_bytes((large / "board.tech").read_bytes())
+    times = iter(range(1_000_000))
+    before = signal.signal(signal.SIGVTALRM, lambda *_: os.utime(tech, (0, next(times))))
+    try:
+        signal.setitimer(signal.ITIMER_VIRTUAL, 0.01, 0.01)
+        board = kestrin.read(large, tech=tech)
+    finally:
+        signal.setitimer(signal.ITIMER_VIRTUAL, 0)
+        signal.signal(signal.SIGVTALRM, before)
+    with pytest.raises(kestrin.Error, match="gone or has changed"):
+        board.findings
+
+
 @pytest.mark.parametrize(
     "arguments",
     [
