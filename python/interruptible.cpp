@@ -13,9 +13,11 @@ namespace py = pybind11;
 
 using Running = std::future<void>;
 
-/// Waits for an action for a while. Returns whether it has ended.
+/// Waits for an action for a while; runs it if it has no thread. Returns whether it has ended.
 bool EndsWithin(std::chrono::milliseconds time, const Running& running) {
-  return running.wait_for(time) == std::future_status::ready;
+  if (running.wait_for(time) == std::future_status::timeout) return false;
+  running.wait();
+  return true;
 }
 
 /// The actions that were left alone. Use them with Python's lock.
@@ -45,10 +47,7 @@ void RunInterruptibly(const std::function<void()>& action) {
   Running running = Start(action);
   const auto ends = [&] {
     const py::gil_scoped_release unlocked;
-    const auto status = running.wait_for(kBetweenLooks);
-    if (status == std::future_status::timeout) return false;
-    running.wait();
-    return true;
+    return EndsWithin(kBetweenLooks, running);
   };
   while (!ends()) {
     if (PyErr_CheckSignals() == 0) continue;

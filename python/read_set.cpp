@@ -13,6 +13,7 @@ namespace kestrin::python {
 // need it.
 
 const Findings& FindingsOf(const SharedSet& set) {
+  if (set->hasFindings_) return *set->findings_;
   RunInterruptibly([set] {
     std::call_once(set->findingsMade_, [&] {
       set->stamps.RequireSame();
@@ -21,6 +22,7 @@ const Findings& FindingsOf(const SharedSet& set) {
       set->findings_ = std::move(findings);
     });
   });
+  set->hasFindings_ = true;
   return *set->findings_;
 }
 

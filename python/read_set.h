@@ -49,6 +49,7 @@ class ReadSet : public Owner {
   friend const Legs& LegsOf(const ReadSet& set);
 
   mutable std::once_flag findingsMade_;
+  mutable bool hasFindings_ = false;  ///< used with Python's lock: then no thread is needed to get them
   mutable std::optional<Findings> findings_;
   mutable std::once_flag legsMade_;
   mutable std::optional<Legs> legs_;
