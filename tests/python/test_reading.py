@@ -216,31 +216,37 @@ def test_syntax_errors_are_those_of_the_tool(edited: Callable[..., Path]) -> Non
     assert kestrin.read(folder).report["traces"].syntax_errors == []
 
 
-# Draws until a signal comes, then goes on working, and ends.
-DRAWING = """
+# Works until signals come, and ends. The signals come by processor time, so a slow machine delays them, too.
+WORKING = """
 import gc, kestrin, os, signal, sys
 
 def handle(*_):
     raise InterruptedError
 
-board = kestrin.read(sys.argv[1])
-signal.signal(signal.SIGALRM, handle)
-for work in (lambda: board.draw(sys.argv[2]), lambda: board.to_dict()):
-    signal.setitimer(signal.ITIMER_REAL, 0.001)
+def is_interrupted(work):
     try:
+        signal.setitimer(signal.ITIMER_VIRTUAL, 0.02)
         work()
-        print("not interrupted")
+        return False
     except InterruptedError:
-        print(os.path.exists(sys.argv[2]), gc.isenabled())
+        return True
+
+board = kestrin.read(sys.argv[1])
+signal.signal(signal.SIGVTALRM, handle)
+print(is_interrupted(lambda: board.draw(sys.argv[2])), os.path.exists(sys.argv[2]))
+print(is_interrupted(lambda: board.to_dict()), gc.isenabled())
+print(is_interrupted(lambda: board.findings))
+print(is_interrupted(lambda: kestrin.compare(board, board)))
+print(is_interrupted(lambda: kestrin.read(sys.argv[1])))
 board.findings
 """
 
 
-def test_a_signal_ends_the_waiting_for_a_picture_and_python_ends_after_it(large: Path, tmp_path: Path) -> None:
+def test_a_signal_ends_the_waiting_and_python_ends_after_what_nobody_waits_for(large: Path, tmp_path: Path) -> None:
     picture = tmp_path / "a.png"
-    script = [sys.executable, "-X", "dev", "-W", "error", "-c", DRAWING, str(large), str(picture)]
+    script = [sys.executable, "-X", "dev", "-W", "error", "-c", WORKING, str(large), str(picture)]
     result = subprocess.run(script, capture_output=True, text=True, check=True)
-    assert result.stdout.splitlines() == ["False True"] * 2
+    assert result.stdout.splitlines() == ["True False", "True True", "True", "True", "True"]
     assert picture.stat().st_size > 0 and not result.stderr
 
 
@@ -251,17 +257,12 @@ def test_a_signal_ends_a_long_reading(large: Path) -> None:
     def handle(*_: object) -> None:
         raise Enough
 
-    start = time.process_time()
-    kestrin.read(large)
-    whole = time.process_time() - start
     before = signal.signal(signal.SIGALRM, handle)
     try:
         for strict in (False, True):
-            start = time.process_time()
             with pytest.raises(Enough):
                 signal.setitimer(signal.ITIMER_REAL, 0.001)
                 kestrin.dump(large, strict=strict)
-            assert time.process_time() - start < whole / 2
     finally:
         signal.signal(signal.SIGALRM, before)
 
