@@ -48,14 +48,19 @@ def test_lists_find_by_name_and_position(board: kestrin.Board) -> None:
         nets[1.5]  # type: ignore[index]
 
 
-def test_of_records_of_one_name_the_first_is_found(generated: Path) -> None:
-    names = [name for i in range(20) for name in (f"N{i}", "TWICE", f"M{i}")]
-    for count in (6, 60):
-        text = "".join(f"NET {name}\n" for name in names[:count])
-        nets = kestrin.read(neutral=f"{text}".encode()).nets
-        assert [nets[name] for name in nets.names()] == list(nets)
-    board = kestrin.read(generated)
-    assert [board.nets[net.name] for net in board.nets] == list(board.nets)
+@pytest.mark.parametrize("count", [6, 60])
+def test_of_records_of_one_name_the_first_is_found(count: int) -> None:
+    names = [name for i in range(20) for name in (f"C{i}", "TWICE", f"D{i}")][:count]
+    text = "".join(f"COMP {name} IC-1 SYM_1 QFP {x} 0 1 0\n" for x, name in enumerate(names))
+    components = kestrin.read(neutral=f"###Component placement\n{text}".encode()).components
+    assert components.names() == names
+    for name in names:
+        assert components[name] == components[names.index(name)]
+
+
+def test_every_net_is_found_by_its_name(generated: Path) -> None:
+    nets = kestrin.read(generated).nets
+    assert [nets[name] for name in nets.names()] == list(nets)
 
 
 def test_only_the_module_makes_objects(board: kestrin.Board) -> None:
