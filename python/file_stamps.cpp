@@ -16,8 +16,7 @@ void FileStamps::RequireSame() const {
   for (const Stamp& stamp : stamps_) {
     if (StampOf(stamp.name, stamp.path) == stamp) continue;
     throw tool::UsageError(
-        '"' + stamp.name +
-            "\" is gone or has changed since it was read; findings need the file that was read",
+        '"' + stamp.name + "\" is gone or has changed since it was read; read the set again for its findings",
         stamp.name);
   }
 }
