@@ -3,7 +3,7 @@
 /// @file
 /// Lists of records that have names.
 
-#include <algorithm>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -36,7 +36,8 @@ class NamedList {
     if (py::isinstance<py::str>(key)) return Find(key).has_value();
     if (!py::isinstance<Handle<Record>>(key)) return false;
     const auto* const record = key.cast<Handle<Record>>().record;
-    return std::any_of(records_.begin(), records_.end(), [&](const Record& each) { return &each == record; });
+    const std::less<const Record*> isBefore;
+    return !isBefore(record, records_.data()) && isBefore(record, records_.data() + records_.size());
   }
 
   /// The record with a name. Raises Python's KeyError, which says what names are like it.

@@ -25,7 +25,8 @@ using PositionsByName = std::unordered_map<std::string, std::size_t>;
 /// What Python's objects refer to and keep alive.
 struct Owner {
   tool::Encoding encoding = tool::Encoding::kLatin1;  ///< of all texts
-  /// Of long lists, by where they are in memory. Made when a name is looked up, with Python's lock.
+  /// Of long lists, by where they begin in memory: no two lists begin at one record. Made when a name is
+  /// looked up, with Python's lock.
   mutable std::unordered_map<const void*, PositionsByName> positions;
 };
 
@@ -48,8 +49,8 @@ class ReadSet : public Owner {
   friend const Findings& FindingsOf(const SharedSet& set);
   friend const Legs& LegsOf(const ReadSet& set);
 
-  mutable std::once_flag findingsMade_;
   mutable bool hasFindings_ = false;  ///< used with Python's lock: then no thread is needed to get them
+  mutable std::once_flag findingsMade_;
   mutable std::optional<Findings> findings_;
   mutable std::once_flag legsMade_;
   mutable std::optional<Legs> legs_;
