@@ -62,7 +62,8 @@ void BindWholeBoard(py::module_& module) {
           [](const BoardHandle& self) {
             return MakePython(self.owner, FindingsOf(SharedSetOf(self.owner)).list);
           },
-          "list[Finding]: What is wrong with the files, the first hundred of each code; reads them again.")
+          "list[Finding]: What is wrong with the files, the first hundred of each code. They are looked for "
+          "when first asked for, which reads the files again; in contents and pipes, at once.")
       .def_property_readonly("report", &ReportOf,
                              "dict[str, FileReport]: What became of the lines of each file: \"tech\", "
                              "\"neutral\", \"geometry\", \"traces\".")
