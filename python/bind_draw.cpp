@@ -33,8 +33,8 @@ Draws the board into a file, whose name ends in .svg, .png, .pdf or .html.
 view is 'layers', 'top' or 'bottom'. Only the layers named are drawn, and what is not on the nets named
 is dimmed. box is what to show in mm: x0, y0, x1, y1. width is that of the picture in pixels. theme is
 'dark' or 'print'. tags says the nets of tracks, vias, areas and pads in an .svg. against is a board with
-which to compare: what it lacks is red, what it adds is green. What one should know about the picture is
-a warning. After Ctrl-C, the file may still be written.)";
+which to compare: what it lacks is red, what it adds is green; it does not go with net or another view
+than 'layers'. Remarks on the picture are warnings. After Ctrl-C, the file may still be written.)";
 
 std::vector<std::string> BytesOfNames(tool::Encoding encoding, const Names& names) {
   if (const auto* name = std::get_if<py::str>(&names)) return {BytesOf(encoding, *name)};

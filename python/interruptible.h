@@ -9,7 +9,7 @@
 
 namespace kestrin::python {
 
-/// Runs an action without Python's lock. If a signal handler raises meanwhile, raises that at once; the
+/// Runs an action without Python's lock. If a signal handler raises meanwhile, raises that within 50 ms; the
 /// action then ends in its own time, so what it uses must be its own or shared. Call it with the lock.
 void RunInterruptibly(const std::function<void()>& action);
 

@@ -15,8 +15,8 @@ namespace kestrin::python {
 
 namespace py = pybind11;
 
-/// While it lives, Python looks for no garbage. Of many new containers it would look again and again, for
-/// most of the time.
+/// Pauses Python's collector of cycles. It would run again and again while many containers are made, for most
+/// of the time.
 class GarbagePause {
  public:
   GarbagePause() : wasOn_(PyGC_Disable() == 1) {}

@@ -23,7 +23,7 @@ namespace py = pybind11;
 /// The bytes of a file that are a text of the caller.
 [[nodiscard]] std::string BytesOf(tool::Encoding encoding, const py::str& text);
 
-/// A text of the caller in UTF-8. Halves of characters stay as they are, so no text of a file is equal.
+/// A text of the caller in UTF-8. Lone surrogates are kept; no text of a file has them.
 [[nodiscard]] std::string Utf8Of(const py::str& text);
 
 /// "bottomTurn" as Python writes it: "bottom_turn".

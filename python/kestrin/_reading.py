@@ -35,7 +35,7 @@ def _sources(
 def _path_bytes(path: Path) -> bytes:
     name = os.fsencode(path)
     if not name or b"\0" in name:
-        raise ValueError(f"{path!r} is no path")
+        raise ValueError(f"{path!r} is not a path")
     return b"./-" if name == b"-" else name  # alone, it would be standard input
 
 
@@ -67,8 +67,10 @@ def read(
     components on the top and on the bottom turn, bottom_turn the degrees added to the angle of those on the bottom,
     and width_step the unit of widths that are written with digits only, in units of the Traces file.
 
-    strict reads the Traces file by its grammar, too (FileReport.syntax_errors). Raises Error if a file cannot be read to its end; with partial,
-    what was read before is a board all the same, and Board.report says where a reader stopped.
+    strict reads the Traces file by its grammar, too (FileReport.syntax_errors).
+
+    Raises Error if a file cannot be read to its end; with partial, what was read before is a board all the same, and
+    Board.report says where a reader stopped.
 
     Other threads run meanwhile, and Ctrl-C ends it.
     """
