@@ -138,7 +138,7 @@ def test_a_file_that_changes_while_a_set_is_read_is_noticed(large: Path, tmp_pat
     times = iter(range(1_000_000))
     before = signal.signal(signal.SIGVTALRM, lambda *_: os.utime(tech, (0, next(times))))
     try:
-        signal.setitimer(signal.ITIMER_VIRTUAL, 0.01, 0.01)
+        signal.setitimer(signal.ITIMER_VIRTUAL, 0.02)
         board = kestrin.read(large, tech=tech)
     finally:
         signal.setitimer(signal.ITIMER_VIRTUAL, 0)
