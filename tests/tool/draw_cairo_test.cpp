@@ -8,16 +8,17 @@
 #include <cstdlib>
 #include <cstring>
 #include <fstream>
-#include <iterator>
 #include <memory>
 #include <string>
 
 #include "support/temporary_folder.h"
+#include "tests/support/content_of.h"
 #include "tests/support/process.h"
 
 namespace kestrin {
 namespace {
 
+using test::ContentOf;
 using test::RunTool;
 using test::TemporaryFolder;
 
@@ -197,17 +198,14 @@ TEST(DrawCairo, APdfKeepsTextsThatArePerhapsReadOnlyWhenItIsEnlarged) {
   const std::string geometry = folder.File(
       "a.geometry", "$$create_board(B)\n$$page(@mm)\n$$text(SILKSCREEN_1, \"TINY\", 0, 0, 0.2, @BL, 0)\n");
   ASSERT_EQ(RunTool("draw --geometry " + geometry + " -o " + path).status, 0);
-  std::ifstream file(path, std::ios::binary);
-  const std::string pdf((std::istreambuf_iterator<char>(file)), {});
-  EXPECT_NE(pdf.find("/Font"), std::string::npos);
+  EXPECT_NE(ContentOf(path).find("/Font"), std::string::npos);
 }
 
 TEST(DrawCairo, APdfIsAsLargeAsTheBoard) {
   const TemporaryFolder folder;
   const std::string path = folder.Path("a.pdf");
   ASSERT_EQ(RunTool("draw " + kBoard + " --box 0,0,25.4,12.7 -o " + path).status, 0);
-  std::ifstream file(path, std::ios::binary);
-  const std::string pdf((std::istreambuf_iterator<char>(file)), {});
+  const std::string pdf = ContentOf(path);
   EXPECT_EQ(pdf.substr(0, 5), "%PDF-");
   EXPECT_NE(pdf.find("/MediaBox [ 0 0 72 36 ]"), std::string::npos);
 }

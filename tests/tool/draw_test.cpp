@@ -3,26 +3,20 @@
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
 
 #include "support/temporary_folder.h"
+#include "tests/support/content_of.h"
 #include "tests/support/process.h"
 
 namespace kestrin {
 namespace {
 
+using test::ContentOf;
 using test::RunTool;
 using test::TemporaryFolder;
 
 const std::string kBoard = KESTRIN_EXAMPLES "/board";
-
-std::string Content(const std::string& path) {
-  std::ostringstream text;
-  text << std::ifstream(path, std::ios::binary).rdbuf();
-  return text.str();
-}
 
 /// What an XPath expression selects in a file; the program also checks that the file is valid XML.
 std::string Select(const std::string& file, const std::string& expression) {
@@ -30,7 +24,7 @@ std::string Select(const std::string& file, const std::string& expression) {
   const std::string out = folder.Path("out");
   const int status =
       std::system(("xmllint --xpath '" + expression + "' '" + file + "' >" + out + " 2>&1").c_str());
-  std::string selected = Content(out);
+  std::string selected = ContentOf(out);
   if (!selected.empty() && selected.back() == '\n') selected.pop_back();
   return status == 0 ? selected : "status " + std::to_string(status) + ": " + selected;
 }
@@ -215,7 +209,7 @@ TEST(Draw, WrongOptionsEndWith2AndLeaveTheOldPicture) {
     EXPECT_EQ(std::count(result.err.begin(), result.err.end(), '\n'), 1) << result.err;
     EXPECT_NE(result.err.find(c.complaint), std::string::npos) << result.err;
   }
-  EXPECT_EQ(Content(old), "old");
+  EXPECT_EQ(ContentOf(old), "old");
 }
 
 TEST(Draw, NeverLeavesHalfAPicture) {
@@ -223,17 +217,17 @@ TEST(Draw, NeverLeavesHalfAPicture) {
   const std::string old = folder.File("old.svg", "old");
   const std::string draw = KESTRIN_TOOL " draw " + kBoard + " -o " + old + " 2>" + folder.Path("err");
   ASSERT_EQ(std::system(("sh -c \"trap '' XFSZ; ulimit -f 4; exec " + draw + "\"; test $? = 2").c_str()), 0);
-  EXPECT_NE(Content(folder.Path("err")).find("cannot write \"" + old + "\": File too large"),
+  EXPECT_NE(ContentOf(folder.Path("err")).find("cannot write \"" + old + "\": File too large"),
             std::string::npos);
-  EXPECT_EQ(Content(old), "old");
+  EXPECT_EQ(ContentOf(old), "old");
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path()), {}), 2);
 
   std::filesystem::create_symlink(old, folder.Path("link.svg"));
   EXPECT_EQ(RunTool("draw " + kBoard + " -o " + folder.Path("link.svg")).status, 0);
   EXPECT_TRUE(std::filesystem::is_symlink(folder.Path("link.svg")));
-  const std::string first = Content(old);
+  const std::string first = ContentOf(old);
   EXPECT_EQ(RunTool("draw " + kBoard + " -o " + old).status, 0);
-  EXPECT_EQ(Content(old), first) << "equal boards make equal pictures";
+  EXPECT_EQ(ContentOf(old), first) << "equal boards make equal pictures";
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path()), {}), 3);
 }
 

@@ -7,6 +7,7 @@
 #include "kestrin/board/for_each_record.h"
 #include "kestrin/geometry/geometry_model.h"
 #include "tool/diff/wires.h"
+#include "tool/draw/drawings.h"
 #include "tool/draw/scene_layers.h"
 
 namespace kestrin::tool::draw {
@@ -36,11 +37,8 @@ class ChangeLayer {
     if (!component.geometryIndex) return;
     const CMGeomComponent& geometry = *side.models.geometry->m_pComponents->GetAt(*component.geometryIndex);
     ForEachRecord(geometry.m_pPlacementOutlines, [&](const CMGeomPlacementOutline& outline, Index) {
-      std::vector<Point> points;
-      const NumberArray& coordinates = *outline.m_pCoords;
-      for (std::int64_t i = 0; i + 1 < coordinates.GetSize(); i += 2) {
-        points.push_back(Moved(component.transform.Apply({coordinates[i], coordinates[i + 1]}), shift));
-      }
+      std::vector<Point> points = PointsIn(*outline.m_pCoords);
+      for (Point& point : points) point = Moved(component.transform.Apply(point), shift);
       Add({.form = Form::kContour}, Kept(points));
     });
   }

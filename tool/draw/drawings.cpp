@@ -10,12 +10,6 @@
 namespace kestrin::tool::draw {
 namespace {
 
-std::vector<Point> PointsIn(const NumberArray& numbers) {
-  std::vector<Point> points;
-  for (std::int64_t i = 0; i + 1 < numbers.GetSize(); i += 2) points.push_back({numbers[i], numbers[i + 1]});
-  return points;
-}
-
 /// The kinds of drawing objects. An object says by m_sType what it is.
 template <class Action>
 auto Visit(const CMGeomDrawObj& object, Action action) -> decltype(action(CMGeomPath())) {
@@ -47,6 +41,12 @@ Point Turned(const Transform& transform, double x, double y) {
 }
 
 }  // namespace
+
+std::vector<Point> PointsIn(const NumberArray& numbers) {
+  std::vector<Point> points;
+  for (std::int64_t i = 0; i + 1 < numbers.GetSize(); i += 2) points.push_back({numbers[i], numbers[i + 1]});
+  return points;
+}
 
 std::string_view LayerOf(const CMGeomDrawObj& object) {
   return Visit(object, [](const auto& drawn) { return drawn.m_sLayer.View(); });

@@ -71,6 +71,9 @@ class Drawings {
   std::size_t pointsLeft_ = 20'000'000;
 };
 
+/// The points of a coordinate list; a number without a partner is left out.
+[[nodiscard]] std::vector<Point> PointsIn(const NumberArray& numbers);
+
 /// The name of the layer of an object.
 [[nodiscard]] std::string_view LayerOf(const CMGeomDrawObj& object);
 
